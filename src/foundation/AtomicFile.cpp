@@ -1,0 +1,206 @@
+#include "foundation/AtomicFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+Failure systemFailure(const QString &what, const QString &path)
+{
+    return {QStringLiteral("%1 %2: %3").arg(what, path, QString::fromLocal8Bit(std::strerror(errno)))};
+}
+
+/// An open file or folder, closed at the end of its scope.
+class Descriptor
+{
+public:
+    Descriptor(const QString &path, int flags, mode_t mode = 0)
+        : m_fd(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode))
+    {
+    }
+    ~Descriptor()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
+    [[nodiscard]] int fd() const { return m_fd; }
+    [[nodiscard]] bool close() { return ::close(std::exchange(m_fd, -1)) == 0; }
+
+private:
+    int m_fd;
+};
+
+QString stagedPath(const QString &path)
+{
+    return AtomicFile::target(path) + QStringLiteral(".staged");
+}
+
+bool exists(const QString &path)
+{
+    struct stat status;
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+bool remove(const QString &path)
+{
+    return ::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
+}
+
+bool rename(const QString &from, const QString &to)
+{
+    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+bool writeAll(int fd, const QByteArray &bytes)
+{
+    for (qsizetype written = 0; written < bytes.size();) {
+        const ssize_t count = ::write(fd, bytes.constData() + written, size_t(bytes.size() - written));
+        if (count < 0 && errno != EINTR)
+            return false;
+        written += std::max<ssize_t>(count, 0);
+    }
+    return true;
+}
+
+Outcome stage(const AtomicFile::Content &content)
+{
+    const QString path = stagedPath(content.path);
+    Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (!file.isOpen() || !writeAll(file.fd(), content.bytes) || ::fsync(file.fd()) != 0 || !file.close())
+        return systemFailure(QStringLiteral("cannot write"), path);
+    return Done{};
+}
+
+Outcome syncFoldersOf(const QStringList &paths)
+{
+    QStringList folders;
+    for (const QString &path : paths)
+        folders.append(QFileInfo(AtomicFile::target(path)).absolutePath());
+    folders.removeDuplicates();
+    for (const QString &folder : std::as_const(folders)) {
+        const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+        // Some file systems know no sync of a folder and say so; there is nothing to be done about it.
+        if (!descriptor.isOpen() || (::fsync(descriptor.fd()) != 0 && errno != EINVAL))
+            return systemFailure(QStringLiteral("cannot sync"), folder);
+    }
+    return Done{};
+}
+
+/// The last first: a half-written later file must never stand alone and look like a commit.
+Outcome discardStaged(const QStringList &paths)
+{
+    for (auto path = paths.crbegin(); path != paths.crend(); ++path) {
+        if (!remove(stagedPath(*path)))
+            return systemFailure(QStringLiteral("cannot remove"), stagedPath(*path));
+    }
+    return Done{};
+}
+
+Outcome renameStaged(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        if (exists(stagedPath(path)) && !rename(stagedPath(path), AtomicFile::target(path)))
+            return systemFailure(QStringLiteral("cannot replace"), AtomicFile::target(path));
+    }
+    return syncFoldersOf(paths);
+}
+} // namespace
+
+QString AtomicFile::target(const QString &path)
+{
+    QString current = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    for (int links = 0; links < 40; ++links) { // as many as the kernel follows
+        const QString next = QFile::symLinkTarget(current);
+        if (next.isEmpty())
+            return current;
+        current = QDir::cleanPath(next);
+    }
+    return current;
+}
+
+Outcome AtomicFile::createFolder(const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return Done{};
+    const QString parent = QFileInfo(path).absolutePath();
+    if (parent != path) {
+        if (Outcome above = createFolder(parent); !above)
+            return above;
+    }
+    if (::mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0 && errno != EEXIST)
+        return systemFailure(QStringLiteral("cannot create"), path);
+    // Something that is no folder may stand there; say so now rather than at the first file.
+    if (!QFileInfo(path).isDir()) {
+        errno = ENOTDIR;
+        return systemFailure(QStringLiteral("cannot create"), path);
+    }
+    return Done{};
+}
+
+Outcome AtomicFile::recover(const QStringList &paths)
+{
+    const auto isStaged = [](const QString &path) { return exists(stagedPath(path)); };
+    if (std::none_of(paths.begin(), paths.end(), isStaged))
+        return Done{};
+    const bool renamingHadBegun = !isStaged(paths.first());
+    return renamingHadBegun ? renameStaged(paths) : discardStaged(paths);
+}
+
+Outcome AtomicFile::replace(const QList<Content> &contents)
+{
+    QStringList paths;
+    for (const Content &content : contents)
+        paths.append(content.path);
+
+    // A commit whose renaming failed half-way must be complete before its staged files are written over.
+    if (Outcome earlier = recover(paths); !earlier)
+        return earlier;
+    for (const Content &content : contents) {
+        if (Outcome staged = stage(content); !staged) {
+            if (!discardStaged(paths))
+                return Failure{staged.message() + QStringLiteral(" (and cannot remove what was staged)")};
+            return staged;
+        }
+    }
+    if (Outcome synced = syncFoldersOf(paths); !synced) {
+        if (!discardStaged(paths))
+            return Failure{synced.message() + QStringLiteral(" (and cannot remove what was staged)")};
+        return synced;
+    }
+    return renameStaged(paths);
+}
+
+Result<std::optional<QByteArray>> AtomicFile::read(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = file.readAll();
+        if (file.error() == QFileDevice::NoError)
+            return std::optional(bytes);
+    } else if (!exists(target(path))) {
+        return std::optional<QByteArray>();
+    }
+    return Failure{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
+}
+
+Outcome AtomicFile::keepAside(const QString &path, const QString &suffix)
+{
+    const QString from = target(path);
+    QString to = from + suffix;
+    for (int number = 2; exists(to); ++number)
+        to = from + suffix + QStringLiteral("-%1").arg(number);
+    if (!rename(from, to))
+        return systemFailure(QStringLiteral("cannot keep aside"), from);
+    return Done{};
+}

@@ -1,0 +1,119 @@
+#include "foundation/Calendar.h"
+
+#include <unicode/basictz.h>
+#include <unicode/tztrans.h>
+
+using namespace std::chrono;
+
+struct Calendar::Zone {
+    std::unique_ptr<const icu::BasicTimeZone> icuZone;
+
+    static std::shared_ptr<const Zone> adopt(icu::TimeZone *zone)
+    {
+        // Every zone that ICU makes is a BasicTimeZone; the class only exists apart for binary compatibility.
+        auto *basic = dynamic_cast<icu::BasicTimeZone *>(zone);
+        Q_ASSERT(basic);
+        return std::make_shared<Zone>(Zone{std::unique_ptr<const icu::BasicTimeZone>(basic)});
+    }
+};
+
+Calendar::Calendar(std::shared_ptr<const Zone> zone)
+    : m_zone(std::move(zone))
+{
+}
+
+Calendar::Calendar(const QByteArray &timeZoneID)
+    : Calendar(
+        Zone::adopt(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(timeZoneID.toStdString()))))
+{
+}
+
+Calendar Calendar::system()
+{
+    // ICU's own default is read once per process; this follows the machine.
+    return Calendar(Zone::adopt(icu::TimeZone::detectHostTimeZone()));
+}
+
+QByteArray Calendar::timeZoneID() const
+{
+    icu::UnicodeString id;
+    m_zone->icuZone->getID(id);
+    std::string utf8;
+    id.toUTF8String(utf8);
+    return QByteArray::fromStdString(utf8);
+}
+
+milliseconds Calendar::offsetAt(Instant instant) const
+{
+    int32_t raw = 0;
+    int32_t daylightSaving = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    m_zone->icuZone->getOffset(UDate(instant.time_since_epoch().count()), false, raw, daylightSaving, status);
+    Q_ASSERT(U_SUCCESS(status));
+    return milliseconds(raw + daylightSaving);
+}
+
+Calendar::LocalTime Calendar::toLocal(Instant instant) const
+{
+    return LocalTime(instant.time_since_epoch() + offsetAt(instant));
+}
+
+Instant Calendar::fromLocal(LocalTime local) const
+{
+    int32_t raw = 0;
+    int32_t daylightSaving = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    m_zone->icuZone->getOffsetFromLocal(UDate(local.time_since_epoch().count()), UCAL_TZ_LOCAL_FORMER,
+        UCAL_TZ_LOCAL_FORMER, raw, daylightSaving, status);
+    Q_ASSERT(U_SUCCESS(status));
+    const milliseconds former(raw + daylightSaving);
+    const Instant instant(local.time_since_epoch() - former);
+    if (offsetAt(instant) == former)
+        return instant;
+    // The wall time was skipped: the offset before the gap leads past its end, which is the next existing
+    // moment.
+    icu::TimeZoneTransition gap;
+    if (m_zone->icuZone->getPreviousTransition(UDate(instant.time_since_epoch().count()), true, gap))
+        return Instant(milliseconds(qint64(gap.getTime())));
+    return instant;
+}
+
+Calendar::Day Calendar::day(Instant instant) const
+{
+    return Day(floor<days>(toLocal(instant)));
+}
+
+Calendar::TimeOfDay Calendar::timeOfDay(Instant instant) const
+{
+    const LocalTime local = toLocal(instant);
+    const hh_mm_ss time(local - floor<days>(local));
+    return {int(time.hours().count()), int(time.minutes().count())};
+}
+
+Instant Calendar::startOfDay(Day day) const
+{
+    return fromLocal(LocalTime(local_days(day)));
+}
+
+Instant Calendar::startOfMinute(Instant instant) const
+{
+    const LocalTime local = toLocal(instant);
+    return instant - (local - floor<minutes>(local));
+}
+
+std::optional<Instant> Calendar::instant(Day day, TimeOfDay time) const
+{
+    if (!day.ok() || time.hour < 0 || time.hour > 23 || time.minute < 0 || time.minute > 59)
+        return std::nullopt;
+    return fromLocal(LocalTime(local_days(day) + hours(time.hour) + minutes(time.minute)));
+}
+
+Instant Calendar::addingDays(Instant instant, int count) const
+{
+    return fromLocal(toLocal(instant) + days(count));
+}
+
+int Calendar::daysBetween(Instant from, Instant to) const
+{
+    return int((local_days(day(to)) - local_days(day(from))).count());
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "foundation/Instant.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <optional>
+
+/// The date form of the data files: an RFC 3339 date-time with whole seconds, "2024-05-01T08:30:00Z".
+namespace InternetDateTime {
+/// In UTC; a fraction of a second is dropped, towards the past.
+[[nodiscard]] QByteArray format(Instant instant);
+
+/// Accepts "Z" or an offset "+08:00". A fraction, a missing zone or any other form is refused.
+[[nodiscard]] std::optional<Instant> parse(QByteArrayView text);
+} // namespace InternetDateTime

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/TextRange.h"
+
+#include <QString>
+#include <QVarLengthArray>
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+/// A regular expression in ICU syntax over UTF-16, where \d, \s and \b know all of Unicode.
+///
+/// Compiled on first use and then shared read-only. A pattern that does not compile matches nothing, and so
+/// does a search that runs over its limit of time: no text may hold up the program.
+class Regex
+{
+public:
+    enum class Case { Sensitive, Insensitive };
+
+    /// What one match captured; group 0 is the whole match.
+    class Match
+    {
+    public:
+        /// Nothing when the group took no part in the match.
+        [[nodiscard]] std::optional<TextRange> group(int number) const;
+        [[nodiscard]] TextRange range() const { return m_groups.front(); }
+
+    private:
+        friend class Regex;
+        QVarLengthArray<TextRange, 6> m_groups;
+    };
+
+    Regex()
+        : Regex(QString())
+    {
+    } ///< matches nothing
+    explicit Regex(QString pattern, Case caseRule = Case::Sensitive);
+    ~Regex();
+    Regex(const Regex &) = delete;
+    Regex &operator=(const Regex &) = delete;
+
+    [[nodiscard]] const QString &pattern() const { return m_pattern; }
+    [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
+    /// From left to right, not overlapping.
+    [[nodiscard]] std::vector<Match> allMatches(QStringView text) const;
+    [[nodiscard]] bool matchesIn(QStringView text) const { return firstMatch(text).has_value(); }
+
+private:
+    struct Compiled;
+    [[nodiscard]] const Compiled &compiled() const;
+    void search(QStringView text, bool onlyFirst, std::vector<Match> &matches) const;
+
+    QString m_pattern;
+    Case m_case;
+    mutable std::once_flag m_once;
+    mutable std::unique_ptr<Compiled> m_compiled;
+};

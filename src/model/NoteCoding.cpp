@@ -1,0 +1,201 @@
+#include "model/NoteCoding.h"
+
+#include "foundation/InternetDateTime.h"
+#include "model/JsonWriter.h"
+
+#include <QUrl>
+
+#include <simdjson.h>
+
+namespace dom = simdjson::dom;
+
+namespace {
+QByteArray uuidText(QUuid id)
+{
+    return id.toByteArray(QUuid::WithoutBraces).toUpper();
+}
+
+/// Exactly the 36 characters of the canonical form, in either case.
+std::optional<QUuid> parseUuid(std::string_view text)
+{
+    if (text.size() != 36)
+        return std::nullopt;
+    QByteArray hex;
+    hex.reserve(32);
+    for (size_t i = 0; i < text.size(); ++i) {
+        const bool isDash = i == 8 || i == 13 || i == 18 || i == 23;
+        if (isDash != (text[i] == '-') || (!isDash && !std::isxdigit(static_cast<unsigned char>(text[i]))))
+            return std::nullopt;
+        if (!isDash)
+            hex.append(text[i]);
+    }
+    return QUuid::fromRfc4122(QByteArray::fromHex(hex));
+}
+
+// Each reads one value into its place and tells whether it could.
+
+bool read(dom::element value, QString &place)
+{
+    std::string_view text;
+    if (value.get(text) != simdjson::SUCCESS)
+        return false;
+    place = QString::fromUtf8(text.data(), qsizetype(text.size()));
+    return true;
+}
+
+bool read(dom::element value, QUuid &place)
+{
+    std::string_view text;
+    if (value.get(text) != simdjson::SUCCESS)
+        return false;
+    const auto id = parseUuid(text);
+    place = id.value_or(QUuid());
+    return id.has_value();
+}
+
+bool read(dom::element value, Instant &place)
+{
+    std::string_view text;
+    if (value.get(text) != simdjson::SUCCESS)
+        return false;
+    const auto instant = InternetDateTime::parse({text.data(), qsizetype(text.size())});
+    place = instant.value_or(Instant());
+    return instant.has_value();
+}
+
+template <typename T>
+bool read(dom::element value, std::optional<T> &place)
+{
+    if (value.is_null()) {
+        place.reset();
+        return true;
+    }
+    return read(value, place.emplace());
+}
+
+bool isAddress(const std::optional<QString> &link)
+{
+    return !link || QUrl(*link).isValid();
+}
+
+bool read(dom::object object, Note &note)
+{
+    bool hasID = false;
+    bool hasText = false;
+    bool hasCreatedAt = false;
+    for (const auto &[key, value] : object) {
+        bool isGood = true;
+        if (key == "id")
+            isGood = hasID = read(value, note.id);
+        else if (key == "text")
+            isGood = hasText = read(value, note.text);
+        else if (key == "createdAt")
+            isGood = hasCreatedAt = read(value, note.createdAt);
+        else if (key == "quote")
+            isGood = read(value, note.quote);
+        else if (key == "quoteID")
+            isGood = read(value, note.quoteID);
+        else if (key == "link")
+            isGood = read(value, note.link) && isAddress(note.link);
+        if (!isGood)
+            return false;
+    }
+    return hasID && hasText && hasCreatedAt;
+}
+
+bool read(dom::object object, Reminder &reminder)
+{
+    bool hasID = false;
+    bool hasNoteID = false;
+    bool hasText = false;
+    bool hasFullText = false;
+    bool hasFireAt = false;
+    bool hasCreatedAt = false;
+    for (const auto &[key, value] : object) {
+        bool isGood = true;
+        if (key == "id")
+            isGood = hasID = read(value, reminder.id);
+        else if (key == "noteID")
+            isGood = hasNoteID = read(value, reminder.noteID);
+        else if (key == "text")
+            isGood = hasText = read(value, reminder.text);
+        else if (key == "fullText")
+            isGood = hasFullText = read(value, reminder.fullText);
+        else if (key == "fireAt")
+            isGood = hasFireAt = read(value, reminder.fireAt);
+        else if (key == "createdAt")
+            isGood = hasCreatedAt = read(value, reminder.createdAt);
+        if (!isGood)
+            return false;
+    }
+    return hasID && hasNoteID && hasText && hasFullText && hasFireAt && hasCreatedAt;
+}
+
+template <typename Record>
+Result<QList<Record>> decode(QByteArrayView bytes)
+{
+    dom::parser parser;
+    dom::array array;
+    // simdjson skips a byte order mark, which our form does not have.
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        return Failure{QStringLiteral("the text begins with a byte order mark")};
+    if (const auto error = parser.parse(bytes.data(), size_t(bytes.size())).get(array))
+        return Failure{QString::fromLatin1(simdjson::error_message(error))};
+
+    QList<Record> records;
+    records.reserve(qsizetype(array.size()));
+    for (const dom::element element : array) {
+        dom::object object;
+        Record record;
+        if (element.get(object) != simdjson::SUCCESS || !read(object, record))
+            return Failure{QStringLiteral("element %1 is not as it should be").arg(records.size())};
+        records.append(std::move(record));
+    }
+    return records;
+}
+} // namespace
+
+QByteArray noteEncoder::encode(const QList<Note> &notes)
+{
+    JsonWriter writer;
+    for (const Note &note : notes) {
+        writer.beginObject();
+        writer.addRaw("createdAt", InternetDateTime::format(note.createdAt));
+        writer.addRaw("id", uuidText(note.id));
+        if (note.link)
+            writer.add("link", *note.link);
+        if (note.quote)
+            writer.add("quote", *note.quote);
+        if (note.quoteID)
+            writer.addRaw("quoteID", uuidText(*note.quoteID));
+        writer.add("text", note.text);
+        writer.endObject();
+    }
+    return writer.finish();
+}
+
+QByteArray noteEncoder::encode(const QList<Reminder> &reminders)
+{
+    JsonWriter writer;
+    for (const Reminder &reminder : reminders) {
+        writer.beginObject();
+        writer.addRaw("createdAt", InternetDateTime::format(reminder.createdAt));
+        writer.addRaw("fireAt", InternetDateTime::format(reminder.fireAt));
+        writer.add("fullText", reminder.fullText);
+        writer.addRaw("id", uuidText(reminder.id));
+        writer.addRaw("noteID", uuidText(reminder.noteID));
+        writer.add("text", reminder.text);
+        writer.endObject();
+    }
+    return writer.finish();
+}
+
+Result<QList<Note>> noteDecoder::decodeNotes(QByteArrayView bytes)
+{
+    return decode<Note>(bytes);
+}
+
+Result<QList<Reminder>> noteDecoder::decodeReminders(QByteArrayView bytes)
+{
+    return decode<Reminder>(bytes);
+}

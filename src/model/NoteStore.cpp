@@ -1,0 +1,228 @@
+#include "model/NoteStore.h"
+
+#include "foundation/CaseFolding.h"
+#include "foundation/Log.h"
+#include "model/AppPaths.h"
+#include "model/NoteCoding.h"
+#include "model/ReminderStore.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+constexpr qsizetype notesFile = 0;
+constexpr qsizetype trashFile = 1;
+
+QStringList filePaths(const QString &notesPath)
+{
+    return {notesPath, QFileInfo(notesPath).path() + QStringLiteral("/trash.json")};
+}
+
+auto withID(QUuid id)
+{
+    return [id](const Note &note) { return note.id == id; };
+}
+
+void sortNewestFirst(QList<Note> &notes)
+{
+    std::stable_sort(
+        notes.begin(), notes.end(), [](const Note &a, const Note &b) { return a.createdAt > b.createdAt; });
+}
+} // namespace
+
+NoteStore::NoteStore(const QString &filePath, const Clock &clock, QObject *parent)
+    : QObject(parent)
+    , m_files(filePaths(filePath))
+    , m_clock(clock)
+{
+    load();
+}
+
+NoteStore::~NoteStore() = default;
+
+QString NoteStore::defaultFilePath()
+{
+    return AppPaths::defaultFile(QStringLiteral("notes.json"));
+}
+
+void NoteStore::setReminderStore(ReminderStore *store)
+{
+    m_reminderStore = store;
+}
+
+void NoteStore::load()
+{
+    m_files.recover();
+    const auto decodeInto = [](QList<Note> &place) {
+        return [&place](const QByteArray &bytes) {
+            auto decoded = noteDecoder::decodeNotes(bytes);
+            if (decoded)
+                place = std::move(decoded.value());
+            return decoded.hasValue();
+        };
+    };
+    m_files.load(notesFile, decodeInto(m_notes));
+    m_files.load(trashFile, decodeInto(m_trash));
+    sortNewestFirst(m_notes);
+}
+
+void NoteStore::publishAndSave()
+{
+    Q_EMIT notesChanged();
+    const Outcome saved =
+        m_files.save({noteEncoder::encode(m_notes), noteEncoder::encode(m_trash)}, m_clock.now());
+    if (!saved)
+        Log::line(QStringLiteral("failed to save notes: ") + saved.message());
+}
+
+void NoteStore::dropDerived(QUuid id)
+{
+    m_foldedTexts.drop(id);
+}
+
+std::optional<Note> NoteStore::note(QUuid id) const
+{
+    const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
+    return found == m_notes.end() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<Note> NoteStore::add(const QString &text, const std::optional<Note> &quoting,
+    const std::optional<QString> &link, const std::optional<ParsedReminder> &reminder)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty())
+        return std::nullopt;
+    Note note{QUuid::createUuid(), trimmed, {}, {}, link, m_clock.now()};
+    if (quoting) {
+        note.quote = quoting->text;
+        note.quoteID = quoting->id;
+    }
+    m_notes.prepend(note);
+    dropDerived(note.id);
+    publishAndSave();
+    if (reminder && m_reminderStore)
+        m_reminderStore->schedule(note.id, reminder->fireAt, reminder->content, trimmed);
+    return note;
+}
+
+void NoteStore::update(QUuid id, const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
+    if (trimmed.isEmpty() || found == m_notes.end())
+        return;
+    found->text = trimmed;
+    dropDerived(id);
+    publishAndSave();
+}
+
+void NoteStore::applyLinkTitle(const QString &title, QUuid id, const QString &expected)
+{
+    const std::optional<Note> current = note(id);
+    if (current && current->text == expected)
+        update(id, title);
+}
+
+void NoteStore::remove(QUuid id)
+{
+    const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
+    if (found == m_notes.end())
+        return;
+    m_trash.prepend(*found);
+    m_notes.erase(found);
+    dropDerived(id);
+    if (m_reminderStore)
+        m_reminderStore->cancelForNote(id);
+    publishAndSave();
+}
+
+void NoteStore::restore(QUuid id)
+{
+    const auto found = std::find_if(m_trash.begin(), m_trash.end(), withID(id));
+    if (found == m_trash.end())
+        return;
+    const Note note = *found;
+    m_trash.erase(found);
+    const auto earlier = std::find_if(m_notes.begin(), m_notes.end(),
+        [&note](const Note &other) { return other.createdAt < note.createdAt; });
+    m_notes.insert(earlier, note);
+    publishAndSave();
+}
+
+void NoteStore::emptyTrash()
+{
+    if (m_trash.isEmpty())
+        return;
+    m_trash.clear();
+    publishAndSave();
+}
+
+std::optional<Note> NoteStore::latestReply(QUuid id) const
+{
+    const auto found =
+        std::find_if(m_notes.begin(), m_notes.end(), [id](const Note &note) { return note.quoteID == id; });
+    return found == m_notes.end() ? std::nullopt : std::optional(*found);
+}
+
+qsizetype NoteStore::importNotes(const QList<Note> &incoming)
+{
+    QSet<QUuid> known;
+    for (const QList<Note> &list : {m_notes, m_trash}) {
+        for (const Note &note : list)
+            known.insert(note.id);
+    }
+    QList<Note> added;
+    for (const Note &note : incoming) {
+        if (!known.contains(note.id)) {
+            known.insert(note.id);
+            added.append(note);
+        }
+    }
+    if (added.isEmpty())
+        return 0;
+    m_notes += added;
+    sortNewestFirst(m_notes);
+    publishAndSave();
+    return added.size();
+}
+
+QList<DaySection> NoteStore::groupByDay(const QList<Note> &notes, const Calendar &calendar)
+{
+    QList<DaySection> sections;
+    QHash<qint64, qsizetype> indexOfDay;
+    for (const Note &note : notes) {
+        const Instant day = calendar.startOfDay(note.createdAt);
+        const qint64 key = day.time_since_epoch().count();
+        const auto found = indexOfDay.constFind(key);
+        if (found != indexOfDay.cend()) {
+            sections[*found].notes.append(note);
+        } else {
+            indexOfDay.insert(key, sections.size());
+            sections.append({day, {note}});
+        }
+    }
+    return sections;
+}
+
+QList<DaySection> NoteStore::daySections(const QString &query) const
+{
+    const QString trimmed = query.trimmed();
+    if (trimmed.isEmpty())
+        return groupByDay(m_notes, m_clock.calendar());
+    const QString folded = CaseFolding::folded(trimmed);
+    QList<Note> found;
+    for (const Note &note : m_notes) {
+        if (m_foldedTexts.contains(note.id, note.text, folded))
+            found.append(note);
+    }
+    return groupByDay(found, m_clock.calendar());
+}
+
+QList<DaySection> NoteStore::trashDaySections() const
+{
+    QList<Note> sorted = m_trash;
+    sortNewestFirst(sorted);
+    return groupByDay(sorted, m_clock.calendar());
+}

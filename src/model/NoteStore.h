@@ -1,0 +1,74 @@
+#pragma once
+
+#include "foundation/Clock.h"
+#include "model/DataFiles.h"
+#include "model/DaySection.h"
+#include "model/Note.h"
+#include "reminders/ParsedReminder.h"
+#include "search/FoldedTextIndex.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QUuid>
+
+#include <optional>
+
+class ReminderStore;
+
+/// Owns the notes and the trash, and saves both files after every change. UI thread only.
+///
+/// An id occurs once across notes and trash. Texts are trimmed as they come in; an empty one is refused
+/// silently, and an operation given an unknown id does nothing.
+class NoteStore final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Loads notes and, beside them, trash.json. The clock must outlive the store.
+    NoteStore(const QString &filePath, const Clock &clock, QObject *parent = nullptr);
+    ~NoteStore() override;
+
+    [[nodiscard]] static QString defaultFilePath();
+    /// Without one, reminder work is skipped.
+    void setReminderStore(ReminderStore *store);
+
+    [[nodiscard]] const QList<Note> &notes() const { return m_notes; } ///< newest first
+    [[nodiscard]] const QList<Note> &trash() const { return m_trash; } ///< the last deleted first
+    [[nodiscard]] std::optional<Note> note(QUuid id) const;            ///< a live one
+
+    /// Nothing when the text is empty. A reminder that is not in the future is dropped.
+    std::optional<Note> add(const QString &text, const std::optional<Note> &quoting = {},
+        const std::optional<QString> &link = {}, const std::optional<ParsedReminder> &reminder = {});
+    void update(QUuid id, const QString &text);
+    /// Only while the note still reads as @p expected: an edit meanwhile is not overwritten.
+    void applyLinkTitle(const QString &title, QUuid id, const QString &expected);
+    void remove(QUuid id); ///< to the trash; its reminders are cancelled
+    void restore(QUuid id);
+    void emptyTrash();
+    [[nodiscard]] std::optional<Note> latestReply(QUuid id) const;
+    /// Adds the notes whose id is in neither list, and tells how many these were.
+    qsizetype importNotes(const QList<Note> &incoming);
+
+    /// One section for each day, both in the order given.
+    [[nodiscard]] static QList<DaySection> groupByDay(const QList<Note> &notes, const Calendar &calendar);
+    /// The live notes that contain the query, case aside; all of them when it is blank.
+    [[nodiscard]] QList<DaySection> daySections(const QString &query) const;
+    /// By the day the notes were written, the newest first.
+    [[nodiscard]] QList<DaySection> trashDaySections() const;
+
+Q_SIGNALS:
+    void notesChanged(); ///< notes or trash have changed and are about to be saved
+
+private:
+    void load();
+    void publishAndSave();
+    void dropDerived(QUuid id); ///< what is kept about a note's text
+
+    DataFiles m_files;
+    const Clock &m_clock;
+    QPointer<ReminderStore> m_reminderStore;
+    QList<Note> m_notes;
+    QList<Note> m_trash;
+    mutable FoldedTextIndex m_foldedTexts;
+};

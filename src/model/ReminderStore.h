@@ -1,0 +1,61 @@
+#pragma once
+
+#include "foundation/Clock.h"
+#include "model/DataFiles.h"
+#include "model/NotificationScheduling.h"
+#include "model/Reminder.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QUuid>
+
+#include <optional>
+
+/// Owns the pending reminders and hands each one to the notification service. UI thread only.
+class ReminderStore final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Loads the file and submits what is still to come. Service and clock must outlive the store.
+    ReminderStore(const QString &filePath, NotificationScheduling &scheduler, const Clock &clock,
+        QObject *parent = nullptr);
+    ~ReminderStore() override;
+
+    [[nodiscard]] static QString defaultFilePath();
+    /// The store that was made last, while it exists.
+    [[nodiscard]] static ReminderStore *active() { return s_active; }
+
+    [[nodiscard]] const QList<Reminder> &reminders() const { return m_reminders; } ///< earliest first
+    [[nodiscard]] AuthorizationStatus authorizationStatus() const { return m_authorizationStatus; }
+
+    /// Nothing when @p fireAt is not in the future. A note may have several reminders.
+    std::optional<Reminder> schedule(
+        QUuid noteID, Instant fireAt, const QString &text, const QString &fullText);
+    void cancel(QUuid id);            ///< an unknown id changes nothing
+    void cancelForNote(QUuid noteID); ///< all reminders of the note
+    /// Drops the reminders whose time has come; keeps them all while notifications are not allowed.
+    void pruneExpired();
+    void refreshAuthorizationStatus();
+
+    [[nodiscard]] bool hasReminder(QUuid noteID) const { return reminder(noteID).has_value(); }
+    [[nodiscard]] std::optional<Reminder> reminder(QUuid noteID) const; ///< the note's earliest
+
+Q_SIGNALS:
+    void remindersChanged(); ///< after the list has changed, before it is saved
+    void authorizationStatusChanged();
+
+private:
+    void load();
+    void save();
+    void submitNotification(const Reminder &reminder);
+
+    static QPointer<ReminderStore> s_active;
+
+    DataFiles m_files;
+    NotificationScheduling &m_scheduler;
+    const Clock &m_clock;
+    QList<Reminder> m_reminders;
+    AuthorizationStatus m_authorizationStatus = AuthorizationStatus::NotDetermined;
+};

@@ -1,0 +1,103 @@
+#include "foundation/Calendar.h"
+#include "foundation/InternetDateTime.h"
+#include "support/TestClock.h"
+
+#include <QTest>
+
+using namespace std::chrono;
+
+class CalendarTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wall_times_that_are_skipped_or_repeated_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QString>("day");
+        QTest::addColumn<int>("hour");
+        QTest::addColumn<int>("minute");
+        QTest::addColumn<QByteArray>("expected"); // empty: there is no such moment
+
+        const auto row = [](const char *name, const char *zone, const char *day, int hour, int minute,
+                             const char *expected) {
+            QTest::newRow(name) << QByteArray(zone) << QString::fromLatin1(day) << hour << minute
+                                << QByteArray(expected);
+        };
+        row("an ordinary time", "Asia/Shanghai", "2026-03-03", 15, 0, "2026-03-03T07:00:00Z");
+        row("02:30 is skipped in Berlin", "Europe/Berlin", "2026-03-29", 2, 30, "2026-03-29T01:00:00Z");
+        row("02:30 comes twice in Berlin", "Europe/Berlin", "2026-10-25", 2, 30, "2026-10-25T00:30:00Z");
+        row("a day that starts at 01:00", "Africa/Cairo", "2026-04-24", 0, 0, "2026-04-23T22:00:00Z");
+        row("half an hour skipped", "Australia/Lord_Howe", "2026-10-04", 2, 10, "2026-10-03T15:30:00Z");
+        row("30 February", "UTC", "2026-02-30", 9, 0, "");
+        row("24:00", "UTC", "2026-03-03", 24, 0, "");
+        row("09:60", "UTC", "2026-03-03", 9, 60, "");
+        row("an unknown zone is UTC", "Mars/Olympus", "2026-03-03", 9, 0, "2026-03-03T09:00:00Z");
+    }
+    void wall_times_that_are_skipped_or_repeated()
+    {
+        QFETCH(QByteArray, zone);
+        QFETCH(QString, day);
+        QFETCH(int, hour);
+        QFETCH(int, minute);
+        QFETCH(QByteArray, expected);
+        const QStringList parts = day.split(u'-');
+        const Calendar::Day date{
+            year(parts[0].toInt()), month(parts[1].toUInt()), std::chrono::day(parts[2].toUInt())};
+        const auto instant = Calendar(zone).instant(date, {hour, minute});
+        QCOMPARE(instant ? InternetDateTime::format(*instant) : QByteArray(), expected);
+    }
+
+    void days_are_counted_between_their_starts()
+    {
+        const Calendar berlin("Europe/Berlin");
+        QCOMPARE(berlin.daysBetween(at("2026-03-28T22:59:00Z"), at("2026-03-29T21:59:00Z")),
+            1); // a day of 23 hours
+        QCOMPARE(
+            berlin.daysBetween(at("2026-10-24T22:00:00Z"), at("2026-10-25T22:59:00Z")), 0); // and one of 25
+        QCOMPARE(berlin.daysBetween(at("2026-03-02T23:00:00Z"), at("2026-03-02T22:59:00Z")), -1);
+        QCOMPARE(
+            berlin.addingDays(at("2026-03-28T01:30:00Z"), 1), at("2026-03-29T01:00:00Z")); // 02:30 is skipped
+    }
+
+    void internet_date_times_are_read_strictly_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("expected"); // empty: refused
+        const auto row = [](const char *text, const char *expected) {
+            QTest::newRow(text) << QByteArray(text) << QByteArray(expected);
+        };
+        row("2024-05-01T08:30:00Z", "2024-05-01T08:30:00Z");
+        row("2024-05-01T08:30:00+08:00", "2024-05-01T00:30:00Z");
+        row("2024-02-29T00:00:00-00:30", "2024-02-29T00:30:00Z");
+        row("2023-02-29T00:00:00Z", "");
+        row("2024-05-01T08:30:00.5Z", "");
+        row("2024-05-01T08:30:00", "");
+        row("2024-05-01", "");
+        row("2024-05-01 08:30:00Z", "");
+        row("2024-05-01t08:30:00z", "");
+        row("2024-05-01T24:00:00Z", "");
+        row("2024-05-01T08:30:60Z", "");
+        row("2024-05-01T08:30:00+0800", "");
+        row("2024-05-01T08:30:00+24:00", "");
+        row("2024-05-01T08:30:00Zjunk", "");
+        row("+024-05-01T08:30:00Z", "");
+        row("", "");
+    }
+    void internet_date_times_are_read_strictly()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, expected);
+        const auto instant = InternetDateTime::parse(text);
+        QCOMPARE(instant ? InternetDateTime::format(*instant) : QByteArray(), expected);
+    }
+
+    void a_fraction_is_dropped_towards_the_past()
+    {
+        QCOMPARE(InternetDateTime::format(at("2024-05-01T08:30:00Z") + 999ms), "2024-05-01T08:30:00Z");
+        QCOMPARE(InternetDateTime::format(at("1969-12-31T23:59:59Z") + 1ms), "1969-12-31T23:59:59Z");
+    }
+};
+
+QTEST_APPLESS_MAIN(CalendarTest)
+#include "tst_calendar.moc"

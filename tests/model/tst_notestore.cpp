@@ -1,0 +1,238 @@
+// now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "model/AppPaths.h"
+#include "model/NoteCoding.h"
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "support/RecordingScheduler.h"
+#include "support/TestClock.h"
+#include "support/TestFiles.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class NoteStoreTest final : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    TestClock m_clock{"2026-03-02T02:00:00Z"};
+
+    QString path(const QString &name) const { return m_folder->filePath(u"Quillet/"_s + name); }
+    QString notesPath() const { return path(u"notes.json"_s); }
+    std::unique_ptr<NoteStore> store() { return std::make_unique<NoteStore>(notesPath(), m_clock); }
+
+    static QStringList texts(const QList<Note> &notes)
+    {
+        QStringList result;
+        for (const Note &note : notes)
+            result.append(note.text);
+        return result;
+    }
+    QStringList savedTexts(const QString &name) const
+    {
+        return texts(noteDecoder::decodeNotes(readFile(path(name))).value());
+    }
+    static Note note(const char *text, const char *createdAt)
+    {
+        return {QUuid::createUuid(), QString::fromUtf8(text), {}, {}, {}, at(createdAt)};
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_clock.set("2026-03-02T02:00:00Z");
+    }
+
+    void a_note_is_trimmed_announced_saved_and_found_again()
+    {
+        const auto notes = store();
+        QSignalSpy changed(notes.get(), &NoteStore::notesChanged);
+        bool wasSavedWhenAnnounced = true;
+        connect(notes.get(), &NoteStore::notesChanged, this,
+            [&] { wasSavedWhenAnnounced = QFile::exists(notesPath()); });
+
+        QVERIFY(!notes->add(u" \u3000\n"_s));
+        QVERIFY(!QFile::exists(notesPath()));
+        const auto added = notes->add(u"  买牛奶 \n"_s);
+        QVERIFY(added);
+        QVERIFY(!wasSavedWhenAnnounced);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(savedTexts(u"notes.json"_s), QStringList{u"买牛奶"_s});
+        QCOMPARE(readFile(path(u"trash.json"_s)), "[\n\n]");
+        QCOMPARE(store()->notes(), QList<Note>{*added});
+    }
+
+    void an_edit_keeps_everything_but_the_text()
+    {
+        const auto notes = store();
+        const Note quoted = *notes->add(u"第一"_s);
+        m_clock.advance(std::chrono::minutes(1));
+        const Note reply = *notes->add(u"第二"_s, quoted, u"https://a.example/"_s);
+        notes->update(quoted.id, u" 改 "_s);
+        notes->update(reply.id, u" "_s);
+        notes->update(QUuid::createUuid(), u"x"_s);
+        QCOMPARE(texts(notes->notes()), (QStringList{u"第二"_s, u"改"_s}));
+        QCOMPARE(notes->notes().first().quote, u"第一"_s); // as it was when the reply was written
+        QCOMPARE(notes->latestReply(quoted.id), reply);
+
+        notes->applyLinkTitle(u"标题"_s, reply.id, u"另一"_s);
+        QCOMPARE(notes->notes().first().text, u"第二"_s);
+        notes->applyLinkTitle(u"标题"_s, reply.id, u"第二"_s);
+        QCOMPARE(notes->notes().first().text, u"标题"_s);
+        QCOMPARE(notes->notes().first().link, u"https://a.example/"_s);
+    }
+
+    void a_note_goes_to_the_trash_and_back_to_its_place()
+    {
+        const auto notes = store();
+        const Note first = *notes->add(u"一"_s);
+        const Note second = *notes->add(u"二"_s); // written at the same moment
+        m_clock.advance(std::chrono::minutes(1));
+        const Note third = *notes->add(u"三"_s);
+        notes->remove(first.id);
+        notes->remove(third.id);
+        notes->remove(first.id); // is gone already
+        QCOMPARE(texts(notes->trash()), (QStringList{u"三"_s, u"一"_s}));
+        QCOMPARE(savedTexts(u"trash.json"_s), (QStringList{u"三"_s, u"一"_s}));
+        QCOMPARE(savedTexts(u"notes.json"_s), QStringList{u"二"_s});
+        notes->restore(first.id);
+        notes->restore(third.id);
+        QCOMPARE(texts(notes->notes()), (QStringList{u"三"_s, u"二"_s, u"一"_s})); // behind its equal
+        notes->remove(second.id);
+        notes->emptyTrash();
+        QCOMPARE(readFile(path(u"trash.json"_s)), "[\n\n]");
+    }
+
+    void an_import_adds_only_what_is_in_neither_list()
+    {
+        const auto notes = store();
+        const Note live = *notes->add(u"在"_s);
+        const Note trashed = *notes->add(u"删"_s);
+        notes->remove(trashed.id);
+        QCOMPARE(notes->importNotes({live, trashed}), 0);
+        const Note older = note("旧", "2025-01-01T00:00:00Z");
+        const Note newer = note("新", "2027-01-01T00:00:00Z");
+        QCOMPARE(notes->importNotes({older, trashed, newer, older}), 2);
+        QCOMPARE(texts(notes->notes()), (QStringList{u"新"_s, u"在"_s, u"旧"_s}));
+    }
+
+    void a_reminder_comes_with_the_note_and_goes_with_it()
+    {
+        RecordingScheduler scheduler;
+        ReminderStore reminders(path(u"reminders.json"_s), scheduler, m_clock);
+        const auto notes = store();
+        const ParsedReminder soon{at("2026-03-03T07:00:00Z"), u"交房租"_s};
+        notes->add(u"没有人听"_s, {}, {}, soon);
+        QVERIFY(reminders.reminders().isEmpty());
+        notes->setReminderStore(&reminders);
+        notes->add(u"过去"_s, {}, {}, ParsedReminder{at("2026-03-02T02:00:00Z"), u"过去"_s});
+        QVERIFY(reminders.reminders().isEmpty());
+        const Note added = *notes->add(u" 明天下午3点 交房租 "_s, {}, {}, soon);
+        const auto reminder = reminders.reminder(added.id);
+        QVERIFY(reminder);
+        QCOMPARE(reminder->text, u"交房租"_s);
+        QCOMPARE(reminder->fullText, u"明天下午3点 交房租"_s);
+        notes->remove(added.id);
+        QVERIFY(!reminders.hasReminder(added.id));
+    }
+
+    void days_are_sections_in_the_order_given()
+    {
+        const auto notes = store();
+        const Note late = note("Nacht #Haus", "2026-03-01T15:59:00Z"); // 23:59
+        const Note early = note("früh", "2026-03-01T16:01:00Z");       // 00:01, the next day
+        notes->importNotes({late, early});
+        const auto days = notes->daySections(u"  "_s);
+        QCOMPARE(days.size(), 2);
+        QCOMPARE(days[0], (DaySection{at("2026-03-01T16:00:00Z"), {early}}));
+        QCOMPARE(days[1], (DaySection{at("2026-02-28T16:00:00Z"), {late}}));
+
+        QCOMPARE(notes->daySections(u" #HAUS "_s), QList{days[1]});
+        QCOMPARE(notes->daySections(u"FRÜH"_s), QList{days[0]});
+        QVERIFY(notes->daySections(u"nichts"_s).isEmpty());
+        notes->update(early.id, u"anders"_s);
+        QVERIFY(notes->daySections(u"früh"_s).isEmpty()); // nothing old is kept
+        QCOMPARE(notes->daySections(u"ANDERS"_s).size(), 1);
+
+        notes->remove(early.id);
+        notes->remove(late.id);
+        QCOMPARE(texts(notes->trash()), (QStringList{u"Nacht #Haus"_s, u"anders"_s}));
+        QCOMPARE(notes->trashDaySections().first().notes.first().text, u"anders"_s); // by the day of writing
+    }
+
+    void a_file_that_cannot_be_understood_is_kept_aside_before_it_is_replaced()
+    {
+        QDir().mkpath(path({}));
+        writeFile(notesPath(), "[{\"text\" : \"half");
+        const auto notes = store();
+        QVERIFY(notes->notes().isEmpty());
+        QCOMPARE(readFile(notesPath()), "[{\"text\" : \"half"); // only the first save moves it
+        notes->add(u"新"_s);
+        notes->add(u"新二"_s);
+        QCOMPARE(savedTexts(u"notes.json"_s), (QStringList{u"新二"_s, u"新"_s}));
+        QCOMPARE(readFile(path(u"notes.json.unreadable-20260302T020000Z"_s)), "[{\"text\" : \"half");
+        const QStringList aside = QDir(path({})).entryList({u"*unreadable*"_s});
+        QCOMPARE(aside.size(), 1);
+    }
+
+    void a_removal_that_died_between_the_renames_is_completed()
+    {
+        Note removed;
+        {
+            const auto notes = store();
+            removed = *notes->add(u"删"_s);
+            notes->remove(removed.id);
+        }
+        // As the files stand when notes.json is new and trash.json still old.
+        QFile::rename(path(u"trash.json"_s), path(u"trash.json.staged"_s));
+        writeFile(path(u"trash.json"_s), "[\n\n]");
+        const auto notes = store();
+        QVERIFY(notes->notes().isEmpty());
+        QCOMPARE(notes->trash(), QList<Note>{removed});
+    }
+
+    void a_failed_save_is_one_line_and_keeps_the_list()
+    {
+        writeFile(m_folder->filePath(u"Quillet"_s), "a file where the folder should be");
+        const auto notes = store();
+        QTest::ignoreMessage(
+            QtWarningMsg, QRegularExpression(u"^Quillet: failed to save notes: cannot create .*$"_s));
+        QVERIFY(notes->add(u"留着"_s));
+        QCOMPARE(texts(notes->notes()), QStringList{u"留着"_s});
+    }
+
+    void data_moves_once_out_of_the_legacy_folder()
+    {
+        const QString base = m_folder->path();
+        QDir(base).mkpath(u"Tallypad"_s);
+        QDir(base).mkpath(u"Quillet"_s);
+        writeFile(base + u"/Tallypad/notes.json"_s, "old notes");
+        writeFile(base + u"/Tallypad/reminders.json"_s, "old reminders");
+        writeFile(base + u"/Quillet/notes.json"_s, "new notes");
+        AppPaths::migrateLegacyDataIfNeeded(base);
+        QCOMPARE(readFile(base + u"/Quillet/notes.json"_s), "new notes");
+        QCOMPARE(readFile(base + u"/Quillet/reminders.json"_s), "old reminders");
+        QCOMPARE(readFile(base + u"/Tallypad/notes.json"_s), "old notes");
+        QFile::remove(base + u"/Quillet/notes.json"_s);
+        AppPaths::migrateLegacyDataIfNeeded(base);
+        QCOMPARE(readFile(base + u"/Quillet/notes.json"_s), "old notes");
+        QVERIFY(!QFile::exists(base + u"/Tallypad"_s));
+
+        QDir(base).mkpath(u"Tallypad"_s);
+        QDir(base + u"/Quillet"_s).removeRecursively();
+        writeFile(base + u"/Quillet"_s, "a file");
+        writeFile(base + u"/Tallypad/trash.json"_s, "old trash");
+        QTest::ignoreMessage(QtWarningMsg,
+            QRegularExpression(u"^Quillet: failed to migrate trash.json from .*/Tallypad/trash.json: .+$"_s));
+        AppPaths::migrateLegacyDataIfNeeded(base);
+        QCOMPARE(readFile(base + u"/Tallypad/trash.json"_s), "old trash");
+    }
+};
+
+QTEST_GUILESS_MAIN(NoteStoreTest)
+#include "tst_notestore.moc"

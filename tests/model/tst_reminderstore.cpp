@@ -1,0 +1,139 @@
+// now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "model/NoteCoding.h"
+#include "model/ReminderStore.h"
+#include "support/RecordingScheduler.h"
+#include "support/TestClock.h"
+#include "support/TestFiles.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class ReminderStoreTest final : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RecordingScheduler> m_scheduler;
+    TestClock m_clock{"2026-03-02T02:00:00Z"};
+
+    QString file() const { return m_folder->filePath(u"reminders.json"_s); }
+    std::unique_ptr<ReminderStore> store()
+    {
+        return std::make_unique<ReminderStore>(file(), *m_scheduler, m_clock);
+    }
+    QList<Reminder> saved() const { return noteDecoder::decodeReminders(readFile(file())).value(); }
+    static QString text(QUuid id) { return id.toString(QUuid::WithoutBraces).toUpper(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u"^(?!Quillet: notification authorization)"_s));
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_scheduler = std::make_unique<RecordingScheduler>();
+        m_clock.set("2026-03-02T02:00:00Z");
+    }
+
+    void a_reminder_is_sorted_saved_and_submitted()
+    {
+        const auto reminders = store();
+        const QUuid note = QUuid::createUuid();
+        QVERIFY(!reminders->schedule(note, m_clock.now(), u"现在"_s, u"x"_s));
+        QVERIFY(!QFile::exists(file()));
+
+        const Reminder late = *reminders->schedule(note, at("2026-03-02T02:15:59Z"), u"后"_s, u"10:15 后"_s);
+        const Reminder early = *reminders->schedule(note, at("2026-03-02T02:05:00Z"), u"先"_s, u"10:05 先"_s);
+        const Reminder alsoLate =
+            *reminders->schedule(note, at("2026-03-02T02:15:59Z"), u"又"_s, u"10:15 又"_s);
+        QCOMPARE(reminders->reminders(), (QList<Reminder>{early, late, alsoLate}));
+        QCOMPARE(saved(), reminders->reminders());
+        QCOMPARE(reminders->reminder(note), early);
+
+        QCOMPARE(m_scheduler->askedOptions, (QList<int>{6, 6, 6}));
+        QCOMPARE(m_scheduler->added.first(), (NotificationRequest{text(late.id), u"Quillet 提醒"_s, u"后"_s,
+                                                 text(note), at("2026-03-02T02:15:00Z")}));
+    }
+
+    void the_log_tells_what_the_service_answered()
+    {
+        const auto reminders = store();
+        m_scheduler->error = u"no\nway"_s;
+        QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization error: no way");
+        QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=false");
+        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        m_scheduler->error.clear();
+        m_scheduler->status = AuthorizationStatus::Authorized;
+        QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=true");
+        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        QCOMPARE(reminders->authorizationStatus(), AuthorizationStatus::Authorized);
+    }
+
+    void cancelling_withdraws_each_request_of_the_note()
+    {
+        const auto reminders = store();
+        const QUuid note = QUuid::createUuid();
+        const Reminder other =
+            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        const Reminder one = *reminders->schedule(note, at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        const Reminder two = *reminders->schedule(note, at("2026-03-02T02:06:00Z"), u"x"_s, u"x"_s);
+        QSignalSpy changed(reminders.get(), &ReminderStore::remindersChanged);
+        reminders->cancel(QUuid::createUuid());
+        QCOMPARE(changed.count(), 0);
+        reminders->cancelForNote(note);
+        QCOMPARE(m_scheduler->removed, (QList<QStringList>{{text(one.id)}, {text(two.id)}}));
+        QCOMPARE(saved(), QList<Reminder>{other});
+    }
+
+    void what_has_expired_is_pruned_only_while_notifications_are_allowed()
+    {
+        const auto reminders = store();
+        const Reminder due =
+            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        const Reminder ahead =
+            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:01Z"), u"x"_s, u"x"_s);
+        m_clock.set("2026-03-02T02:05:00Z");
+        for (const auto status : {AuthorizationStatus::NotDetermined, AuthorizationStatus::Denied}) {
+            m_scheduler->status = status;
+            reminders->refreshAuthorizationStatus();
+            reminders->pruneExpired();
+            QCOMPARE(reminders->reminders().size(), 2);
+        }
+        m_scheduler->status = AuthorizationStatus::Provisional;
+        reminders->refreshAuthorizationStatus();
+        reminders->pruneExpired();
+        QCOMPARE(reminders->reminders(), QList<Reminder>{ahead});
+        QCOMPARE(m_scheduler->removed, QList<QStringList>{{text(due.id)}});
+        QCOMPARE(saved(), QList<Reminder>{ahead});
+    }
+
+    void a_restart_submits_what_is_to_come_and_keeps_what_has_passed()
+    {
+        const Reminder passed{QUuid::createUuid(), QUuid::createUuid(), u"过"_s, u"过"_s,
+            at("2026-03-02T01:00:00Z"), at("2026-03-01T01:00:00Z")};
+        Reminder ahead = passed;
+        ahead.id = QUuid::createUuid();
+        ahead.fireAt = at("2026-03-03T01:00:00Z");
+        writeFile(file(), noteEncoder::encode(QList<Reminder>{ahead, passed}));
+        const auto reminders = store();
+        QCOMPARE(reminders->reminders(), (QList<Reminder>{passed, ahead}));
+        QCOMPARE(m_scheduler->added.size(), 1);
+        QCOMPARE(m_scheduler->added.first().identifier, text(ahead.id));
+        QCOMPARE(ReminderStore::active(), reminders.get());
+    }
+
+    void a_broken_file_is_an_empty_list_and_is_kept_aside()
+    {
+        writeFile(file(), "[{}]");
+        const auto reminders = store();
+        QVERIFY(reminders->reminders().isEmpty());
+        QCOMPARE(readFile(file()), "[{}]");
+        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        QCOMPARE(readFile(file() + u".unreadable-20260302T020000Z"_s), "[{}]");
+        QCOMPARE(saved().size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(ReminderStoreTest)
+#include "tst_reminderstore.moc"
