@@ -146,6 +146,11 @@ void ReminderStore::submitNotification(const Reminder &reminder)
             if (store)
                 store->refreshAuthorizationStatus();
         });
-    m_scheduler.add({identifier(reminder.id), QStringLiteral("Quillet 提醒"), reminder.text,
-        identifier(reminder.noteID), m_clock.calendar().startOfMinute(reminder.fireAt)});
+    m_scheduler.add(notificationRequest(reminder, m_clock.calendar()));
+}
+
+NotificationRequest ReminderStore::notificationRequest(const Reminder &reminder, const Calendar &calendar)
+{
+    return {identifier(reminder.id), QStringLiteral("Quillet 提醒"), reminder.text,
+        identifier(reminder.noteID), calendar.startOfMinute(reminder.fireAt)};
 }

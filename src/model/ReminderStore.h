@@ -27,6 +27,10 @@ public:
     /// The store that was made last, while it exists.
     [[nodiscard]] static ReminderStore *active() { return s_active; }
 
+    /// How a reminder is put to the notification service.
+    [[nodiscard]] static NotificationRequest notificationRequest(
+        const Reminder &reminder, const Calendar &calendar);
+
     [[nodiscard]] const QList<Reminder> &reminders() const { return m_reminders; } ///< earliest first
     [[nodiscard]] AuthorizationStatus authorizationStatus() const { return m_authorizationStatus; }
 

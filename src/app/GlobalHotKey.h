@@ -1,0 +1,29 @@
+#pragma once
+
+#include "desktop/X11HotKey.h"
+
+#include <QObject>
+
+#include <functional>
+
+/// Control+Alt+Space, whatever program has the focus. A key that cannot be had is one line in the log.
+class GlobalHotKey final : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// @p handler runs on the next turn of the event loop after each press. Only the last one registered
+    /// runs.
+    void registerHandler(std::function<void()> handler);
+
+    /// To be called when the press has opened a window that is to get the keys that follow.
+    void releaseKeyboard() { m_x11.releaseKeyboard(); }
+
+private:
+    void fire();
+
+    X11HotKey m_x11;
+    std::function<void()> m_handler;
+};

@@ -1,0 +1,85 @@
+#include "app/PanelController.h"
+
+#include "ui/ContentView.h"
+#include "ui/Design.h"
+#include "ui/PanelWindow.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+PanelController::PanelController(std::function<ContentView *()> makeContent, QObject *parent)
+    : QObject(parent)
+    , m_makeContent(std::move(makeContent))
+{
+}
+
+PanelController::~PanelController() = default;
+
+void PanelController::prepare()
+{
+    if (m_window)
+        return;
+    m_content = m_makeContent();
+    m_window = std::make_unique<PanelWindow>(m_content);
+    connect(m_window.get(), &PanelWindow::focusLost, this, &PanelController::close);
+    connect(m_window.get(), &PanelWindow::escaped, this, [this] {
+        close();
+        Q_EMIT m_content->state().panelDidToggle();
+    });
+    m_window->winId(); // the platform's window too
+    m_window->ensurePolished();
+}
+
+PanelState &PanelController::state()
+{
+    prepare();
+    return m_content->state();
+}
+
+bool PanelController::isOpen() const
+{
+    return m_window && m_window->isVisible();
+}
+
+void PanelController::open()
+{
+    const bool wasOpen = isOpen();
+    prepare();
+    if (!wasOpen) {
+        place();
+        m_window->show();
+    }
+    m_window->raise();
+    m_window->activateWindow();
+    if (!wasOpen)
+        Q_EMIT m_content->state().panelDidToggle();
+}
+
+void PanelController::close()
+{
+    m_window->hide();
+}
+
+void PanelController::toggle()
+{
+    if (!isOpen()) {
+        open();
+        return;
+    }
+    close();
+    Q_EMIT m_content->state().panelDidToggle();
+}
+
+void PanelController::place()
+{
+    // On the screen where the person is; before it is shown, or it would be seen jumping.
+    const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect available = screen->availableGeometry();
+    const QSize size = Design::panelSize;
+    m_window->move(available.right() - size.width() - Design::panelMargin,
+        available.bottom() - size.height() - Design::panelMargin);
+}

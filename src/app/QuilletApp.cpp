@@ -1,0 +1,42 @@
+#include "app/QuilletApp.h"
+
+#include "ui/ContentView.h"
+
+#include <QTimer>
+
+QuilletApp::QuilletApp(Start start)
+    : m_notifications(m_clock)
+    , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
+    , m_notes(NoteStore::defaultFilePath(), m_clock)
+    , m_panel([this] { return new ContentView(m_notes, m_reminders, m_dateDetector, m_clock); })
+    , m_delegate(m_notifications, m_panel)
+{
+    m_notes.setReminderStore(&m_reminders);
+    connect(&m_notifications, &DesktopNotificationCenter::authorizationChanged, &m_reminders,
+        &ReminderStore::refreshAuthorizationStatus);
+
+    connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggle);
+    connect(&m_statusBar, &StatusBarMenu::noTray, &m_panel, &PanelController::open);
+    connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
+    connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
+
+    m_delegate.didFinishLaunching();
+    presentMissedReminders();
+    m_statusBar.install();
+    m_service.publish();
+    if (start == Start::VeryFirst)
+        m_panel.open();
+    else
+        QTimer::singleShot(0, &m_panel, &PanelController::prepare);
+}
+
+void QuilletApp::presentMissedReminders()
+{
+    // The store submits only what is still to come; what came due while nobody was there to show it is shown
+    // now.
+    const Instant now = m_clock.now();
+    for (const Reminder &reminder : m_reminders.reminders()) {
+        if (reminder.fireAt <= now)
+            m_notifications.add(ReminderStore::notificationRequest(reminder, m_clock.calendar()));
+    }
+}

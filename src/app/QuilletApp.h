@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "app/PanelController.h"
+#include "app/StatusBarMenu.h"
+#include "desktop/ApplicationService.h"
+#include "desktop/DesktopNotificationCenter.h"
+#include "foundation/Clock.h"
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "reminders/DateDetecting.h"
+
+#include <QObject>
+
+/// The wiring of the program. Members stand in the order in which they start and are destroyed in reverse.
+class QuilletApp final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Start { VeryFirst, Quiet };
+
+    explicit QuilletApp(Start start);
+
+private:
+    void presentMissedReminders();
+
+    // What the machine provides
+    SystemClock m_clock;
+    NoDateDetector m_dateDetector;
+    DesktopNotificationCenter m_notifications;
+    // What is owned
+    ReminderStore m_reminders;
+    NoteStore m_notes;
+    // What is seen
+    PanelController m_panel;
+    StatusBarMenu m_statusBar;
+    ApplicationService m_service;
+    AppDelegate m_delegate;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+/// What the desktop, a launcher or a second start may ask of the running program:
+/// org.freedesktop.Application.
+class ApplicationService final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit ApplicationService(QObject *parent = nullptr);
+
+    /// Offers the service on the session bus; without a bus, or with the name taken, only a line in the log.
+    void publish();
+
+    /// Asks the process that runs already to open its panel.
+    static void activateRunning();
+
+public Q_SLOTS:
+    void Activate(const QVariantMap &platformData);
+    void Open(const QStringList &uris, const QVariantMap &platformData);
+    void ActivateAction(const QString &name, const QVariantList &parameter, const QVariantMap &platformData);
+
+Q_SIGNALS:
+    void activated();
+    void toggled();
+};

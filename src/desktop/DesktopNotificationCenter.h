@@ -1,0 +1,53 @@
+#pragma once
+
+#include "desktop/NotificationServer.h"
+#include "desktop/WallClockTimer.h"
+#include "foundation/Clock.h"
+#include "model/NotificationScheduling.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+/// Holds notification requests in memory and shows each when its minute begins.
+///
+/// A desktop has no permission to ask for: "authorized" means that a notification server answers, "denied"
+/// that none does. What comes due meanwhile is shown when one does.
+class DesktopNotificationCenter final : public QObject, public NotificationScheduling
+{
+    Q_OBJECT
+
+public:
+    explicit DesktopNotificationCenter(const Clock &clock, QObject *parent = nullptr);
+
+    void requestAuthorization(
+        int options, std::function<void(bool granted, const QString &error)> completion) override;
+    /// A request whose minute has already begun is shown at once.
+    void add(const NotificationRequest &request) override;
+    void removePendingNotificationRequests(const QStringList &identifiers) override;
+    void notificationAuthorizationStatus(std::function<void(AuthorizationStatus)> completion) override;
+
+Q_SIGNALS:
+    void willPresent();                     ///< a notification is about to be shown
+    void didReceive(const QString &noteID); ///< a notification was clicked
+    void authorizationChanged();            ///< a server came or went
+
+private:
+    void armTimer();
+    void collectDue();
+    void presentDue();
+    void present(const NotificationRequest &request);
+    void onAvailabilityChanged();
+    void whenKnown(std::function<void(bool isAvailable)> completion);
+
+    const Clock &m_clock;
+    NotificationServer m_server;
+    WallClockTimer m_timer;
+    QList<NotificationRequest> m_pending; ///< the next one first
+    QList<NotificationRequest> m_due;     ///< not yet shown
+    QHash<uint, QString> m_noteIDs;       ///< of the notifications on screen, by the server's ids
+    std::vector<std::function<void(bool)>> m_waiting;
+};

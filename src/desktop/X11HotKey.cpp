@@ -1,0 +1,146 @@
+#include "desktop/X11HotKey.h"
+
+#include <QGuiApplication>
+
+#include <xcb/xcb.h>
+#include <xcb/xcb_keysyms.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace {
+constexpr xcb_keysym_t space = 0x20;
+constexpr uint16_t hotModifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
+/// Caps Lock and, on every common keyboard map, Num Lock: a grab holds for exactly one state of them.
+constexpr std::array<uint16_t, 4> lockStates{
+    0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
+constexpr uint16_t locks = XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2;
+
+const QNativeInterface::QX11Application *x11()
+{
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+}
+
+std::vector<uint8_t> keycodes(xcb_connection_t *connection, xcb_keysym_t keysym)
+{
+    const std::unique_ptr<xcb_key_symbols_t, decltype(&xcb_key_symbols_free)> symbols(
+        xcb_key_symbols_alloc(connection), &xcb_key_symbols_free);
+    const std::unique_ptr<xcb_keycode_t, decltype(&std::free)> found(
+        xcb_key_symbols_get_keycode(symbols.get(), keysym), &std::free);
+    std::vector<uint8_t> codes;
+    for (const xcb_keycode_t *code = found.get(); code && *code != XCB_NO_SYMBOL; ++code)
+        codes.push_back(*code);
+    return codes;
+}
+} // namespace
+
+X11HotKey::X11HotKey(QObject *parent)
+    : QObject(parent)
+{
+    // A change of the keyboard map comes as a burst of events.
+    m_remapped.setSingleShot(true);
+    m_remapped.setInterval(20ms);
+    connect(&m_remapped, &QTimer::timeout, this, [this] {
+        if (keycodes(m_connection, space) != m_keycodes)
+            (void)grab();
+    });
+}
+
+X11HotKey::~X11HotKey()
+{
+    ungrab();
+}
+
+bool X11HotKey::isPossible()
+{
+    // A program on XWayland could grab, but would hear the key only while an X11 window has the focus.
+    return x11() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+Outcome X11HotKey::grab()
+{
+    ungrab();
+    m_connection = x11()->connection();
+    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    qApp->installNativeEventFilter(this);
+    m_keycodes = keycodes(m_connection, space);
+
+    std::vector<xcb_void_cookie_t> requests;
+    for (const uint8_t keycode : m_keycodes) {
+        for (const uint16_t lockState : lockStates) {
+            requests.push_back(xcb_grab_key_checked(m_connection, true, m_root, hotModifiers | lockState,
+                keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        }
+    }
+    int error = m_keycodes.empty() ? XCB_VALUE : 0;
+    for (const xcb_void_cookie_t request : requests) {
+        const std::unique_ptr<xcb_generic_error_t, decltype(&std::free)> failed(
+            xcb_request_check(m_connection, request), &std::free);
+        if (failed)
+            error = failed->error_code;
+    }
+    if (error == 0)
+        return Done{};
+    // Some may have succeeded; a key that works only while Num Lock is on helps nobody.
+    ungrab();
+    return Failure{QString::number(error)};
+}
+
+void X11HotKey::ungrab()
+{
+    if (!m_connection)
+        return;
+    qApp->removeNativeEventFilter(this);
+    for (const uint8_t keycode : m_keycodes) {
+        for (const uint16_t lockState : lockStates)
+            xcb_ungrab_key(m_connection, keycode, m_root, hotModifiers | lockState);
+    }
+    m_keycodes.clear();
+    xcb_flush(m_connection);
+}
+
+void X11HotKey::releaseKeyboard()
+{
+    if (!m_connection)
+        return;
+    xcb_ungrab_keyboard(m_connection, m_lastPress);
+    xcb_flush(m_connection);
+}
+
+bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<xcb_generic_event_t *>(message);
+    const auto isHotKey = [this](const xcb_key_press_event_t &key) {
+        return key.event == m_root && (key.state & ~locks & 0xFF) == hotModifiers
+               && std::find(m_keycodes.begin(), m_keycodes.end(), key.detail) != m_keycodes.end();
+    };
+    switch (event->response_type & 0x7F) {
+    case XCB_KEY_PRESS: {
+        const auto &key = *reinterpret_cast<const xcb_key_press_event_t *>(event);
+        if (!isHotKey(key))
+            break;
+        // While the key is held the server sends pairs of release and press that bear one time.
+        m_lastPress = key.time;
+        if (key.time != m_lastRelease)
+            Q_EMIT pressed();
+        break;
+    }
+    case XCB_KEY_RELEASE: {
+        const auto &key = *reinterpret_cast<const xcb_key_release_event_t *>(event);
+        m_lastRelease = key.time;
+        break;
+    }
+    case XCB_MAPPING_NOTIFY:
+        m_remapped.start();
+        break;
+    default:
+        break;
+    }
+    return false; // Qt takes the time of the press from it, by which the panel may ask for the focus
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+#include <QTimer>
+
+#include <cstdint>
+#include <vector>
+
+struct xcb_connection_t;
+
+/// Control+Alt+Space on X11, whatever window has the focus and whatever locks are on. Held as long as the
+/// object lives.
+class X11HotKey final : public QObject, public QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    explicit X11HotKey(QObject *parent = nullptr);
+    ~X11HotKey() override;
+    Q_DISABLE_COPY_MOVE(X11HotKey)
+
+    /// Whether this session can have such a key at all.
+    [[nodiscard]] static bool isPossible();
+
+    /// On failure the message is the number of the X error: 10 where another program has the key.
+    Outcome grab();
+
+    /// Lets the keyboard go before the key is released, so that a window opened by the press gets what is
+    /// typed next.
+    void releaseKeyboard();
+
+Q_SIGNALS:
+    void pressed(); ///< once for each press, however long the key is held
+
+private:
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+    void ungrab();
+
+    xcb_connection_t *m_connection = nullptr;
+    std::uint32_t m_root = 0;
+    std::vector<std::uint8_t> m_keycodes; ///< grabbed now
+    std::uint32_t m_lastPress = 0;        ///< in the X server's time
+    std::uint32_t m_lastRelease = 0;
+    QTimer m_remapped;
+};

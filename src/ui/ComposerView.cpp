@@ -1,0 +1,135 @@
+#include "ui/ComposerView.h"
+
+#include "foundation/Clock.h"
+#include "model/NoteStore.h"
+#include "reminders/ReminderDetector.h"
+#include "text/L10n.h"
+#include "ui/Design.h"
+#include "ui/NoteStyle.h"
+#include "ui/PanelState.h"
+#include "ui/ReminderBar.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <limits>
+
+ComposerView::ComposerView(
+    NoteStore &store, PanelState &state, const DateDetecting &detector, const Clock &clock, QWidget *parent)
+    : QWidget(parent)
+    , m_store(store)
+    , m_state(state)
+    , m_detector(detector)
+    , m_clock(clock)
+    , m_reminderBar(new ReminderBar(clock, this))
+    , m_field(new QLineEdit(this))
+{
+    m_field->setObjectName(QStringLiteral("composerField"));
+    m_field->setFrame(false);
+    m_field->setFont(NoteStyle::font());
+    m_field->setFixedHeight(Design::fieldHeight);
+    m_field->setMaxLength(std::numeric_limits<int>::max()); // what was pasted is never cut silently
+    QPalette colors = m_field->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    colors.setColor(QPalette::Text, NoteStyle::color(palette()));
+    colors.setColor(QPalette::PlaceholderText, NoteStyle::metaColor(palette()));
+    m_field->setPalette(colors);
+    setFocusProxy(m_field);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, Design::edge);
+    layout->setSpacing(0);
+    layout->addWidget(m_reminderBar);
+    auto *capsule = new QHBoxLayout;
+    capsule->setContentsMargins(2 * Design::edge, 0, 2 * Design::edge, 0);
+    capsule->addWidget(m_field);
+    layout->addLayout(capsule);
+    updatePlaceholder();
+
+    connect(m_field, &QLineEdit::textChanged, &m_state, &PanelState::setDraft);
+    connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
+    connect(m_reminderBar, &ReminderBar::dismissed, this, [this] {
+        m_suppressReminder = true;
+        updateReminderPreview();
+    });
+    connect(&m_state, &PanelState::draftChanged, this, &ComposerView::draftDidChange);
+    connect(&m_state, &PanelState::editingIDChanged, this, [this] {
+        updatePlaceholder();
+        updateReminderPreview();
+    });
+    connect(&m_state, &PanelState::panelDidToggle, m_field, qOverload<>(&QLineEdit::setFocus));
+    connect(&m_state, &PanelState::focusComposer, this, &ComposerView::focusAtEnd);
+    connect(&m_state, &PanelState::clearComposer, this, [this] { m_state.setDraft({}); });
+}
+
+void ComposerView::draftDidChange()
+{
+    const QString &draft = m_state.draft();
+    if (m_field->text() != draft)
+        m_field->setText(draft);
+    if (draft.isEmpty()) {
+        m_state.setEditingID({});
+        m_state.setQuoting({});
+        m_suppressReminder = false;
+    }
+    updateReminderPreview();
+}
+
+std::optional<ParsedReminder> ComposerView::detectedReminder() const
+{
+    return ReminderDetector::detect(m_state.draft(), m_clock.now(), m_clock.calendar(), m_detector);
+}
+
+void ComposerView::updateReminderPreview()
+{
+    const bool isOff = m_state.editingID() || m_suppressReminder;
+    m_reminderBar->setPreview(isOff ? std::nullopt : detectedReminder());
+}
+
+void ComposerView::submit()
+{
+    // The order of the cases is the order in which they win.
+    const QString draft = m_state.draft();
+    if (const auto editingID = m_state.editingID()) {
+        m_store.update(*editingID, draft);
+        m_state.setEditingID({});
+    } else {
+        std::optional<ParsedReminder> reminder;
+        if (!m_state.quoting() && !m_suppressReminder)
+            reminder = detectedReminder();
+        // A time that has passed makes a plain note, as the bar says.
+        if (reminder && reminder->fireAt <= m_clock.now())
+            reminder.reset();
+        m_store.add(draft, m_state.quoting(), {}, reminder);
+    }
+    m_state.setQuoting({});
+    m_state.setDraft({});
+}
+
+void ComposerView::updatePlaceholder()
+{
+    m_field->setPlaceholderText(
+        m_state.editingID() ? L10n::text("编辑中，回车保存修改") : L10n::text("输入即筛选，回车保存"));
+    m_field->setAccessibleName(m_field->placeholderText());
+}
+
+void ComposerView::focusAtEnd()
+{
+    m_field->setFocus();
+    // The field takes the new draft first.
+    QTimer::singleShot(0, m_field, [field = m_field] { field->end(false); });
+}
+
+void ComposerView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF capsule = QRectF(m_field->geometry())
+                               .adjusted(-Design::edge, 0, Design::edge, 0)
+                               .adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(NoteStyle::hairline(palette()));
+    painter.setBrush(NoteStyle::fieldColor(palette()));
+    painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+}

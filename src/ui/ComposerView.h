@@ -1,0 +1,45 @@
+#pragma once
+
+#include "reminders/ParsedReminder.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class Clock;
+class DateDetecting;
+class NoteStore;
+class PanelState;
+class QLineEdit;
+class ReminderBar;
+
+/// The one line that is written in. Return saves the draft: as an edit, a note with a reminder, or a note.
+class ComposerView final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector, const Clock &clock,
+        QWidget *parent = nullptr);
+
+    /// Saves the draft and clears the field; a blank draft is only cleared.
+    void submit();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void draftDidChange();
+    void updateReminderPreview();
+    void updatePlaceholder();
+    void focusAtEnd();
+    [[nodiscard]] std::optional<ParsedReminder> detectedReminder() const;
+
+    NoteStore &m_store;
+    PanelState &m_state;
+    const DateDetecting &m_detector;
+    const Clock &m_clock;
+    ReminderBar *m_reminderBar = nullptr;
+    QLineEdit *m_field = nullptr;
+    bool m_suppressReminder = false;
+};

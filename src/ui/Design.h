@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QSize>
+
+#include <chrono>
+
+/// Sizes in logical pixels, on a grid of four, and durations: all that the panel's looks are measured by.
+namespace Design {
+inline constexpr QSize panelSize{340, 480};
+inline constexpr int panelRadius = 12;
+inline constexpr int panelMargin = 12; ///< to the edge of the screen
+inline constexpr int grid = 4;
+inline constexpr int edge = 12; ///< from the panel's side to its content
+
+inline constexpr int bodySize = 13;
+inline constexpr int smallSize = 11;
+
+inline constexpr int topBarHeight = 36;
+inline constexpr int headerHeight = 28;
+inline constexpr int timeColumn = 44;
+inline constexpr int rowPadding = 6;
+inline constexpr int symbolSize = 14;
+inline constexpr int fieldHeight = 32;
+inline constexpr int barHeight = 28;
+
+inline constexpr std::chrono::milliseconds scrollDuration{600};
+inline constexpr std::chrono::milliseconds flashDuration{500};
+} // namespace Design

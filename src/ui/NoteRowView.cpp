@@ -1,0 +1,82 @@
+#include "ui/NoteRowView.h"
+
+#include "foundation/Clock.h"
+#include "model/ReminderStore.h"
+#include "text/L10n.h"
+#include "text/NoteFormatting.h"
+#include "ui/Design.h"
+#include "ui/NoteStyle.h"
+#include "ui/RowLayout.h"
+#include "ui/Symbol.h"
+#include "ui/TimelineModel.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+NoteRowView::NoteRowView(const TimelineModel &model, QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_model(model)
+{
+}
+
+QSize NoteRowView::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const TimelineRow &row = m_model.row(index.row());
+    const int width = option.rect.width();
+    if (!row.note)
+        return {width, Design::headerHeight};
+    return {width, RowLayout(row.note->text, m_model.query(), width, option.palette).height()};
+}
+
+void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const TimelineRow &row = m_model.row(index.row());
+    const QPalette &palette = option.palette;
+    const Calendar &calendar = m_model.clock().calendar();
+    if (!row.note) {
+        painter->setFont(NoteStyle::headerFont());
+        painter->setPen(NoteStyle::metaColor(palette));
+        painter->drawText(option.rect.adjusted(Design::edge, 0, -Design::edge, 0),
+            Qt::AlignVCenter | Qt::TextSingleLine,
+            NoteFormatting::dayTitle(row.day, m_model.clock().now(), calendar));
+        return;
+    }
+
+    const Note &note = *row.note;
+    if (note.id == m_flashID || note.id == m_editingID) {
+        painter->fillRect(
+            option.rect, note.id == m_flashID ? NoteStyle::flash(palette) : NoteStyle::editing(palette));
+    }
+    const RowLayout layout(note.text, m_model.query(), option.rect.width(), palette);
+    const QPoint origin = option.rect.topLeft();
+    painter->setFont(NoteStyle::quoteFont());
+    painter->setPen(NoteStyle::metaColor(palette));
+    painter->drawText(layout.timeRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
+        NoteFormatting::timeString(note.createdAt, calendar));
+    if (row.hasReminder) {
+        Symbol::paint(*painter, layout.symbolRect().translated(origin), QStringLiteral("bell"),
+            NoteStyle::metaColor(palette));
+    }
+    painter->setPen(NoteStyle::color(palette));
+    layout.drawText(*painter, origin);
+}
+
+bool NoteRowView::helpEvent(
+    QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (!index.isValid() || event->type() != QEvent::ToolTip)
+        return false;
+    const TimelineRow &row = m_model.row(index.row());
+    const auto reminder = row.note ? m_model.reminders().reminder(row.note->id) : std::nullopt;
+    if (!reminder) {
+        QToolTip::hideText();
+        return false;
+    }
+    const Clock &clock = m_model.clock();
+    const QString when = NoteFormatting::reminderTimeString(reminder->fireAt, clock.now(), clock.calendar());
+    QToolTip::showText(event->globalPos(), L10n::text("%@ 提醒", when, L10n::currentLanguage()),
+        view->viewport(), option.rect);
+    return true;
+}

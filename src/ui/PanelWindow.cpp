@@ -1,0 +1,92 @@
+#include "ui/PanelWindow.h"
+
+#include "ui/ContentView.h"
+#include "ui/Design.h"
+#include "ui/NoteStyle.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+PanelWindow::PanelWindow(ContentView *content)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , m_content(content)
+{
+    setWindowTitle(QStringLiteral("Quillet"));
+    setObjectName(QStringLiteral("panel"));
+    setFixedSize(Design::panelSize);
+    setFocusProxy(m_content);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_content);
+    qApp->installEventFilter(this);
+
+    // A grabbed key takes the focus for a moment and gives it back.
+    constexpr std::chrono::milliseconds moment{50};
+    m_focusCheck.setSingleShot(true);
+    m_focusCheck.setInterval(moment);
+    connect(&m_focusCheck, &QTimer::timeout, this, &PanelWindow::checkFocus);
+}
+
+bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        return false;
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    return widget && widget->window() == this && escape();
+}
+
+bool PanelWindow::escape()
+{
+    // One layer at a time, from the inside out. (What an input method is composing never comes here: it takes
+    // the key.)
+    if (!m_content->state().draft().isEmpty())
+        Q_EMIT m_content->state().clearComposer();
+    else
+        Q_EMIT escaped();
+    return true;
+}
+
+void PanelWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange)
+        return;
+    if (isActiveWindow())
+        m_focusCheck.stop();
+    else
+        m_focusCheck.start();
+}
+
+void PanelWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_focusCheck.stop(); // or it would close a panel that is opened again at once
+}
+
+void PanelWindow::checkFocus()
+{
+    // A menu or dialog of our own has it for us.
+    if (!QApplication::activePopupWidget() && !QApplication::activeModalWidget())
+        Q_EMIT focusLost();
+}
+
+void PanelWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    QPainterPath outline;
+    outline.addRoundedRect(rect(), Design::panelRadius, Design::panelRadius);
+    setMask(QRegion(outline.toFillPolygon().toPolygon()));
+}
+
+void PanelWindow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), NoteStyle::background(palette()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(NoteStyle::hairline(palette()));
+    painter.drawRoundedRect(
+        QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Design::panelRadius, Design::panelRadius);
+}

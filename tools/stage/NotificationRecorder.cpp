@@ -1,0 +1,54 @@
+#include "stage/NotificationRecorder.h"
+
+namespace {
+const QString service = QStringLiteral("org.freedesktop.Notifications");
+const QString connectionName = QStringLiteral("notification-recorder");
+} // namespace
+
+NotificationRecorder::NotificationRecorder(const QString &busAddress)
+    : m_bus(QDBusConnection::connectToBus(busAddress, connectionName))
+{
+    if (!m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
+            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals)
+        || !m_bus.registerService(service))
+        qFatal("cannot be the notification server of %s", qPrintable(busAddress));
+}
+
+NotificationRecorder::~NotificationRecorder()
+{
+    m_bus.unregisterService(service);
+    QDBusConnection::disconnectFromBus(connectionName);
+}
+
+void NotificationRecorder::click(uint id)
+{
+    Q_EMIT ActionInvoked(id, QStringLiteral("default"));
+    Q_EMIT NotificationClosed(id, 2);
+}
+
+uint NotificationRecorder::Notify(const QString &, uint, const QString &, const QString &title,
+    const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout)
+{
+    const uint id = uint(m_shown.size()) + 1;
+    m_shown.append({id, title, body, actions, hints, timeout});
+    return id;
+}
+
+void NotificationRecorder::CloseNotification(uint id)
+{
+    Q_EMIT NotificationClosed(id, 3);
+}
+
+QStringList NotificationRecorder::GetCapabilities() const
+{
+    return {QStringLiteral("actions"), QStringLiteral("body"), QStringLiteral("body-markup")};
+}
+
+QString NotificationRecorder::GetServerInformation(
+    QString &vendor, QString &version, QString &specification) const
+{
+    vendor = QStringLiteral("Quillet");
+    version = QStringLiteral("1");
+    specification = QStringLiteral("1.2");
+    return QStringLiteral("recorder");
+}

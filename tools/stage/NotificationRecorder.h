@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QList>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+/// A notification server that shows nothing and remembers everything.
+class NotificationRecorder final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    struct Shown {
+        uint id = 0;
+        QString title;
+        QString body;
+        QStringList actions;
+        QVariantMap hints;
+        int timeout = 0;
+    };
+
+    explicit NotificationRecorder(const QString &busAddress);
+    ~NotificationRecorder() override;
+    Q_DISABLE_COPY_MOVE(NotificationRecorder)
+
+    [[nodiscard]] const QList<Shown> &shown() const { return m_shown; }
+    void click(uint id);
+
+public Q_SLOTS:
+    uint Notify(const QString &application, uint replaces, const QString &icon, const QString &title,
+        const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout);
+    void CloseNotification(uint id);
+    QStringList GetCapabilities() const;
+    QString GetServerInformation(QString &vendor, QString &version, QString &specification) const;
+
+Q_SIGNALS:
+    void ActionInvoked(uint id, const QString &action);
+    void NotificationClosed(uint id, uint reason);
+
+private:
+    QDBusConnection m_bus;
+    QList<Shown> m_shown;
+};

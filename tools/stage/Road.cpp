@@ -1,0 +1,92 @@
+#include "stage/Road.h"
+
+#include "foundation/Clock.h"
+#include "model/NoteCoding.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+/// As ui/NoteStyle.cpp has it for a light appearance.
+constexpr QRgb flashColor = qRgb(0xff, 0xe9, 0xb0);
+
+/// The title of the panel, and the class of panel and tray icon.
+const QString name = QStringLiteral("Quillet");
+constexpr int smallestPanel = 100;
+
+QByteArray bytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+} // namespace
+
+void Road::start(std::chrono::milliseconds clockShift)
+{
+    m_process = m_desktop.start(m_program, clockShift);
+}
+
+void Road::stop()
+{
+    PrivateDesktop::stop(*m_process);
+}
+
+bool Road::waitForTrayIcon()
+{
+    return PrivateDesktop::waitUntil([this] {
+        const auto windows = m_desktop.screen().windowsOfClass(name);
+        return std::any_of(windows.begin(), windows.end(), [](const XServer::Window &window) {
+            return window.isInner && window.frame.height() < smallestPanel;
+        });
+    });
+}
+
+std::optional<QRect> Road::panel() const
+{
+    for (const XServer::Window &window : m_desktop.screen().windowsTitled(name)) {
+        if (window.frame.height() >= smallestPanel)
+            return window.frame;
+    }
+    return std::nullopt;
+}
+
+bool Road::waitForPanel(bool isOpen)
+{
+    return PrivateDesktop::waitUntil([this, isOpen] { return panel().has_value() == isOpen; });
+}
+
+void Road::pressHotKey()
+{
+    m_desktop.screen().press({Keysym::control, Keysym::alt, Keysym::space});
+}
+
+bool Road::isFlashing() const
+{
+    const auto place = panel();
+    if (!place)
+        return false;
+    const QImage image = m_desktop.screen().screenshot(*place);
+    int lit = 0;
+    for (int y = 0; y < image.height(); ++y)
+        lit += (image.pixel(4, y) & RGB_MASK) == (flashColor & RGB_MASK);
+    return lit > 20;
+}
+
+QList<Note> Road::savedNotes(const QString &file) const
+{
+    const auto notes = noteDecoder::decodeNotes(bytes(m_desktop.dataFile(file)));
+    return notes ? notes.value() : QList<Note>();
+}
+
+QList<Reminder> Road::savedReminders() const
+{
+    const auto reminders =
+        noteDecoder::decodeReminders(bytes(m_desktop.dataFile(QStringLiteral("reminders.json"))));
+    return reminders ? reminders.value() : QList<Reminder>();
+}
+
+std::chrono::milliseconds Road::shiftTo(Instant moment, std::chrono::milliseconds before)
+{
+    return moment - before - SystemClock().now();
+}

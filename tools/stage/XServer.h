@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+#include <cstdint>
+
+struct xcb_connection_t;
+
+/// A client of an X server that looks at its windows and pixels and presses its keys and buttons.
+class XServer final
+{
+public:
+    explicit XServer(const QString &display);
+    ~XServer();
+    Q_DISABLE_COPY_MOVE(XServer)
+
+    /// Types the text on a keyboard that has every character on a key of its own; real presses and releases.
+    void type(const QString &text);
+    /// Presses the keys, in this order, and releases them in reverse: "Control_L", "Alt_L", "space".
+    void press(const QList<std::uint32_t> &keysyms);
+    void click(QPoint where, int button = 1);
+
+    [[nodiscard]] QImage screenshot() const;
+    [[nodiscard]] QImage screenshot(QRect part) const;
+
+    struct Window {
+        QRect frame;          ///< on the screen
+        bool isInner = false; ///< within another window: a tray's, or the frame of the window manager
+    };
+    /// The windows that can be seen and have this title, or this class.
+    [[nodiscard]] QList<Window> windowsTitled(const QString &title) const;
+    [[nodiscard]] QList<Window> windowsOfClass(const QString &name) const;
+
+    /// Takes the key combination for itself, so that nobody else can have it.
+    void grabHotKey();
+
+private:
+    void fakeKey(std::uint8_t keycode, bool isPress);
+    [[nodiscard]] std::uint8_t keycode(std::uint32_t keysym, bool &needsShift);
+    void learnKeyboard();
+    void assignKeys(const QList<std::uint32_t> &keysyms);
+    void find(std::uint32_t parent, std::uint32_t property, const QString &value, bool isInner,
+        QList<Window> &found) const;
+
+    xcb_connection_t *m_connection = nullptr;
+    std::uint32_t m_root = 0;
+    QSize m_size;
+    std::uint8_t m_firstKeycode = 0;
+    int m_keysymsPerKeycode = 0;
+    QList<std::uint32_t> m_keysyms; ///< the keyboard map, m_keysymsPerKeycode for each key
+};
+
+namespace Keysym {
+constexpr std::uint32_t space = 0x20;
+constexpr std::uint32_t escape = 0xff1b;
+constexpr std::uint32_t enter = 0xff0d;
+constexpr std::uint32_t numLock = 0xff7f;
+constexpr std::uint32_t shift = 0xffe1;
+constexpr std::uint32_t control = 0xffe3;
+constexpr std::uint32_t alt = 0xffe9;
+} // namespace Keysym
