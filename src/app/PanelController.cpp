@@ -29,7 +29,7 @@ void PanelController::prepare()
         Q_EMIT m_content->state().panelDidToggle();
     });
     m_window->winId(); // the platform's window too
-    m_window->ensurePolished();
+    m_window->grab();  // and all that the first painting costs: fonts, layouts, symbols
 }
 
 PanelState &PanelController::state()

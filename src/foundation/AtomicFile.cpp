@@ -62,10 +62,10 @@ bool rename(const QString &from, const QString &to)
     return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
-bool writeAll(int fd, const QByteArray &bytes)
+bool writeAll(int fd, QByteArrayView bytes)
 {
     for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count = ::write(fd, bytes.constData() + written, size_t(bytes.size() - written));
+        const ssize_t count = ::write(fd, bytes.data() + written, size_t(bytes.size() - written));
         if (count < 0 && errno != EINTR)
             return false;
         written += std::max<ssize_t>(count, 0);
@@ -77,7 +77,11 @@ Outcome stage(const AtomicFile::Content &content)
 {
     const QString path = stagedPath(content.path);
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    if (!file.isOpen() || !writeAll(file.fd(), content.bytes) || ::fsync(file.fd()) != 0 || !file.close())
+    bool isWritten = file.isOpen();
+    if (isWritten) {
+        content.bytes([&](QByteArrayView piece) { isWritten = isWritten && writeAll(file.fd(), piece); });
+    }
+    if (!isWritten || ::fsync(file.fd()) != 0 || !file.close())
         return systemFailure(QStringLiteral("cannot write"), path);
     return Done{};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/ByteSink.h"
 #include "foundation/Result.h"
 
 #include <QByteArray>
@@ -17,7 +18,7 @@
 namespace AtomicFile {
 struct Content {
     QString path;
-    QByteArray bytes;
+    ByteSource bytes;
 };
 
 /// Replaces all files, or none. New files are readable by their owner alone; the folders must exist.

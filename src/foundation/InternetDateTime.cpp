@@ -1,20 +1,42 @@
 #include "foundation/InternetDateTime.h"
 
-#include <cstdio>
-
 using namespace std::chrono;
 
-QByteArray InternetDateTime::format(Instant instant)
+namespace {
+void writePair(char *place, unsigned value)
+{
+    place[0] = char('0' + value / 10);
+    place[1] = char('0' + value % 10);
+}
+} // namespace
+
+void InternetDateTime::write(Instant instant, char *place)
 {
     const auto wholeSeconds = floor<seconds>(instant);
     const auto midnight = floor<days>(wholeSeconds);
     const year_month_day date(midnight);
     const hh_mm_ss time(wholeSeconds - midnight);
-    char buffer[40];
-    const int length = std::snprintf(buffer, sizeof buffer, "%04d-%02u-%02uT%02d:%02d:%02dZ",
-        int(date.year()), unsigned(date.month()), unsigned(date.day()), int(time.hours().count()),
-        int(time.minutes().count()), int(time.seconds().count()));
-    return {buffer, length};
+    const auto yearNumber = unsigned(int(date.year()));
+    writePair(place, yearNumber / 100);
+    writePair(place + 2, yearNumber % 100);
+    place[4] = '-';
+    writePair(place + 5, unsigned(date.month()));
+    place[7] = '-';
+    writePair(place + 8, unsigned(date.day()));
+    place[10] = 'T';
+    writePair(place + 11, unsigned(time.hours().count()));
+    place[13] = ':';
+    writePair(place + 14, unsigned(time.minutes().count()));
+    place[16] = ':';
+    writePair(place + 17, unsigned(time.seconds().count()));
+    place[19] = 'Z';
+}
+
+QByteArray InternetDateTime::format(Instant instant)
+{
+    QByteArray text(length, Qt::Uninitialized);
+    write(instant, text.data());
+    return text;
 }
 
 namespace {

@@ -28,7 +28,7 @@ void DataFiles::load(qsizetype index, const std::function<bool(const QByteArray 
         m_unreadable.append(path);
 }
 
-Outcome DataFiles::save(const QList<QByteArray> &contents, Instant now)
+Outcome DataFiles::save(const QList<ByteSource> &contents, Instant now)
 {
     if (Outcome created = AtomicFile::createFolder(QFileInfo(m_paths.first()).absolutePath()); !created)
         return created;

@@ -28,7 +28,7 @@ public:
     void load(qsizetype index, const std::function<bool(const QByteArray &)> &decode);
 
     /// Replaces all files, in the order of their paths, or none. @p now names what is kept aside.
-    Outcome save(const QList<QByteArray> &contents, Instant now);
+    Outcome save(const QList<ByteSource> &contents, Instant now);
 
 private:
     QStringList m_paths;

@@ -1,25 +1,37 @@
 #pragma once
 
+#include "foundation/ByteSink.h"
+#include "foundation/Instant.h"
+
 #include <QByteArray>
 #include <QStringView>
+#include <QUuid>
 
-/// Writes an array of flat objects in the exact form of the data files: two-space indentation, a blank on
-/// both sides of the colon, every slash escaped, an empty array as "[", an empty line, "]". Keys must be
-/// added in ascending order.
+/// Writes an array of flat objects of strings in the exact form of the data files: UTF-8, two-space
+/// indentation, a blank on both sides of the colon, every slash escaped, an empty array as "[", an empty
+/// line, "]". Keys must be added in ascending order. A surrogate without its partner is written as U+FFFD.
 class JsonWriter
 {
 public:
+    explicit JsonWriter(const ByteSink &sink);
+
     void beginObject();
     void add(QByteArrayView key, QStringView value);
-    void addRaw(QByteArrayView key, QByteArrayView value); ///< for a value that needs no escaping
+    void add(QByteArrayView key, Instant value); ///< "2024-05-01T08:30:00Z"
+    void add(QByteArrayView key, QUuid value);   ///< 36 characters in upper case
     void endObject();
-    [[nodiscard]] QByteArray finish();
-    void reserve(qsizetype bytes) { m_bytes.reserve(bytes); }
+    void finish();
 
 private:
-    void beginMember(QByteArrayView key);
+    /// Makes room for at most so many bytes more and tells where to write them; written() is told where they
+    /// end.
+    char *grow(qsizetype most);
+    void written(const char *end) { m_size = end - m_buffer.constData(); }
+    char *beginMember(QByteArrayView key, qsizetype mostValue);
 
-    QByteArray m_bytes = "[\n";
+    const ByteSink &m_sink;
+    QByteArray m_buffer; ///< longer than what is written to it
+    qsizetype m_size = 0;
     bool m_hasObjects = false;
     bool m_hasMembers = false;
 };

@@ -10,11 +10,6 @@
 namespace dom = simdjson::dom;
 
 namespace {
-QByteArray uuidText(QUuid id)
-{
-    return id.toByteArray(QUuid::WithoutBraces).toUpper();
-}
-
 /// Exactly the 36 characters of the canonical form, in either case.
 std::optional<QUuid> parseUuid(std::string_view text)
 {
@@ -155,39 +150,39 @@ Result<QList<Record>> decode(QByteArrayView bytes)
 }
 } // namespace
 
-QByteArray noteEncoder::encode(const QList<Note> &notes)
+void noteEncoder::encode(const QList<Note> &notes, const ByteSink &sink)
 {
-    JsonWriter writer;
+    JsonWriter writer(sink);
     for (const Note &note : notes) {
         writer.beginObject();
-        writer.addRaw("createdAt", InternetDateTime::format(note.createdAt));
-        writer.addRaw("id", uuidText(note.id));
+        writer.add("createdAt", note.createdAt);
+        writer.add("id", note.id);
         if (note.link)
             writer.add("link", *note.link);
         if (note.quote)
             writer.add("quote", *note.quote);
         if (note.quoteID)
-            writer.addRaw("quoteID", uuidText(*note.quoteID));
+            writer.add("quoteID", *note.quoteID);
         writer.add("text", note.text);
         writer.endObject();
     }
-    return writer.finish();
+    writer.finish();
 }
 
-QByteArray noteEncoder::encode(const QList<Reminder> &reminders)
+void noteEncoder::encode(const QList<Reminder> &reminders, const ByteSink &sink)
 {
-    JsonWriter writer;
+    JsonWriter writer(sink);
     for (const Reminder &reminder : reminders) {
         writer.beginObject();
-        writer.addRaw("createdAt", InternetDateTime::format(reminder.createdAt));
-        writer.addRaw("fireAt", InternetDateTime::format(reminder.fireAt));
+        writer.add("createdAt", reminder.createdAt);
+        writer.add("fireAt", reminder.fireAt);
         writer.add("fullText", reminder.fullText);
-        writer.addRaw("id", uuidText(reminder.id));
-        writer.addRaw("noteID", uuidText(reminder.noteID));
+        writer.add("id", reminder.id);
+        writer.add("noteID", reminder.noteID);
         writer.add("text", reminder.text);
         writer.endObject();
     }
-    return writer.finish();
+    writer.finish();
 }
 
 Result<QList<Note>> noteDecoder::decodeNotes(QByteArrayView bytes)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/ByteSink.h"
 #include "foundation/Result.h"
 #include "model/Note.h"
 #include "model/Reminder.h"
@@ -10,8 +11,17 @@
 
 /// The JSON of the data files and of exports: UTF-8, pretty printed, keys sorted, absent optionals left out.
 namespace noteEncoder {
-[[nodiscard]] QByteArray encode(const QList<Note> &notes);
-[[nodiscard]] QByteArray encode(const QList<Reminder> &reminders);
+void encode(const QList<Note> &notes, const ByteSink &sink);
+void encode(const QList<Reminder> &reminders, const ByteSink &sink);
+
+/// The same, all at once.
+template <typename Record>
+[[nodiscard]] QByteArray encode(const QList<Record> &records)
+{
+    QByteArray bytes;
+    encode(records, [&bytes](QByteArrayView piece) { bytes.append(piece); });
+    return bytes;
+}
 } // namespace noteEncoder
 
 /// Strict: one element that is not as it should be fails the whole array. Unknown keys are ignored.

@@ -71,8 +71,10 @@ void NoteStore::load()
 void NoteStore::publishAndSave()
 {
     Q_EMIT notesChanged();
-    const Outcome saved =
-        m_files.save({noteEncoder::encode(m_notes), noteEncoder::encode(m_trash)}, m_clock.now());
+    const auto encoded = [](const QList<Note> &notes) -> ByteSource {
+        return [&notes](const ByteSink &sink) { noteEncoder::encode(notes, sink); };
+    };
+    const Outcome saved = m_files.save({encoded(m_notes), encoded(m_trash)}, m_clock.now());
     if (!saved)
         Log::line(QStringLiteral("failed to save notes: ") + saved.message());
 }

@@ -59,7 +59,8 @@ void ReminderStore::load()
 
 void ReminderStore::save()
 {
-    if (const Outcome saved = m_files.save({noteEncoder::encode(m_reminders)}, m_clock.now()); !saved)
+    const ByteSource encoded = [this](const ByteSink &sink) { noteEncoder::encode(m_reminders, sink); };
+    if (const Outcome saved = m_files.save({encoded}, m_clock.now()); !saved)
         Log::line(QStringLiteral("failed to save reminders: ") + saved.message());
 }
 

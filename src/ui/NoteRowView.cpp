@@ -18,7 +18,20 @@
 NoteRowView::NoteRowView(const TimelineModel &model, QObject *parent)
     : QStyledItemDelegate(parent)
     , m_model(model)
+    , m_layouts(200)
 {
+}
+
+NoteRowView::~NoteRowView() = default;
+
+const RowLayout &NoteRowView::layout(const Note &note, int width, const QPalette &palette) const
+{
+    const LayoutKey key{note.id, note.text, m_model.query(), width, NoteStyle::isDark(palette)};
+    if (const RowLayout *kept = m_layouts.object(key))
+        return *kept;
+    auto *made = new RowLayout(note.text, m_model.query(), width, palette);
+    m_layouts.insert(key, made); // which takes it, and drops one not used for long
+    return *made;
 }
 
 QSize NoteRowView::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -27,7 +40,7 @@ QSize NoteRowView::sizeHint(const QStyleOptionViewItem &option, const QModelInde
     const int width = option.rect.width();
     if (!row.note)
         return {width, Design::headerHeight};
-    return {width, RowLayout(row.note->text, m_model.query(), width, option.palette).height()};
+    return {width, layout(*row.note, width, option.palette).height()};
 }
 
 void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -49,18 +62,18 @@ void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, c
         painter->fillRect(
             option.rect, note.id == m_flashID ? NoteStyle::flash(palette) : NoteStyle::editing(palette));
     }
-    const RowLayout layout(note.text, m_model.query(), option.rect.width(), palette);
+    const RowLayout &parts = layout(note, option.rect.width(), palette);
     const QPoint origin = option.rect.topLeft();
     painter->setFont(NoteStyle::quoteFont());
     painter->setPen(NoteStyle::metaColor(palette));
-    painter->drawText(layout.timeRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
+    painter->drawText(parts.timeRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
         NoteFormatting::timeString(note.createdAt, calendar));
     if (row.hasReminder) {
-        Symbol::paint(*painter, layout.symbolRect().translated(origin), QStringLiteral("bell"),
+        Symbol::paint(*painter, parts.symbolRect().translated(origin), QStringLiteral("bell"),
             NoteStyle::metaColor(palette));
     }
     painter->setPen(NoteStyle::color(palette));
-    layout.drawText(*painter, origin);
+    parts.drawText(*painter, origin);
 }
 
 bool NoteRowView::helpEvent(

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QCache>
+#include <QPalette>
 #include <QStyledItemDelegate>
 #include <QUuid>
 
 #include <optional>
 
+class RowLayout;
 class TimelineModel;
+struct Note;
 
 /// Paints the rows of the timeline: day headers and notes.
 class NoteRowView final : public QStyledItemDelegate
@@ -14,6 +18,7 @@ class NoteRowView final : public QStyledItemDelegate
 
 public:
     explicit NoteRowView(const TimelineModel &model, QObject *parent = nullptr);
+    ~NoteRowView() override;
 
     void setEditingID(std::optional<QUuid> id) { m_editingID = id; }
     void setFlashID(std::optional<QUuid> id) { m_flashID = id; }
@@ -27,7 +32,24 @@ public:
         const QModelIndex &index) override;
 
 private:
+    /// What a note's layout follows from.
+    struct LayoutKey {
+        QUuid note;
+        QString text;
+        QString query;
+        int width = 0;
+        bool isDark = false;
+        bool operator==(const LayoutKey &) const = default;
+    };
+    friend size_t qHash(const LayoutKey &key, size_t seed = 0)
+    {
+        return qHashMulti(seed, key.note, key.query, key.width);
+    }
+    [[nodiscard]] const RowLayout &layout(const Note &note, int width, const QPalette &palette) const;
+
     const TimelineModel &m_model;
+    /// Of the rows in view and near it: breaking a text into lines takes longer than painting it.
+    mutable QCache<LayoutKey, RowLayout> m_layouts;
     std::optional<QUuid> m_editingID;
     std::optional<QUuid> m_flashID;
 };

@@ -3,6 +3,7 @@
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 
+#include <QPainter>
 #include <QPalette>
 #include <QTextCharFormat>
 
@@ -33,6 +34,7 @@ RowLayout::RowLayout(const QString &text, const QString &query, int width, const
 {
     const int textLeft = Design::edge + Design::timeColumn;
     const int textWidth = std::max(1, width - textLeft - Design::edge - Design::symbolSize - Design::grid);
+    m_text.setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_text.setTextOption(option);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace {
@@ -15,9 +16,21 @@ QByteArray coloured(const QString &name, const QColor &color)
 }
 } // namespace
 
-void Symbol::paint(QPainter &painter, const QRectF &rect, const QString &name, const QColor &color)
+void Symbol::paint(QPainter &painter, const QRect &rect, const QString &name, const QColor &color)
 {
-    QSvgRenderer(coloured(name, color)).render(&painter, rect);
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QString key = QStringLiteral("%1 %2 %3 %4").arg(name, color.name()).arg(rect.width()).arg(ratio);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap(rect.size() * ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter onPixmap(&pixmap);
+        QSvgRenderer(coloured(name, color)).render(&onPixmap);
+        onPixmap.end();
+        pixmap.setDevicePixelRatio(ratio);
+        QPixmapCache::insert(key, pixmap);
+    }
+    painter.drawPixmap(rect.topLeft(), pixmap);
 }
 
 QIcon Symbol::icon(const QString &name, const QColor &color, const QList<int> &sizes)

@@ -5,13 +5,13 @@
 #include <QString>
 
 class QPainter;
-class QRectF;
+class QRect;
 
 /// Quillet's own symbols, each one colour on a clear ground, drawn in the colour of the text they stand
 /// beside.
 namespace Symbol {
 /// @p name is a file under resources/symbols, without its ending.
-void paint(QPainter &painter, const QRectF &rect, const QString &name, const QColor &color);
+void paint(QPainter &painter, const QRect &rect, const QString &name, const QColor &color);
 
 [[nodiscard]] QIcon icon(const QString &name, const QColor &color, const QList<int> &sizes);
 } // namespace Symbol

@@ -11,6 +11,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace {
+AtomicFile::Content content(const QString &path, const QByteArray &bytes)
+{
+    return {path, [bytes](const ByteSink &sink) { sink(bytes); }};
+}
+} // namespace
+
 class AtomicFileTest final : public QObject
 {
     Q_OBJECT
@@ -73,7 +80,8 @@ private Q_SLOTS:
             if (child == 0) {
                 for (int i = 0;; ++i) {
                     const QByteArray number = QByteArray::number(i);
-                    (void)AtomicFile::replace({{m_notes, number + padding}, {m_trash, number + padding}});
+                    (void)AtomicFile::replace(
+                        {content(m_notes, number + padding), content(m_trash, number + padding)});
                 }
             }
             usleep(useconds_t(1000 + round * 700));
@@ -90,7 +98,7 @@ private Q_SLOTS:
     {
         writeFile(m_notes, "old notes");
         const QString nowhere = m_folder->filePath(QStringLiteral("missing/trash.json"));
-        QVERIFY(!AtomicFile::replace({{m_notes, "new"}, {nowhere, "new"}}));
+        QVERIFY(!AtomicFile::replace({content(m_notes, "new"), content(nowhere, "new")}));
         QCOMPARE(readFile(m_notes), "old notes");
         QCOMPARE(names(), QStringList{QStringLiteral("notes.json")});
     }
@@ -104,7 +112,7 @@ private Q_SLOTS:
             signal(SIGXFSZ, SIG_IGN);
             const rlimit limit{1000, 1000};
             setrlimit(RLIMIT_FSIZE, &limit);
-            _exit(AtomicFile::replace({{m_notes, QByteArray(5000, 'x')}}) ? 1 : 0);
+            _exit(AtomicFile::replace({content(m_notes, QByteArray(5000, 'x'))}) ? 1 : 0);
         }
         int status = -1;
         waitpid(child, &status, 0);
@@ -118,8 +126,8 @@ private Q_SLOTS:
         const QString elsewhere = m_folder->filePath(QStringLiteral("synced"));
         QDir().mkdir(elsewhere);
         QVERIFY(QFile::link(elsewhere + QStringLiteral("/real.json"), m_notes)); // to nothing, as yet
-        QVERIFY(AtomicFile::replace({{m_notes, "one"}}));
-        QVERIFY(AtomicFile::replace({{m_notes, "two"}}));
+        QVERIFY(AtomicFile::replace({content(m_notes, "one")}));
+        QVERIFY(AtomicFile::replace({content(m_notes, "two")}));
         QCOMPARE(QFile::symLinkTarget(m_notes), elsewhere + QStringLiteral("/real.json"));
         QCOMPARE(readFile(elsewhere + QStringLiteral("/real.json")), "two");
     }
@@ -130,7 +138,7 @@ private Q_SLOTS:
         const QString folder = m_folder->filePath(QStringLiteral("a/b"));
         QVERIFY(AtomicFile::createFolder(folder));
         QVERIFY(AtomicFile::createFolder(folder));
-        QVERIFY(AtomicFile::replace({{folder + QStringLiteral("/notes.json"), "x"}}));
+        QVERIFY(AtomicFile::replace({content(folder + QStringLiteral("/notes.json"), "x")}));
         const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
         QCOMPARE(QFile::permissions(folder + QStringLiteral("/notes.json")), owner);
         QCOMPARE(QFile::permissions(folder), owner | QFile::ExeOwner | QFile::ExeUser);

@@ -1,0 +1,39 @@
+// An empty program of Quillet's kind: a tray icon, the hot key, a panel of the same size with nothing in it.
+#include "desktop/X11HotKey.h"
+
+#include <QApplication>
+#include <QSystemTrayIcon>
+#include <QWidget>
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillet"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QPixmap pixmap(22, 22);
+    pixmap.fill(Qt::white);
+    QSystemTrayIcon icon{QIcon(pixmap)};
+    icon.show();
+
+    QWidget panel;
+    panel.setWindowTitle(QStringLiteral("Quillet"));
+    panel.setFixedSize(340, 480);
+    QPalette colors = panel.palette();
+    colors.setColor(
+        QPalette::Window, QColor(0xfa, 0xfa, 0xf8)); // as Quillet's panel, to be found the same way
+    panel.setPalette(colors);
+    panel.winId();
+
+    X11HotKey hotKey;
+    QObject::connect(&hotKey, &X11HotKey::pressed, &panel, [&panel, &hotKey] {
+        panel.setVisible(!panel.isVisible());
+        if (panel.isVisible()) {
+            panel.activateWindow();
+            hotKey.releaseKeyboard();
+        }
+    });
+    if (!hotKey.grab())
+        return 1;
+    return QApplication::exec();
+}
