@@ -75,9 +75,11 @@ void PanelController::toggle()
 void PanelController::place()
 {
     // On the screen where the person is; before it is shown, or it would be seen jumping.
-    const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (QGuiApplication::screens().size() > 1) { // to ask where the pointer is takes a while
+        if (const QScreen *pointed = QGuiApplication::screenAt(QCursor::pos()))
+            screen = pointed;
+    }
     const QRect available = screen->availableGeometry();
     const QSize size = Design::panelSize;
     m_window->move(available.right() - size.width() - Design::panelMargin,

@@ -4,6 +4,11 @@
 
 #include <QTimer>
 
+namespace {
+/// The panel is built after the desktop has taken in the icon, unless it is wanted sooner.
+constexpr std::chrono::milliseconds timeToSettle{200};
+} // namespace
+
 QuilletApp::QuilletApp(Start start)
     : m_notifications(m_clock)
     , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
@@ -20,14 +25,14 @@ QuilletApp::QuilletApp(Start start)
     connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
 
+    m_statusBar.install();
     m_delegate.didFinishLaunching();
     presentMissedReminders();
-    m_statusBar.install();
     m_service.publish();
     if (start == Start::VeryFirst)
         m_panel.open();
     else
-        QTimer::singleShot(0, &m_panel, &PanelController::prepare);
+        QTimer::singleShot(timeToSettle, &m_panel, &PanelController::prepare);
 }
 
 void QuilletApp::presentMissedReminders()

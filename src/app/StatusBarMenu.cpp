@@ -28,7 +28,7 @@ void StatusBarMenu::makeIcon()
     m_menu->addAction(L10n::text("退出"), qApp, &QApplication::quit);
     // A tray tells nobody its colour; most are dark.
     m_icon = std::make_unique<QSystemTrayIcon>(
-        Symbol::icon(QStringLiteral("menubar"), QColor(0xd0, 0xd2, 0xd6), {16, 22, 24, 32, 48, 64}));
+        Symbol::icon(QStringLiteral("menubar"), QColor(0xd0, 0xd2, 0xd6), {22, 44}));
     m_icon->setToolTip(QStringLiteral("Quillet"));
     m_icon->setContextMenu(m_menu.get());
     connect(

@@ -44,6 +44,12 @@ void call(const QString &method, const QVariantList &arguments, QObject *context
 NotificationServer::NotificationServer(QObject *parent)
     : QObject(parent)
 {
+    // The start is not held up by the bus.
+    QTimer::singleShot(0, this, &NotificationServer::attach);
+}
+
+void NotificationServer::attach()
+{
     auto *watcher = new QDBusServiceWatcher(service, bus(), QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString &, const QString &, const QString &newOwner) { onOwnerChanged(newOwner); });

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void onNotificationClosed(uint id, uint reason);
 
 private:
+    void attach();
     void onOwnerChanged(const QString &newOwner);
     void setAvailable(bool isAvailable);
 

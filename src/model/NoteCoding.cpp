@@ -5,26 +5,44 @@
 
 #include <QUrl>
 
+#include <array>
+
 #include <simdjson.h>
 
 namespace dom = simdjson::dom;
 
 namespace {
+/// -1 for what is no hexadecimal digit.
+constexpr int hexValue(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    const char lower = char(digit | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
 /// Exactly the 36 characters of the canonical form, in either case.
 std::optional<QUuid> parseUuid(std::string_view text)
 {
     if (text.size() != 36)
         return std::nullopt;
-    QByteArray hex;
-    hex.reserve(32);
+    std::array<uchar, 16> bytes{};
+    size_t digits = 0;
     for (size_t i = 0; i < text.size(); ++i) {
-        const bool isDash = i == 8 || i == 13 || i == 18 || i == 23;
-        if (isDash != (text[i] == '-') || (!isDash && !std::isxdigit(static_cast<unsigned char>(text[i]))))
+        if (i == 8 || i == 13 || i == 18 || i == 23) {
+            if (text[i] != '-')
+                return std::nullopt;
+            continue;
+        }
+        const int value = hexValue(text[i]);
+        if (value < 0)
             return std::nullopt;
-        if (!isDash)
-            hex.append(text[i]);
+        bytes[digits / 2] = uchar((bytes[digits / 2] << 4) | value);
+        ++digits;
     }
-    return QUuid::fromRfc4122(QByteArray::fromHex(hex));
+    return QUuid(uint(bytes[0]) << 24 | uint(bytes[1]) << 16 | uint(bytes[2]) << 8 | bytes[3],
+        ushort(bytes[4] << 8 | bytes[5]), ushort(bytes[6] << 8 | bytes[7]), bytes[8], bytes[9], bytes[10],
+        bytes[11], bytes[12], bytes[13], bytes[14], bytes[15]);
 }
 
 // Each reads one value into its place and tells whether it could.

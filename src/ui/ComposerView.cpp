@@ -125,11 +125,12 @@ void ComposerView::focusAtEnd()
 void ComposerView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF capsule = QRectF(m_field->geometry())
-                               .adjusted(-Design::edge, 0, Design::edge, 0)
-                               .adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(NoteStyle::hairline(palette()));
-    painter.setBrush(NoteStyle::fieldColor(palette()));
-    painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    m_capsule.paint(painter, *this, Qt::transparent, [this](QPainter &picture) {
+        const QRectF capsule = QRectF(m_field->geometry())
+                                   .adjusted(-Design::edge, 0, Design::edge, 0)
+                                   .adjusted(0.5, 0.5, -0.5, -0.5);
+        picture.setPen(NoteStyle::hairline(palette()));
+        picture.setBrush(NoteStyle::fieldColor(palette()));
+        picture.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    });
 }

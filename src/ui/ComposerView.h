@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reminders/ParsedReminder.h"
+#include "ui/StillPicture.h"
 
 #include <QWidget>
 
@@ -42,4 +43,5 @@ private:
     ReminderBar *m_reminderBar = nullptr;
     QLineEdit *m_field = nullptr;
     bool m_suppressReminder = false;
+    StillPicture m_capsule;
 };

@@ -6,6 +6,7 @@
 #include "ui/Design.h"
 #include "ui/NoteRowView.h"
 #include "ui/PanelState.h"
+#include "ui/SlimScrollBar.h"
 #include "ui/TimelineModel.h"
 
 #include <QClipboard>
@@ -36,6 +37,7 @@ NoteListView::NoteListView(
     setFocusPolicy(Qt::NoFocus);
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new SlimScrollBar(this));
     setVerticalScrollMode(ScrollPerPixel);
     viewport()->setAutoFillBackground(false);
     setItemDelegate(m_rows);

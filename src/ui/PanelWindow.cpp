@@ -18,6 +18,7 @@ PanelWindow::PanelWindow(ContentView *content)
     setObjectName(QStringLiteral("panel"));
     setFixedSize(Design::panelSize);
     setFocusProxy(m_content);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);
@@ -84,9 +85,9 @@ void PanelWindow::resizeEvent(QResizeEvent *event)
 void PanelWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), NoteStyle::background(palette()));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(NoteStyle::hairline(palette()));
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Design::panelRadius, Design::panelRadius);
+    m_frame.paint(painter, *this, NoteStyle::background(palette()), [this](QPainter &frame) {
+        frame.setPen(NoteStyle::hairline(palette()));
+        frame.drawRoundedRect(
+            QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Design::panelRadius, Design::panelRadius);
+    });
 }

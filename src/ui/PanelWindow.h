@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/StillPicture.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -31,4 +33,5 @@ private:
 
     ContentView *m_content = nullptr;
     QTimer m_focusCheck;
+    StillPicture m_frame;
 };

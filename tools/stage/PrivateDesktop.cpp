@@ -146,7 +146,7 @@ bool PrivateDesktop::waitUntil(const std::function<bool()> &holds, std::chrono::
         if (timer.elapsed() > limit.count())
             return false;
         QCoreApplication::processEvents();
-        QThread::msleep(5);
+        QThread::msleep(1);
     }
     return true;
 }
