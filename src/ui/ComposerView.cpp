@@ -4,12 +4,12 @@
 #include "model/NoteStore.h"
 #include "reminders/ReminderDetector.h"
 #include "text/L10n.h"
+#include "ui/ComposerField.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
 #include "ui/ReminderBar.h"
 
-#include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -24,7 +24,7 @@ ComposerView::ComposerView(
     , m_detector(detector)
     , m_clock(clock)
     , m_reminderBar(new ReminderBar(clock, this))
-    , m_field(new QLineEdit(this))
+    , m_field(new ComposerField(this))
 {
     m_field->setObjectName(QStringLiteral("composerField"));
     m_field->setFrame(false);
@@ -86,6 +86,11 @@ void ComposerView::updateReminderPreview()
 {
     const bool isOff = m_state.editingID() || m_suppressReminder;
     m_reminderBar->setPreview(isOff ? std::nullopt : detectedReminder());
+}
+
+bool ComposerView::isComposing() const
+{
+    return m_field->isComposing();
 }
 
 void ComposerView::submit()

@@ -8,10 +8,10 @@
 #include <optional>
 
 class Clock;
+class ComposerField;
 class DateDetecting;
 class NoteStore;
 class PanelState;
-class QLineEdit;
 class ReminderBar;
 
 /// The one line that is written in. Return saves the draft: as an edit, a note with a reminder, or a note.
@@ -25,6 +25,7 @@ public:
 
     /// Saves the draft and clears the field; a blank draft is only cleared.
     void submit();
+    [[nodiscard]] bool isComposing() const; ///< an input method is at work in the field
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -41,7 +42,7 @@ private:
     const DateDetecting &m_detector;
     const Clock &m_clock;
     ReminderBar *m_reminderBar = nullptr;
-    QLineEdit *m_field = nullptr;
+    ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
     StillPicture m_capsule;
 };

@@ -41,6 +41,11 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     connect(&m_state, &PanelState::openNote, this, &ContentView::openNote);
 }
 
+bool ContentView::isComposing() const
+{
+    return m_composer->isComposing();
+}
+
 void ContentView::openNote(QUuid id)
 {
     m_state.setJumpTargetID(id);

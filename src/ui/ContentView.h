@@ -21,6 +21,7 @@ public:
     ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector, const Clock &clock,
         QWidget *parent = nullptr);
 
+    [[nodiscard]] bool isComposing() const;
     [[nodiscard]] PanelState &state() { return m_state; }
     [[nodiscard]] NoteListView &timeline() { return *m_timeline; }
 

@@ -5,9 +5,9 @@
 #include "ui/NoteStyle.h"
 
 #include <QApplication>
+#include <QBitmap>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QVBoxLayout>
 
 PanelWindow::PanelWindow(ContentView *content)
@@ -41,8 +41,9 @@ bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
 
 bool PanelWindow::escape()
 {
-    // One layer at a time, from the inside out. (What an input method is composing never comes here: it takes
-    // the key.)
+    // One layer at a time, from the inside out.
+    if (m_content->isComposing())
+        return false;
     if (!m_content->state().draft().isEmpty())
         Q_EMIT m_content->state().clearComposer();
     else
@@ -77,9 +78,14 @@ void PanelWindow::checkFocus()
 void PanelWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    QPainterPath outline;
-    outline.addRoundedRect(rect(), Design::panelRadius, Design::panelRadius);
-    setMask(QRegion(outline.toFillPolygon().toPolygon()));
+    QBitmap outline(size());
+    outline.fill(Qt::color0);
+    QPainter painter(&outline);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(rect(), Design::panelRadius, Design::panelRadius);
+    painter.end();
+    setMask(outline);
 }
 
 void PanelWindow::paintEvent(QPaintEvent *)

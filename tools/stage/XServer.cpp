@@ -119,7 +119,7 @@ void XServer::fakeKey(std::uint8_t keycode, bool isPress)
     xcb_flush(m_connection);
 }
 
-void XServer::press(const QList<std::uint32_t> &keysyms)
+void XServer::hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time)
 {
     QList<std::uint8_t> keys;
     for (const std::uint32_t wanted : keysyms) {
@@ -128,6 +128,7 @@ void XServer::press(const QList<std::uint32_t> &keysyms)
     }
     for (const std::uint8_t key : std::as_const(keys))
         fakeKey(key, true);
+    QThread::msleep(static_cast<unsigned long>(time.count()));
     for (auto key = keys.crbegin(); key != keys.crend(); ++key)
         fakeKey(*key, false);
 }

@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 
 struct xcb_connection_t;
@@ -19,7 +20,8 @@ public:
     /// Types the text on a keyboard that has every character on a key of its own; real presses and releases.
     void type(const QString &text);
     /// Presses the keys, in this order, and releases them in reverse: "Control_L", "Alt_L", "space".
-    void press(const QList<std::uint32_t> &keysyms);
+    void press(const QList<std::uint32_t> &keysyms) { hold(keysyms, {}); }
+    void hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time);
     void click(QPoint where, int button = 1);
 
     [[nodiscard]] QImage screenshot() const;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// The line that is written in. While an input method composes, the keys are the input method's: what reaches
+/// the field all the same neither saves nor closes anything.
+class ComposerField final : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+
+    [[nodiscard]] bool isComposing() const { return m_isComposing; }
+
+protected:
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    bool m_isComposing = false;
+};

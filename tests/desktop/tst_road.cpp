@@ -1,0 +1,196 @@
+// The built program on private desktops: Xvfb, openbox, tint2, a session bus, and a notification server of
+// the test's.
+//
+// The program's clock is shifted so that the minute a reminder is due begins a few seconds after the start:
+// the test waits seconds, and the program knows of nothing.
+#include "foundation/Clock.h"
+#include "model/NoteCoding.h"
+#include "stage/NotificationRecorder.h"
+#include "stage/Road.h"
+#include "support/TestFiles.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class RoadTest final : public QObject
+{
+    Q_OBJECT
+
+    const QString m_program = QStringLiteral(PROGRAM);
+
+    static void writeReminders(const PrivateDesktop &desktop, const QList<Reminder> &reminders)
+    {
+        QDir().mkpath(QFileInfo(desktop.dataFile({})).path());
+        writeFile(desktop.dataFile(u"reminders.json"_s), noteEncoder::encode(reminders));
+        writeFile(desktop.dataFile(u".lock"_s), {}); // it has run before
+    }
+
+private Q_SLOTS:
+    void the_road_of_one_note()
+    {
+        PrivateDesktop desktop({});
+        Road road(desktop, m_program);
+        const QString draft = u"明天下午3点 交房租 #家"_s;
+        NotificationRecorder server(desktop.busAddress());
+
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        QVERIFY(road.waitForPanel(true)); // the very first start
+        desktop.screen().press({Keysym::escape});
+        QVERIFY(road.waitForPanel(false));
+
+        road.pressHotKey();
+        QVERIFY(road.waitForPanel(true));
+        QTest::qWait(200);
+        desktop.screen().type(draft);
+        QTest::qWait(200);
+        desktop.screen().press({Keysym::enter});
+        QTRY_COMPARE(road.savedReminders().size(), 1);
+        QCOMPARE(road.savedNotes().size(), 1);
+        const Note note = road.savedNotes().first();
+        QCOMPARE(note.text, draft);
+        const Calendar shanghai("Asia/Shanghai");
+        const Instant three =
+            *shanghai.instant(shanghai.day(shanghai.addingDays(SystemClock().now(), 1)), {15, 0});
+        QCOMPARE(road.savedReminders().first().fireAt, three);
+        QCOMPARE(road.savedReminders().first().noteID, note.id);
+
+        road.stop();
+        road.start(Road::shiftTo(three, 4s));
+        QVERIFY(road.waitForTrayIcon());
+        QVERIFY(!road.panel()); // later starts stay in the tray
+        QVERIFY(server.shown().isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(server.shown().size(), 1, 10'000);
+        QCOMPARE(server.shown().first().title, u"Quillet 提醒"_s);
+        QCOMPARE(server.shown().first().body, u"交房租 #家"_s);
+        QTRY_VERIFY(road.savedReminders().isEmpty());
+
+        server.click(server.shown().first().id);
+        QVERIFY(road.waitForPanel(true));
+        QVERIFY(PrivateDesktop::waitUntil([&road] { return road.isFlashing(); }, 3s));
+        QVERIFY(PrivateDesktop::waitUntil([&road] { return !road.isFlashing(); }, 3s));
+        QCOMPARE(road.savedNotes(), QList<Note>{note});
+        road.stop();
+    }
+
+    void a_second_start_opens_the_panel_of_the_first()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        QVERIFY(!road.panel());
+        const auto second = desktop.start(m_program);
+        QVERIFY(second->waitForFinished());
+        QCOMPARE(second->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(second->exitCode(), 0);
+        QVERIFY(road.waitForPanel(true));
+        QCOMPARE(road.process().state(), QProcess::Running);
+        road.stop();
+    }
+
+    void reminders_missed_while_not_running_are_shown_once()
+    {
+        PrivateDesktop desktop({});
+        NotificationRecorder server(desktop.busAddress());
+        const Instant now = std::chrono::floor<std::chrono::minutes>(SystemClock().now());
+        QList<Reminder> reminders;
+        for (int i = 1; i <= 7; ++i) {
+            reminders.append({QUuid::createUuid(), QUuid::createUuid(), u"第%1"_s.arg(i), u"x"_s,
+                now - std::chrono::hours(10 - i), now - std::chrono::hours(100)});
+        }
+        reminders.append(
+            {QUuid::createUuid(), QUuid::createUuid(), u"将来"_s, u"x"_s, now + std::chrono::hours(1), now});
+        writeReminders(desktop, reminders);
+
+        Road road(desktop, m_program);
+        for (int start = 0; start < 2; ++start) {
+            road.start();
+            QVERIFY(road.waitForTrayIcon());
+            QTRY_COMPARE(server.shown().size(), 6);
+            QTRY_COMPARE(road.savedReminders(), QList<Reminder>{reminders.last()});
+            QTest::qWait(300);
+            road.stop();
+        }
+        QCOMPARE(server.shown().first().body, u"第1\n第2"_s);
+        QCOMPARE(server.shown().last().body, u"第7"_s);
+    }
+
+    void the_hot_key_works_under_num_lock_and_toggles_once_a_press()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        desktop.screen().press({Keysym::numLock});
+        for (const bool opens : {true, false, true, false}) {
+            road.pressHotKey();
+            QVERIFY(road.waitForPanel(opens));
+        }
+        desktop.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms); // repeats meanwhile
+        QVERIFY(road.waitForPanel(true));
+        QTest::qWait(300);
+        QVERIFY(road.panel());
+        desktop.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms);
+        QVERIFY(road.waitForPanel(false));
+        QTest::qWait(300);
+        QVERIFY(!road.panel());
+        road.stop();
+    }
+
+    void a_taken_hot_key_is_one_line_in_the_log()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        desktop.screen().grabHotKey();
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        QByteArray log;
+        QTRY_VERIFY(
+            (log += road.process().readAll()).contains("Quillet: failed to register global hotkey: 10\n"));
+        road.stop();
+    }
+
+    void without_a_tray_the_panel_opens()
+    {
+        PrivateDesktop desktop({.hasTray = false});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForPanel(true));
+        QTest::qWait(200);
+        desktop.screen().type(u"买牛奶"_s);
+        QTest::qWait(200);
+        desktop.screen().press({Keysym::enter});
+        QTRY_COMPARE(road.savedNotes().size(), 1);
+        road.stop();
+    }
+
+    void a_program_killed_right_after_return_has_saved_the_note()
+    {
+        PrivateDesktop desktop({});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForPanel(true));
+        QTest::qWait(300);
+        desktop.screen().type(u"买牛奶"_s);
+        QTest::qWait(200);
+        desktop.screen().press({Keysym::enter});
+        QVERIFY(PrivateDesktop::waitUntil([&road] { return road.savedNotes().size() == 1; }));
+        road.process().kill();
+        QVERIFY(road.process().waitForFinished());
+        QCOMPARE(road.savedNotes().first().text, u"买牛奶"_s);
+        road.start();
+        QVERIFY(road.waitForTrayIcon()); // the lock went with the process
+        road.stop();
+    }
+};
+
+QTEST_GUILESS_MAIN(RoadTest)
+#include "tst_road.moc"

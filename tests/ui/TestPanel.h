@@ -1,0 +1,85 @@
+#pragma once
+
+#include "model/NoteCoding.h"
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "reminders/DateDetecting.h"
+#include "support/RecordingScheduler.h"
+#include "support/TestClock.h"
+#include "support/TestFiles.h"
+#include "ui/ComposerField.h"
+#include "ui/ContentView.h"
+#include "ui/NoteListView.h"
+#include "ui/PanelWindow.h"
+#include "ui/ReminderBar.h"
+
+#include <QAbstractItemModel>
+#include <QInputMethodEvent>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+/// The real panel over real stores in a temporary folder. It is Monday 2026-03-02 10:00 in Shanghai.
+class TestPanel final
+{
+public:
+    TestPanel()
+        : reminders(m_folder.filePath(QStringLiteral("reminders.json")), m_scheduler, clock)
+        , notes(m_folder.filePath(QStringLiteral("notes.json")), clock)
+        , content(new ContentView(notes, reminders, m_detector, clock))
+        , window(content)
+    {
+        notes.setReminderStore(&reminders);
+        window.show();
+        window.activateWindow();
+        Q_EMIT state().panelDidToggle();
+    }
+
+    ComposerField *field() { return window.findChild<ComposerField *>(); }
+    ReminderBar *reminderBar() { return window.findChild<ReminderBar *>(); }
+    NoteListView &list() { return content->timeline(); }
+    PanelState &state() { return content->state(); }
+
+    /// As an input method commits it, since key clicks know nothing but ASCII.
+    void type(const QString &text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QCoreApplication::sendEvent(field(), &event);
+    }
+    void compose(const QString &preedit)
+    {
+        QInputMethodEvent event(preedit, {});
+        QCoreApplication::sendEvent(field(), &event);
+    }
+    void press(Qt::Key key) { QTest::keyClick(field(), key); }
+
+    QStringList rows()
+    {
+        QStringList rows;
+        for (int row = 0; row < list().model()->rowCount(); ++row)
+            rows.append(list().model()->index(row, 0).data().toString());
+        return rows;
+    }
+    void doubleClick(int row)
+    {
+        const QPoint where = list().visualRect(list().model()->index(row, 0)).center();
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
+    }
+    QList<Note> savedNotes() const
+    {
+        return noteDecoder::decodeNotes(readFile(m_folder.filePath(QStringLiteral("notes.json")))).value();
+    }
+
+private:
+    QTemporaryDir m_folder;
+    RecordingScheduler m_scheduler;
+    NoDateDetector m_detector;
+
+public:
+    TestClock clock{"2026-03-02T02:00:00Z"};
+    ReminderStore reminders;
+    NoteStore notes;
+    ContentView *content; ///< the window's
+    PanelWindow window;
+};

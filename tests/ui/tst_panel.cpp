@@ -1,0 +1,175 @@
+// now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "ui/TestPanel.h"
+
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+class PanelTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_draft_with_a_time_becomes_a_note_with_a_reminder()
+    {
+        TestPanel panel;
+        panel.type(u"明天下午3点 交房租 #家"_s);
+        QVERIFY(panel.reminderBar()->isVisible());
+        QCOMPARE(panel.reminderBar()->text(), u"明天 15:00 · 交房租 #家"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.field()->text(), QString());
+        QVERIFY(!panel.reminderBar()->isVisible());
+        QCOMPARE(panel.rows(), (QStringList{u"今天 · 3月2日 星期一"_s, u"明天下午3点 交房租 #家"_s}));
+        QCOMPARE(panel.savedNotes().first().text, u"明天下午3点 交房租 #家"_s);
+        QCOMPARE(panel.reminders.reminders().first().text, u"交房租 #家"_s);
+        QCOMPARE(panel.reminders.reminders().first().fireAt, at("2026-03-03T07:00:00Z"));
+    }
+
+    void a_time_that_has_passed_makes_a_plain_note()
+    {
+        TestPanel panel;
+        panel.type(u"今天10点 开会"_s); // which is now
+        QCOMPARE(panel.reminderBar()->text(), u"时间已过，回车仅保存笔记"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().size(), 1);
+        QVERIFY(panel.reminders.reminders().isEmpty());
+    }
+
+    void a_dismissed_reminder_stays_away_until_the_field_is_empty()
+    {
+        TestPanel panel;
+        panel.type(u"明天9点 开会"_s);
+        QTest::mouseClick(panel.reminderBar()->findChild<QToolButton *>(), Qt::LeftButton);
+        QVERIFY(!panel.reminderBar()->isVisible());
+        panel.type(u"议"_s);
+        QVERIFY(!panel.reminderBar()->isVisible());
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().text, u"明天9点 开会议"_s);
+        QVERIFY(panel.reminders.reminders().isEmpty());
+        panel.type(u"明天9点 开会"_s);
+        QVERIFY(panel.reminderBar()->isVisible());
+    }
+
+    void a_blank_draft_is_cleared_and_not_saved()
+    {
+        TestPanel panel;
+        panel.type(u" \u3000"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.field()->text(), QString());
+        QVERIFY(panel.notes.notes().isEmpty());
+    }
+
+    void a_double_click_edits_in_place()
+    {
+        TestPanel panel;
+        const Note note = *panel.notes.add(u"买牛奶"_s);
+        panel.doubleClick(1);
+        QCOMPARE(panel.field()->text(), u"买牛奶"_s);
+        QCOMPARE(panel.field()->placeholderText(), u"编辑中，回车保存修改"_s);
+        QTRY_COMPARE(panel.field()->cursorPosition(), 3);
+        panel.type(u" 明天9点"_s);
+        panel.press(Qt::Key_Home);
+        panel.type(u"明天9点 "_s);
+        QVERIFY(!panel.reminderBar()->isVisible()); // an edit makes no reminder
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().size(), 1);
+        QCOMPARE(panel.savedNotes().first().id, note.id);
+        QCOMPARE(panel.savedNotes().first().text, u"明天9点 买牛奶 明天9点"_s);
+
+        panel.doubleClick(1);
+        panel.field()->clear(); // leaves the edit
+        QVERIFY(!panel.state().editingID());
+        panel.type(u"面包"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().size(), 2);
+    }
+
+    void a_reply_keeps_its_quote_and_makes_no_reminder()
+    {
+        TestPanel panel;
+        const Note quoted = *panel.notes.add(u"买牛奶"_s);
+        panel.state().setQuoting(quoted);
+        panel.type(u"明天9点 买"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().quoteID, quoted.id);
+        QVERIFY(panel.reminders.reminders().isEmpty());
+        QVERIFY(!panel.state().quoting());
+    }
+
+    void what_is_typed_filters_the_timeline()
+    {
+        TestPanel panel;
+        panel.notes.add(u"Die Straße fegen"_s);
+        panel.notes.add(u"买牛奶"_s);
+        panel.type(u"STRASSE"_s);
+        QCOMPARE(panel.rows().size(), 2);
+        QCOMPARE(panel.rows().last(), u"Die Straße fegen"_s);
+        panel.type(u"x"_s);
+        QVERIFY(panel.rows().isEmpty());
+        panel.press(Qt::Key_Escape);
+        QCOMPARE(panel.rows().size(), 3);
+    }
+
+    void escape_peels_one_layer_at_a_time()
+    {
+        TestPanel panel;
+        QSignalSpy escaped(&panel.window, &PanelWindow::escaped);
+        panel.type(u"牛奶"_s);
+        panel.compose(u"nai"_s);
+        panel.press(Qt::Key_Escape); // the input method's
+        QCOMPARE(panel.state().draft(), u"牛奶"_s);
+        panel.compose({});
+        panel.press(Qt::Key_Escape);
+        QCOMPARE(panel.field()->text(), QString());
+        QCOMPARE(escaped.count(), 0);
+        panel.press(Qt::Key_Escape);
+        QCOMPARE(escaped.count(), 1);
+    }
+
+    void nothing_is_saved_while_an_input_method_composes()
+    {
+        TestPanel panel;
+        panel.type(u"买"_s);
+        panel.compose(u"niunai"_s);
+        panel.press(Qt::Key_Return);
+        QVERIFY(panel.notes.notes().isEmpty());
+        panel.type(u"牛奶"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().text, u"买牛奶"_s);
+    }
+
+    void a_jump_shows_the_note_and_lights_it_up()
+    {
+        TestPanel panel;
+        const Note target = *panel.notes.add(u"目标"_s);
+        for (int i = 0; i < 200; ++i) {
+            panel.clock.advance(std::chrono::minutes(1));
+            panel.notes.add(u"一条写得比较长、在面板里要占上好几行才能显示完的笔记，第%1条"_s.arg(i));
+        }
+        panel.type(u"别的"_s); // hides it
+        Q_EMIT panel.state().openNote(target.id);
+        QTRY_COMPARE(panel.list().flashID(), target.id);
+        QCOMPARE(panel.field()->text(), QString());
+        QVERIFY(!panel.state().jumpTargetID());
+        const QModelIndex last = panel.list().model()->index(panel.list().model()->rowCount() - 1, 0);
+        QTRY_VERIFY(panel.list().viewport()->rect().contains(panel.list().visualRect(last)));
+        QTRY_VERIFY(!panel.list().flashID());
+    }
+
+    void an_older_flash_does_not_put_out_a_newer_one()
+    {
+        TestPanel panel;
+        const Note first = *panel.notes.add(u"一"_s);
+        const Note second = *panel.notes.add(u"二"_s);
+        panel.list().scrollAndFlash(first.id, false);
+        QTest::qWait(300);
+        panel.list().scrollAndFlash(second.id, false);
+        QTest::qWait(300); // the first flash is over
+        QCOMPARE(panel.list().flashID(), second.id);
+        QTRY_VERIFY(!panel.list().flashID());
+    }
+};
+
+QTEST_MAIN(PanelTest)
+#include "tst_panel.moc"

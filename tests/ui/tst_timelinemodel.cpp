@@ -1,0 +1,81 @@
+// now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "support/RecordingScheduler.h"
+#include "support/TestClock.h"
+#include "ui/TimelineModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TimelineModelTest final : public QObject
+{
+    Q_OBJECT
+
+    static QStringList rows(const TimelineModel &model)
+    {
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row)
+            rows.append(model.index(row).data().toString());
+        return rows;
+    }
+    static QList<int> places(const QSignalSpy &spy)
+    {
+        QList<int> places;
+        for (const QList<QVariant> &arguments : spy)
+            places << arguments[1].toInt() << arguments[2].toInt();
+        return places;
+    }
+
+private Q_SLOTS:
+    void rows_come_and_go_where_the_store_changes()
+    {
+        const QTemporaryDir folder;
+        TestClock clock("2026-03-02T02:00:00Z");
+        RecordingScheduler scheduler;
+        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
+        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
+        notes.setReminderStore(&reminders);
+        TimelineModel model(notes, reminders, clock);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+        const Note oldest = *notes.add(u"一"_s);
+        clock.advance(std::chrono::hours(24));
+        const Note middle = *notes.add(u"二"_s);
+        const Note newest = *notes.add(u"三"_s);
+        QCOMPARE(rows(model),
+            (QStringList{u"今天 · 3月3日 星期二"_s, u"三"_s, u"二"_s, u"3月2日 星期一"_s, u"一"_s}));
+
+        QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+        QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        notes.update(middle.id, u"改"_s);
+        QCOMPARE(changed.takeFirst()[0].toModelIndex().row(), 2);
+        notes.remove(newest.id);
+        QCOMPARE(places(removed), (QList<int>{1, 1}));
+        removed.clear();
+        notes.remove(oldest.id); // its day goes with it
+        QCOMPARE(places(removed), (QList<int>{2, 3}));
+        notes.restore(oldest.id);
+        QCOMPARE(places(inserted), (QList<int>{2, 3}));
+        QCOMPARE(changed.count(), 0);
+
+        reminders.schedule(middle.id, at("2026-03-04T01:00:00Z"), u"改"_s, u"改"_s);
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(model.row(1).hasReminder);
+
+        removed.clear();
+        model.setQuery(u"一"_s);
+        QCOMPARE(rows(model), (QStringList{u"3月2日 星期一"_s, u"一"_s}));
+        QCOMPARE(places(removed), (QList<int>{0, 1}));
+        QCOMPARE(model.indexOf(middle.id), QModelIndex());
+        QCOMPARE(model.indexOf(oldest.id).row(), 1);
+    }
+};
+
+QTEST_MAIN(TimelineModelTest)
+#include "tst_timelinemodel.moc"
