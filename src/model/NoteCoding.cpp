@@ -149,6 +149,8 @@ Result<QList<Record>> decode(QByteArrayView bytes)
 {
     dom::parser parser;
     dom::array array;
+    if (bytes.isEmpty())
+        return Failure{QStringLiteral("the text is empty")}; // there may not even be a pointer to it
     // simdjson skips a byte order mark, which our form does not have.
     if (bytes.startsWith("\xEF\xBB\xBF"))
         return Failure{QStringLiteral("the text begins with a byte order mark")};

@@ -1,5 +1,6 @@
 #include "reminders/ReminderDetector.h"
 
+#include "reminders/LanguageDetection.h"
 #include "reminders/ReminderParser.h"
 
 #include <algorithm>
@@ -53,7 +54,7 @@ std::optional<ParsedReminder> ReminderDetector::detect(
     const QStringView trimmed = text.trimmed();
     if (trimmed.isEmpty())
         return std::nullopt;
-    const ReminderLanguage language = ReminderLanguages::detect(trimmed);
+    const ReminderLanguage language = LanguageDetection::detect(trimmed);
     if (auto parsed = ReminderParser::parse(trimmed, now, calendar, language))
         return parsed;
 

@@ -37,9 +37,10 @@ class NotificationsTest final : public QObject
     }
     std::optional<AuthorizationStatus> status()
     {
-        std::optional<AuthorizationStatus> status;
-        m_center->notificationAuthorizationStatus([&status](AuthorizationStatus told) { status = told; });
-        return status;
+        // The answer may come when nobody waits for it any more.
+        const auto status = std::make_shared<std::optional<AuthorizationStatus>>();
+        m_center->notificationAuthorizationStatus([status](AuthorizationStatus told) { *status = told; });
+        return *status;
     }
 
 private Q_SLOTS:

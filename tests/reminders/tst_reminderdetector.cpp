@@ -1,4 +1,5 @@
 // now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
 #include "support/TestClock.h"
 
@@ -108,7 +109,7 @@ private Q_SLOTS:
         QList<TextRange> ranges;
         for (const QString &date : std::as_const(dates))
             ranges.append({text.indexOf(date), text.indexOf(date) + date.size()});
-        QTEST(ReminderDetector::mergedContent(text, ranges, ReminderLanguages::detect(text)), "content");
+        QTEST(ReminderDetector::mergedContent(text, ranges, LanguageDetection::detect(text)), "content");
     }
 };
 

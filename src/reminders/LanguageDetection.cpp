@@ -1,4 +1,4 @@
-#include "reminders/ReminderLanguage.h"
+#include "reminders/LanguageDetection.h"
 
 #include "foundation/Regex.h"
 #include "reminders/languages/Languages.h"
@@ -113,7 +113,7 @@ ReminderLanguage detectLatin(QStringView text)
 }
 } // namespace
 
-ReminderLanguage ReminderLanguages::detect(QStringView text)
+ReminderLanguage LanguageDetection::detect(QStringView text)
 {
     const Scripts scripts(text);
     if (scripts.hangul)

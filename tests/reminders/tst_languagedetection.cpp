@@ -1,11 +1,11 @@
-#include "reminders/ReminderLanguage.h"
+#include "reminders/LanguageDetection.h"
 
 #include <QTest>
 
 using enum ReminderLanguage;
 Q_DECLARE_METATYPE(ReminderLanguage)
 
-class ReminderLanguageTest final : public QObject
+class LanguageDetectionTest final : public QObject
 {
     Q_OBJECT
 
@@ -58,9 +58,9 @@ private Q_SLOTS:
     void a_draft_belongs_to_the_first_language_that_marks_it()
     {
         QFETCH(QString, text);
-        QTEST(ReminderLanguages::detect(text), "language");
+        QTEST(LanguageDetection::detect(text), "language");
     }
 };
 
-QTEST_APPLESS_MAIN(ReminderLanguageTest)
-#include "tst_reminderlanguage.moc"
+QTEST_APPLESS_MAIN(LanguageDetectionTest)
+#include "tst_languagedetection.moc"
