@@ -108,22 +108,22 @@ void DesktopNotificationCenter::armTimer()
         m_timer.start(m_pending.first().minute);
 }
 
-void DesktopNotificationCenter::collectDue()
+bool DesktopNotificationCenter::collectDue()
 {
     const Instant now = m_clock.now();
+    const qsizetype before = m_due.size();
     while (!m_pending.isEmpty() && m_pending.first().minute <= now)
         m_due.append(m_pending.takeFirst());
     armTimer();
+    return m_due.size() > before;
 }
 
 void DesktopNotificationCenter::presentDue()
 {
-    collectDue();
-    if (m_due.isEmpty())
-        return;
+    const bool hasNew = collectDue();
     if (m_server.isAvailable() != true) {
-        if (m_server.isAvailable() == false)
-            QTimer::singleShot(timeToRetry, &m_server, &NotificationServer::query);
+        if (hasNew && m_server.isAvailable() == false)
+            m_server.query(); // there may be one that only needs to be started
         return;
     }
     const QList<NotificationRequest> due = std::exchange(m_due, {});
@@ -140,6 +140,6 @@ void DesktopNotificationCenter::present(const NotificationRequest &request)
             return;
         }
         m_due.append(request);
-        QTimer::singleShot(timeToRetry, &m_server, &NotificationServer::query);
+        QTimer::singleShot(timeToRetry, this, &DesktopNotificationCenter::presentDue);
     });
 }

@@ -37,7 +37,7 @@ Q_SIGNALS:
 
 private:
     void armTimer();
-    void collectDue();
+    bool collectDue(); ///< whether there was any
     void presentDue();
     void present(const NotificationRequest &request);
     void onAvailabilityChanged();

@@ -74,11 +74,12 @@ void NotificationServer::query()
 
 void NotificationServer::onOwnerChanged(const QString &newOwner)
 {
+    if (m_isAvailable == true)
+        setAvailable(false);
     if (!newOwner.isEmpty()) {
         query(); // capabilities are the new server's
         return;
     }
-    setAvailable(false);
     QTimer::singleShot(timeToComeBack, this, [this] {
         if (m_isAvailable == false)
             query();
@@ -87,6 +88,8 @@ void NotificationServer::onOwnerChanged(const QString &newOwner)
 
 void NotificationServer::setAvailable(bool isAvailable)
 {
+    if (m_isAvailable == isAvailable)
+        return;
     m_isAvailable = isAvailable;
     Q_EMIT availabilityChanged();
 }

@@ -29,8 +29,8 @@ public:
     void show(const Notification &notification, std::function<void(std::optional<uint> id)> shown);
 
 Q_SIGNALS:
-    /// A server has answered, or none has. Also when one server has taken the place of another: old ids are
-    /// void then.
+    /// A server answers now, or none does any more. When one takes the place of another both are told, in
+    /// turn.
     void availabilityChanged();
     void clicked(uint id);
     void closed(uint id);

@@ -31,7 +31,10 @@ TrayHost::TrayHost(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &TrayHost::look);
     m_patience.setSingleShot(true);
     m_patience.setInterval(2s);
-    connect(&m_patience, &QTimer::timeout, this, &TrayHost::missing);
+    connect(&m_patience, &QTimer::timeout, this, [this] {
+        m_timer.setInterval(5s);
+        Q_EMIT missing();
+    });
 }
 
 void TrayHost::watch()

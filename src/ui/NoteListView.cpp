@@ -59,22 +59,18 @@ NoteListView::NoteListView(
 
 void NoteListView::setModel(QAbstractItemModel *model)
 {
-    QAbstractItemView::setModel(model);
-    forgetHeights();
-    // Before the view is told, which then asks where its rows are.
+    // Connected before the base class is: whatever it asks for when rows come or go, the heights are in step.
     connect(model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first, int last) {
         m_heights.insert(m_heights.begin() + first, size_t(last - first + 1), 0);
-        m_tops.clear();
-        updateGeometries();
-        viewport()->update();
+        heightsDidChange();
     });
     connect(model, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex &, int first, int last) {
         m_heights.erase(m_heights.begin() + first, m_heights.begin() + last + 1);
-        m_tops.clear();
-        updateGeometries();
-        viewport()->update();
+        heightsDidChange();
     });
     connect(model, &QAbstractItemModel::modelReset, this, &NoteListView::forgetHeights);
+    QAbstractItemView::setModel(model);
+    forgetHeights();
 }
 
 // What the person does
@@ -185,9 +181,15 @@ void NoteListView::scrollTo(const QModelIndex &index, ScrollHint hint)
 
 void NoteListView::forgetHeights()
 {
-    m_heights.assign(size_t(model()->rowCount()), 0);
+    m_heights.assign(size_t(m_timeline.rowCount()), 0);
+    heightsDidChange();
+}
+
+void NoteListView::heightsDidChange()
+{
     m_tops.clear();
     updateGeometries();
+    viewport()->update();
 }
 
 int NoteListView::estimatedHeight(int row) const
@@ -221,49 +223,43 @@ int NoteListView::rowAt(int y) const
     return std::clamp(int(next - tops().begin()) - 1, 0, std::max(0, int(m_heights.size()) - 1));
 }
 
-void NoteListView::measureVisibleRows()
+bool NoteListView::measure(int firstRow, int lastRow)
 {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     option.rect = viewport()->rect();
-    // A measured row moves those below it, which may bring others into view.
-    for (bool hasChanged = true; hasChanged && !m_heights.empty();) {
-        hasChanged = false;
-        const int last = rowAt(verticalOffset() + viewport()->height());
-        for (int row = rowAt(verticalOffset()); row <= last; ++row) {
-            if (m_heights[size_t(row)] == 0) {
-                m_heights[size_t(row)] = m_rows->sizeHint(option, m_timeline.index(row)).height();
-                hasChanged = true;
-            }
+    bool hasChanged = false;
+    for (int row = firstRow; row <= lastRow && row < int(m_heights.size()); ++row) {
+        if (m_heights[size_t(row)] == 0) {
+            m_heights[size_t(row)] = m_rows->sizeHint(option, m_timeline.index(row)).height();
+            hasChanged = true;
         }
-        if (hasChanged)
-            m_tops.clear();
+    }
+    if (hasChanged)
+        m_tops.clear();
+    return hasChanged;
+}
+
+void NoteListView::measureVisibleRows()
+{
+    // A measured row moves those below it, which may bring others into view.
+    while (measure(rowAt(verticalOffset()), rowAt(verticalOffset() + viewport()->height()))) {
     }
 }
 
 int NoteListView::centredOffset(int row)
 {
     // The rows around it are measured first, so that the end of the way is exact.
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    option.rect = viewport()->rect();
-    const int first = rowAt(tops()[size_t(row)] - viewport()->height());
-    const int last = rowAt(tops()[size_t(row)] + viewport()->height());
-    for (int near = first; near <= last; ++near) {
-        if (m_heights[size_t(near)] == 0)
-            m_heights[size_t(near)] = m_rows->sizeHint(option, m_timeline.index(near)).height();
-    }
-    m_tops.clear();
+    const int page = viewport()->height();
+    measure(rowAt(tops()[size_t(row)] - page), rowAt(tops()[size_t(row)] + page));
     updateGeometries();
     const int middle = (tops()[size_t(row)] + tops()[size_t(row) + 1]) / 2;
-    return std::clamp(middle - viewport()->height() / 2, 0, verticalScrollBar()->maximum());
+    return std::clamp(middle - page / 2, 0, verticalScrollBar()->maximum());
 }
 
 void NoteListView::updateGeometries()
 {
     QAbstractItemView::updateGeometries();
-    if (m_heights.empty() && tops().empty())
-        return;
     const int page = viewport()->height();
     verticalScrollBar()->setPageStep(page);
     verticalScrollBar()->setSingleStep(Design::headerHeight);
@@ -298,8 +294,7 @@ void NoteListView::dataChanged(
 {
     QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
     std::fill(m_heights.begin() + topLeft.row(), m_heights.begin() + bottomRight.row() + 1, 0);
-    m_tops.clear();
-    viewport()->update();
+    heightsDidChange();
 }
 
 void NoteListView::resizeEvent(QResizeEvent *event)

@@ -55,6 +55,8 @@ private:
     void setFlashID(std::optional<QUuid> id);
 
     void forgetHeights();
+    void heightsDidChange();
+    bool measure(int firstRow, int lastRow); ///< whether any of them had not been measured yet
     void measureVisibleRows();
     [[nodiscard]] int estimatedHeight(int row) const;
     [[nodiscard]] const std::vector<int> &tops() const;
