@@ -4,10 +4,10 @@
 #include "model/NoteCoding.h"
 #include "stage/Road.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
 #include <QThread>
 
 #include <algorithm>
@@ -133,8 +133,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "usage: quillet-bench-desktop QUILLET PEER [ROUNDS]\n");
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     const QString quillet = QDir().absoluteFilePath(QString::fromLocal8Bit(argv[1]));
     const QString peer = QDir().absoluteFilePath(QString::fromLocal8Bit(argv[2]));
     const int rounds = argc > 3 ? std::max(1, atoi(argv[3])) : 9;

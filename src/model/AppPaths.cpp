@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 
 namespace {
 Outcome move(const QString &name, const QString &oldFolder, const QString &newFolder)
@@ -21,7 +20,10 @@ Outcome move(const QString &name, const QString &oldFolder, const QString &newFo
 
 QString AppPaths::applicationSupport()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    // A relative path would mean another folder at every start; the base directory specification has it
+    // ignored.
+    const QString told = qEnvironmentVariable("XDG_DATA_HOME");
+    return QDir::isAbsolutePath(told) ? told : QDir::homePath() + QStringLiteral("/.local/share");
 }
 
 QString AppPaths::dataFolder()

@@ -82,7 +82,7 @@ void NoteListView::queryDidChange()
     viewport()->update(); // the hits in the rows that stay are others
 }
 
-void NoteListView::edit(QUuid noteID)
+void NoteListView::beginEditing(QUuid noteID)
 {
     const auto note = m_notes.note(noteID);
     if (!note)
@@ -97,7 +97,7 @@ void NoteListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->position().toPoint());
     if (index.isValid() && m_timeline.row(index.row()).note)
-        edit(m_timeline.row(index.row()).note->id);
+        beginEditing(m_timeline.row(index.row()).note->id);
 }
 
 void NoteListView::contextMenuEvent(QContextMenuEvent *event)

@@ -50,7 +50,7 @@ protected:
 
 private:
     void queryDidChange();
-    void edit(QUuid noteID);
+    void beginEditing(QUuid noteID);
     void jumpToExternalTarget();
     void setFlashID(std::optional<QUuid> id);
 

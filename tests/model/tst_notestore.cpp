@@ -206,6 +206,14 @@ private Q_SLOTS:
         QCOMPARE(texts(notes->notes()), QStringList{u"留着"_s});
     }
 
+    void a_relative_data_folder_is_ignored()
+    {
+        qputenv("XDG_DATA_HOME", "relative");
+        QCOMPARE(AppPaths::dataFolder(), QDir::homePath() + u"/.local/share/Quillet"_s);
+        qputenv("XDG_DATA_HOME", "/tmp/elsewhere");
+        QCOMPARE(AppPaths::dataFolder(), u"/tmp/elsewhere/Quillet"_s);
+    }
+
     void data_moves_once_out_of_the_legacy_folder()
     {
         const QString base = m_folder->path();

@@ -3,8 +3,8 @@
 #include "foundation/Clock.h"
 #include "stage/Road.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -101,8 +101,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "usage: quillet-tour PROGRAM FOLDER\n");
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     const QString folder = QString::fromLocal8Bit(argv[2]);
     QDir().mkpath(folder);
 
