@@ -77,11 +77,10 @@ Outcome stage(const AtomicFile::Content &content)
 {
     const QString path = stagedPath(content.path);
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    bool isWritten = file.isOpen();
-    if (isWritten) {
-        content.bytes([&](QByteArrayView piece) { isWritten = isWritten && writeAll(file.fd(), piece); });
-    }
-    if (!isWritten || ::fsync(file.fd()) != 0 || !file.close())
+    bool isGood = file.isOpen();
+    if (isGood)
+        content.bytes([&](QByteArrayView piece) { isGood = isGood && writeAll(file.fd(), piece); });
+    if (!isGood || ::fsync(file.fd()) != 0 || !file.close())
         return systemFailure(QStringLiteral("cannot write"), path);
     return Done{};
 }
@@ -99,6 +98,15 @@ Outcome syncFoldersOf(const QStringList &paths)
             return systemFailure(QStringLiteral("cannot sync"), folder);
     }
     return Done{};
+}
+
+Outcome stageAll(const QList<AtomicFile::Content> &contents, const QStringList &paths)
+{
+    for (const AtomicFile::Content &content : contents) {
+        if (Outcome staged = stage(content); !staged)
+            return staged;
+    }
+    return syncFoldersOf(paths);
 }
 
 /// The last first: a half-written later file must never stand alone and look like a commit.
@@ -170,17 +178,9 @@ Outcome AtomicFile::replace(const QList<Content> &contents)
     // A commit whose renaming failed half-way must be complete before its staged files are written over.
     if (Outcome earlier = recover(paths); !earlier)
         return earlier;
-    for (const Content &content : contents) {
-        if (Outcome staged = stage(content); !staged) {
-            if (!discardStaged(paths))
-                return Failure{staged.message() + QStringLiteral(" (and cannot remove what was staged)")};
-            return staged;
-        }
-    }
-    if (Outcome synced = syncFoldersOf(paths); !synced) {
-        if (!discardStaged(paths))
-            return Failure{synced.message() + QStringLiteral(" (and cannot remove what was staged)")};
-        return synced;
+    if (Outcome staged = stageAll(contents, paths); !staged) {
+        (void)discardStaged(paths); // what cannot be removed now is discarded before the next commit
+        return staged;
     }
     return renameStaged(paths);
 }
