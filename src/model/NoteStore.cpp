@@ -5,6 +5,8 @@
 #include "model/AppPaths.h"
 #include "model/NoteCoding.h"
 #include "model/ReminderStore.h"
+#include "text/NoteHighlighting.h"
+#include "text/TagEditing.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -70,6 +72,7 @@ void NoteStore::load()
 
 void NoteStore::publishAndSave()
 {
+    m_tagSummaries.reset();
     Q_EMIT notesChanged();
     const auto encoded = [](const QList<Note> &notes) -> ByteSource {
         return [&notes](const ByteSink &sink) { noteEncoder::encode(notes, sink); };
@@ -188,6 +191,95 @@ qsizetype NoteStore::importNotes(const QList<Note> &incoming)
     sortNewestFirst(m_notes);
     publishAndSave();
     return added.size();
+}
+
+const QList<TagSummary> &NoteStore::tagSummaries() const
+{
+    if (m_tagSummaries)
+        return *m_tagSummaries;
+    QList<TagSummary> &summaries = m_tagSummaries.emplace();
+    QHash<QString, qsizetype> indexOfName;
+    for (const Note &note : m_notes) {
+        for (const QString &tag : NoteHighlighting::tags(note.text)) {
+            const QString name = tag.sliced(1);
+            const auto found = indexOfName.constFind(name);
+            if (found != indexOfName.cend()) {
+                ++summaries[*found].count;
+            } else {
+                indexOfName.insert(name, summaries.size());
+                summaries.append({name, 1});
+            }
+        }
+    }
+    return summaries;
+}
+
+QStringList NoteStore::tags() const
+{
+    QStringList names;
+    for (const TagSummary &summary : tagSummaries())
+        names.append(summary.name);
+    return names;
+}
+
+qsizetype NoteStore::noteCount(const QString &tag) const
+{
+    const auto holdsTag = [&tag](const Note &note) { return TagEditing::occurrences(tag, note.text) > 0; };
+    return std::count_if(m_notes.begin(), m_notes.end(), holdsTag)
+           + std::count_if(m_trash.begin(), m_trash.end(), holdsTag);
+}
+
+void NoteStore::renameTag(const QString &from, const QString &to)
+{
+    const QString name = TagEditing::trimmedOfBlanks(to).toString();
+    const bool isName = !name.isEmpty() && name != from
+                        && std::none_of(name.begin(), name.end(),
+                            [](QChar character) { return QStringView(u" \t#@").contains(character); });
+    if (!isName)
+        return;
+    bool hasChanged = false;
+    for (QList<Note> *list : {&m_notes, &m_trash}) {
+        for (Note &note : *list) {
+            if (TagEditing::occurrences(from, note.text) == 0)
+                continue;
+            note.text = TagEditing::replacingTag(note.text, from, name);
+            dropDerived(note.id);
+            hasChanged = true;
+        }
+    }
+    if (hasChanged)
+        publishAndSave();
+}
+
+void NoteStore::removeTag(const QString &tag)
+{
+    bool hasChanged = false;
+    // Takes the tag out of the notes, and the notes that this leaves empty out of the list.
+    const auto takeOut = [&](QList<Note> &notes) {
+        QList<Note> emptied;
+        QList<Note> kept;
+        for (Note &note : notes) {
+            const bool holdsTag = TagEditing::occurrences(tag, note.text) > 0;
+            if (holdsTag) {
+                note.text = TagEditing::removingTag(note.text, tag);
+                dropDerived(note.id);
+                hasChanged = true;
+            }
+            (holdsTag && note.text.isEmpty() ? emptied : kept).append(note);
+        }
+        notes = kept;
+        return emptied;
+    };
+    const QList<Note> emptied = takeOut(m_notes);
+    takeOut(m_trash);
+    if (!hasChanged)
+        return;
+    if (m_reminderStore) {
+        for (const Note &note : emptied)
+            m_reminderStore->cancelForNote(note.id);
+    }
+    m_trash = emptied + m_trash;
+    publishAndSave();
 }
 
 QList<DaySection> NoteStore::groupByDay(const QList<Note> &notes, const Calendar &calendar)

@@ -4,6 +4,7 @@
 #include "model/DataFiles.h"
 #include "model/DaySection.h"
 #include "model/Note.h"
+#include "model/TagSummary.h"
 #include "reminders/ParsedReminder.h"
 #include "search/FoldedTextIndex.h"
 
@@ -50,6 +51,17 @@ public:
     /// Adds the notes whose id is in neither list, and tells how many these were.
     qsizetype importNotes(const QList<Note> &incoming);
 
+    /// In the order in which the notes, from the newest on, first write them.
+    [[nodiscard]] const QList<TagSummary> &tagSummaries() const;
+    [[nodiscard]] QStringList tags() const; ///< the names of the summaries
+    /// How many notes, the trash included, a change of the tag would touch.
+    [[nodiscard]] qsizetype noteCount(const QString &tag) const;
+    /// Also in the trash. A name that exists already merges the two tags for good. An empty name, or one with
+    /// a space, a tab, "#" or "@" in it, changes nothing.
+    void renameTag(const QString &from, const QString &to);
+    /// Also in the trash. A live note left empty moves to the trash, a trashed one is gone.
+    void removeTag(const QString &tag);
+
     /// One section for each day, both in the order given.
     [[nodiscard]] static QList<DaySection> groupByDay(const QList<Note> &notes, const Calendar &calendar);
     /// The live notes that contain the query, case aside; all of them when it is blank.
@@ -71,4 +83,5 @@ private:
     QList<Note> m_notes;
     QList<Note> m_trash;
     mutable FoldedTextIndex m_foldedTexts;
+    mutable std::optional<QList<TagSummary>> m_tagSummaries; ///< nothing when to be counted anew
 };

@@ -165,6 +165,56 @@ private Q_SLOTS:
         QCOMPARE(notes->trashDaySections().first().notes.first().text, u"anders"_s); // by the day of writing
     }
 
+    void tags_are_counted_from_the_newest_note_on()
+    {
+        const auto notes = store();
+        notes->add(u"#a"_s);
+        notes->add(u"#b #a x#a #A"_s);
+        notes->remove(notes->add(u"#c"_s)->id);
+        QCOMPARE(notes->tagSummaries(), (QList<TagSummary>{{u"b"_s, 1}, {u"a"_s, 3}, {u"A"_s, 1}}));
+        QCOMPARE(notes->noteCount(u"a"_s), 2);
+        QCOMPARE(notes->noteCount(u"c"_s), 1); // in the trash
+    }
+
+    void a_tag_is_renamed_everywhere_and_may_merge()
+    {
+        const auto notes = store();
+        const Note trashed = *notes->add(u"旧 #work"_s);
+        notes->remove(trashed.id);
+        notes->add(u"#work #working #job"_s);
+        QSignalSpy changed(notes.get(), &NoteStore::notesChanged);
+        for (const QString &name : {u"work"_s, u" "_s, u"#job"_s, u"job x"_s, u"a\tb"_s, u"a@b"_s})
+            notes->renameTag(u"work"_s, name);
+        notes->renameTag(u"none"_s, u"job"_s);
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(notes->daySections(u"#WORK #"_s).size(), 1);
+        notes->renameTag(u"work"_s, u" job\t"_s);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(texts(notes->notes()), QStringList{u"#job #working #job"_s});
+        QCOMPARE(texts(notes->trash()), QStringList{u"旧 #job"_s});
+        QCOMPARE(notes->tagSummaries(), (QList<TagSummary>{{u"job"_s, 2}, {u"working"_s, 1}}));
+        QVERIFY(notes->daySections(u"#WORK #"_s).isEmpty());
+    }
+
+    void a_note_that_was_only_the_tag_leaves_with_it()
+    {
+        RecordingScheduler scheduler;
+        ReminderStore reminders(path(u"reminders.json"_s), scheduler, m_clock);
+        const auto notes = store();
+        notes->setReminderStore(&reminders);
+        notes->remove(notes->add(u"#x"_s)->id);
+        notes->remove(notes->add(u"留 #x"_s)->id);
+        notes->add(u"buy #x milk"_s);
+        const Note only =
+            *notes->add(u"#x #x"_s, {}, {}, ParsedReminder{at("2026-03-03T07:00:00Z"), u"#x"_s});
+        notes->removeTag(u"x"_s);
+        QCOMPARE(texts(notes->notes()), QStringList{u"buy milk"_s});
+        QCOMPARE(texts(notes->trash()), (QStringList{u""_s, u"留"_s}));
+        QCOMPARE(notes->trash().first().id, only.id);
+        QVERIFY(reminders.reminders().isEmpty());
+        QCOMPARE(savedTexts(u"trash.json"_s), (QStringList{u""_s, u"留"_s}));
+    }
+
     void a_file_that_cannot_be_understood_is_kept_aside_before_it_is_replaced()
     {
         QDir().mkpath(path({}));

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/TextRange.h"
+
+#include <QList>
+#include <QString>
+
+/// The tags within a text: a "#" and what follows it up to white space, "#" or "@", exactly as written. A
+/// tag's name is what stands behind its "#".
+namespace TagEditing {
+struct Token {
+    TextRange range;
+    QString text; ///< with its "#"
+    bool operator==(const Token &) const = default;
+};
+
+/// Without spaces and tabs at both ends; line breaks stay.
+[[nodiscard]] QStringView trimmedOfBlanks(QStringView text);
+
+[[nodiscard]] QList<Token> tokens(QStringView text);
+
+/// How often the tag stands in the text.
+[[nodiscard]] qsizetype occurrences(QStringView tag, QStringView text);
+
+/// The text with one tag written as another; only whole tags are.
+[[nodiscard]] QString replacingTag(QStringView text, QStringView from, QStringView to);
+
+/// The text without the tag, and without the second of two spaces that this would leave behind. Trimmed of
+/// spaces and tabs, not of line breaks.
+[[nodiscard]] QString removingTag(QStringView text, QStringView tag);
+} // namespace TagEditing
