@@ -45,16 +45,16 @@ bool PanelController::isOpen() const
 
 void PanelController::open()
 {
-    const bool wasOpen = isOpen();
     prepare();
-    if (!wasOpen) {
-        place();
-        m_window->show();
+    if (isOpen()) {
+        m_window->raise();
+        m_window->activateWindow();
+        return;
     }
-    m_window->raise();
+    place();
+    m_window->show();
     m_window->activateWindow();
-    if (!wasOpen)
-        Q_EMIT m_content->state().panelDidToggle();
+    Q_EMIT m_content->state().panelDidToggle();
 }
 
 void PanelController::close()

@@ -17,6 +17,9 @@ const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString interface = QStringLiteral("org.freedesktop.Notifications");
 
+/// To ask for the server may start it, which should not hold up the start of the program.
+constexpr std::chrono::milliseconds timeToStart{100};
+
 /// A server that went away may be coming back on its own, or be startable; asking too soon would start a
 /// second one.
 constexpr std::chrono::seconds timeToComeBack{2};
@@ -44,8 +47,7 @@ void call(const QString &method, const QVariantList &arguments, QObject *context
 NotificationServer::NotificationServer(QObject *parent)
     : QObject(parent)
 {
-    // The start is not held up by the bus.
-    QTimer::singleShot(0, this, &NotificationServer::attach);
+    QTimer::singleShot(timeToStart, this, &NotificationServer::attach);
 }
 
 void NotificationServer::attach()
