@@ -77,3 +77,15 @@ std::vector<Regex::Match> Regex::allMatches(QStringView text) const
     search(text, false, matches);
     return matches;
 }
+
+QString Regex::replaced(QStringView text, QStringView replacement) const
+{
+    QString result;
+    qsizetype cursor = 0;
+    for (const Match &match : allMatches(text)) {
+        result += text.sliced(cursor, match.range().start - cursor);
+        result += replacement;
+        cursor = match.range().end;
+    }
+    return result += text.sliced(cursor);
+}

@@ -45,6 +45,8 @@ public:
     [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
     /// From left to right, not overlapping.
     [[nodiscard]] std::vector<Match> allMatches(QStringView text) const;
+    /// The text with every match written as @p replacement, which is taken as it is.
+    [[nodiscard]] QString replaced(QStringView text, QStringView replacement) const;
     [[nodiscard]] bool matchesIn(QStringView text) const { return firstMatch(text).has_value(); }
 
 private:

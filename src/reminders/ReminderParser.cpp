@@ -1,9 +1,8 @@
 #include "reminders/ReminderParser.h"
 
+#include "foundation/Digits.h"
 #include "foundation/Regex.h"
 #include "reminders/languages/Languages.h"
-
-#include <QList>
 
 #include <algorithm>
 
@@ -33,28 +32,18 @@ std::optional<QStringView> token(const Regex::Match &match, int group, int other
     return std::nullopt;
 }
 
-/// Digits of any script: "１５" is 15.
-int number(QStringView digits)
-{
-    int value = 0;
-    const QList<uint> scalars = digits.toUcs4();
-    for (const char32_t digit : scalars)
-        value = value * 10 + QChar::digitValue(digit);
-    return value;
-}
-
 std::optional<int> firstNumber(QStringView text)
 {
     static const Regex digits(QStringLiteral(R"(\d{1,2})"));
     const auto match = digits.firstMatch(text);
-    return match ? std::optional(number(sliced(text, match->range()))) : std::nullopt;
+    return match ? std::optional(Digits::value(sliced(text, match->range()))) : std::nullopt;
 }
 
 std::optional<int> capturedNumber(const Regex &regex, QStringView text)
 {
     const auto match = regex.firstMatch(text);
     const auto range = match ? match->group(1) : std::nullopt;
-    return range ? std::optional(number(sliced(text, *range))) : std::nullopt;
+    return range ? std::optional(Digits::value(sliced(text, *range))) : std::nullopt;
 }
 
 bool contains(const std::vector<QStringView> &words, QStringView word)
@@ -120,7 +109,7 @@ AbsoluteDate resolveAbsoluteDate(const QString &lowered, Calendar::Day today, co
 
     const auto existing = [](Calendar::Day date) { return date.ok() ? std::optional(date) : std::nullopt; };
     const auto numberIn = [&lowered](const Regex::Match &match, int group) {
-        return number(sliced(lowered, *match.group(group)));
+        return Digits::value(sliced(lowered, *match.group(group)));
     };
     if (const auto match = yearMonthDay.firstMatch(lowered)) {
         return {true, existing({year(numberIn(*match, 1)), month(unsigned(numberIn(*match, 2))),

@@ -1,0 +1,29 @@
+#include "foundation/Charset.h"
+
+#include <unicode/ucnv.h>
+#include <unicode/ucnv_err.h>
+
+#include <memory>
+
+std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &name)
+{
+    if (name.isEmpty())
+        return std::nullopt; // which ICU takes for its default
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(
+        ucnv_open(name.constData(), &status), &ucnv_close);
+    if (U_FAILURE(status))
+        return std::nullopt;
+    ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+
+    // No encoding makes more than two UTF-16 units of a byte.
+    QString text(bytes.size() * 2 + 2, Qt::Uninitialized);
+    auto *target = reinterpret_cast<char16_t *>(text.data());
+    const char *source = bytes.data();
+    ucnv_toUnicode(converter.get(), &target, target + text.size(), &source, bytes.data() + bytes.size(),
+        nullptr, true, &status);
+    if (U_FAILURE(status))
+        return std::nullopt;
+    text.truncate(target - reinterpret_cast<const char16_t *>(text.constData()));
+    return text;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "foundation/Calendar.h"
+#include "foundation/Result.h"
+#include "model/Note.h"
+
+#include <QByteArrayView>
+#include <QList>
+
+namespace NoteFileCodec {
+/// The notes of an import file: JSON in the form of the data files, or else Markdown, whose notes without a
+/// date are of today. Fails with "unrecognizedFormat" when it is no JSON and Markdown yields no note.
+[[nodiscard]] Result<QList<Note>> decode(QByteArrayView bytes, Instant now, const Calendar &calendar);
+} // namespace NoteFileCodec

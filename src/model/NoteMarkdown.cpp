@@ -1,0 +1,162 @@
+#include "model/NoteMarkdown.h"
+
+#include "foundation/Digits.h"
+#include "foundation/Regex.h"
+#include "text/TagEditing.h"
+
+using namespace std::chrono;
+
+namespace {
+/// The Unicode line breaks, unit by unit: "\r\n" is two of them.
+bool isNewline(QChar character)
+{
+    return QStringView(u"\n\r\u0085\u2028\u2029").contains(character);
+}
+
+QString onOneLine(QString text)
+{
+    for (QChar &character : text) {
+        if (isNewline(character))
+            character = u' ';
+    }
+    return text;
+}
+
+/// "2024-3-5" or "2024/03/05", anywhere in the line.
+std::optional<Calendar::Day> findDay(QStringView line)
+{
+    static const Regex pattern(QStringLiteral(R"((\d{4})[-/](\d{1,2})[-/](\d{1,2}))"));
+    const auto match = pattern.firstMatch(line);
+    if (!match)
+        return std::nullopt;
+    const auto number = [&](int group) {
+        return Digits::value(line.sliced(match->group(group)->start, match->group(group)->length()));
+    };
+    const Calendar::Day found{year(number(1)), month(unsigned(number(2))), day(unsigned(number(3)))};
+    return found.ok() ? std::optional(found) : std::nullopt;
+}
+
+struct TimePrefix {
+    std::optional<seconds> time; ///< of the day
+    QStringView rest;
+};
+
+TimePrefix splitTimePrefix(QStringView text)
+{
+    static const Regex pattern(QStringLiteral(R"(^(\d{1,2}):(\d{2})(?::(\d{2}))?\s+)"));
+    const auto match = pattern.firstMatch(text);
+    if (!match)
+        return {std::nullopt, text};
+    const auto number = [&](int group) {
+        const auto range = match->group(group);
+        return range ? Digits::value(text.sliced(range->start, range->length())) : 0;
+    };
+    const int hour = number(1);
+    const int minute = number(2);
+    const int second = number(3);
+    if (hour > 23 || minute > 59)
+        return {std::nullopt, text};
+    // Seconds that no clock shows are read, and count as none.
+    return {
+        hours(hour) + minutes(minute) + seconds(second < 60 ? second : 0), text.sliced(match->range().end)};
+}
+
+QStringView withoutListMarker(QStringView line)
+{
+    static const Regex pattern(QStringLiteral(R"(^(?:[-*+]|\d{1,3}[.)])\s+(?:\[[ xX]\]\s+)?)"));
+    const auto match = pattern.firstMatch(line);
+    return match ? line.sliced(match->range().end) : line;
+}
+
+/// Reads line after line and remembers what the next one belongs to.
+class Parser final
+{
+public:
+    Parser(Instant fallbackDay, const Calendar &calendar)
+        : m_calendar(calendar)
+        , m_day(calendar.startOfDay(fallbackDay))
+    {
+    }
+
+    void read(QStringView line)
+    {
+        if (line.isEmpty())
+            m_takesQuote = false;
+        else if (line.startsWith(u'#'))
+            readHeading(line);
+        else if (line.startsWith(u'>'))
+            readQuote(TagEditing::trimmedOfBlanks(line.sliced(1)));
+        else
+            readNote(line);
+    }
+    [[nodiscard]] const QList<Note> &notes() const { return m_notes; }
+
+private:
+    void readHeading(QStringView line)
+    {
+        m_takesQuote = false;
+        if (const auto day = findDay(line)) {
+            m_day = m_calendar.startOfDay(*day);
+            m_untimed = 0;
+        }
+    }
+    void readQuote(QStringView text)
+    {
+        if (!m_takesQuote || text.isEmpty())
+            return;
+        std::optional<QString> &quote = m_notes.last().quote;
+        quote = quote ? *quote + u'\n' + text.toString() : text.toString();
+    }
+    void readNote(QStringView line)
+    {
+        const TimePrefix split = splitTimePrefix(withoutListMarker(line));
+        const QStringView text = TagEditing::trimmedOfBlanks(split.rest);
+        if (text.isEmpty())
+            return;
+        const seconds ofDay = split.time ? *split.time : seconds(m_untimed++);
+        m_notes.append({QUuid::createUuid(), text.toString(), {}, {}, {}, m_day + ofDay});
+        m_takesQuote = true;
+    }
+
+    const Calendar &m_calendar;
+    Instant m_day;
+    int m_untimed = 0; ///< notes of the day without a time
+    bool m_takesQuote = false;
+    QList<Note> m_notes;
+};
+} // namespace
+
+QString NoteMarkdown::exported(const QList<Note> &notes, const Calendar &calendar)
+{
+    QString text;
+    std::optional<Calendar::Day> current;
+    for (const Note &note : notes) {
+        const Calendar::Day date = calendar.day(note.createdAt);
+        if (date != current) {
+            if (current)
+                text += u'\n';
+            text += QString::asprintf(
+                "# %04d-%02u-%02u\n\n", int(date.year()), unsigned(date.month()), unsigned(date.day()));
+            current = date;
+        }
+        const Calendar::TimeOfDay time = calendar.timeOfDay(note.createdAt);
+        text += QString::asprintf("- %02d:%02d ", time.hour, time.minute) + onOneLine(note.text) + u'\n';
+        const QString quote = note.quote ? onOneLine(note.quote->trimmed()) : QString();
+        if (!quote.isEmpty())
+            text += QStringLiteral("  > ") + quote + u'\n';
+    }
+    return text.isEmpty() ? QStringLiteral("\n") : text;
+}
+
+QList<Note> NoteMarkdown::parse(QStringView text, Instant fallbackDay, const Calendar &calendar)
+{
+    Parser parser(fallbackDay, calendar);
+    qsizetype start = 0;
+    for (qsizetype end = 0; end <= text.size(); ++end) {
+        if (end == text.size() || isNewline(text[end])) {
+            parser.read(TagEditing::trimmedOfBlanks(text.sliced(start, end - start)));
+            start = end + 1;
+        }
+    }
+    return parser.notes();
+}

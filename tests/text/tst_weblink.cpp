@@ -1,0 +1,137 @@
+#include "text/LocalFile.h"
+#include "text/WebLink.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class WebLinkTest final : public QObject
+{
+    Q_OBJECT
+
+    static QString orNone(const std::optional<QString> &text) { return text.value_or(u"(none)"_s); }
+    static void textRow(const char *text, const char *expected)
+    {
+        QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(expected);
+    }
+
+private Q_SLOTS:
+    void a_link_is_a_single_web_address_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        textRow(" https://a.example/x?y=1#z \n", "https://a.example/x?y=1#z");
+        textRow("HTTP://A.Example/%7Ex", "HTTP://A.Example/%7Ex"); // as it was typed
+        textRow("https://a.example/中文?q=值", "https://a.example/%E4%B8%AD%E6%96%87?q=%E5%80%BC");
+        textRow("https://a.example/a|b", "https://a.example/a%7Cb");
+        textRow("https://a.example/ x", "(none)");
+        textRow("https://a.example/\u3000x", "(none)");
+        textRow("https:///path", "(none)");
+        textRow("https://", "(none)");
+        textRow("http://[::1", "(none)");
+        textRow("ftp://a.example/", "(none)");
+        textRow("a.example/x", "(none)");
+        textRow("", "(none)");
+    }
+    void a_link_is_a_single_web_address()
+    {
+        QFETCH(QString, text);
+        QTEST(orNone(WebLink::detect(text)), "expected");
+    }
+
+    void a_title_is_one_line_of_words_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        textRow("<TITLE lang=en>  A\n  &amp; B </title>", "A & B");
+        textRow("<title>a</title><title>b</title>", "a");
+        textRow("<title>x\u00A0&nbsp;y</TITLE>",
+            "x  y"); // the reference is decoded after the spaces are run together
+        textRow("<title> &nbsp; </title>", "(none)");
+        textRow("<title>a<b>c</title>", "a<b>c");
+        textRow("<title", "(none)");
+        textRow("<title>a", "(none)");
+        textRow("no title", "(none)");
+    }
+    void a_title_is_one_line_of_words()
+    {
+        QFETCH(QString, text);
+        QTEST(orNone(WebLink::parseTitle(text)), "expected");
+    }
+
+    void entities_are_decoded_by_the_rule_of_ten_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        textRow("&#x4e2d;&#25991;&#X1F600;", "中文😀");
+        textRow("&lt;&gt;&quot;&apos;&amp;amp;", "<>\"'&amp;");
+        textRow("&AMP; &unknown; &copy; & amp; &", "&AMP; &unknown; &copy; & amp; &");
+        textRow("&#xZZ; &#; &#x; &#-1; &#+65; &# 65;", "&#xZZ; &#; &#x; &#-1; &#+65; &# 65;");
+        textRow("&#xD800; &#x110000; &#x10FFFF;", "&#xD800; &#x110000; \U0010FFFF");
+        textRow("&#00000065;", "A");             // ten from "&" to ";"
+        textRow("&#000000065;", "&#000000065;"); // eleven
+        textRow("&&amp;;", "&&;");
+        textRow("&#4294967361;", "&#4294967361;"); // does not wrap round
+    }
+    void entities_are_decoded_by_the_rule_of_ten()
+    {
+        QFETCH(QString, text);
+        QTEST(WebLink::decodeEntities(text), "expected");
+    }
+
+    void a_page_is_read_in_the_first_encoding_that_fits_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("contentType");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const QByteArray &bytes, const char *contentType,
+                             const char *expected) {
+            QTest::newRow(name) << bytes << QString::fromUtf8(contentType) << QString::fromUtf8(expected);
+        };
+        row("as told", "\x93\xfa\x96\x7b", "text/html; charset=Shift_JIS", "日本");
+        row("the first charset counts", "\xe6\x97\xa5", "text/html;charset=nonsense; charset=Shift_JIS",
+            "日");
+        row("a wrong one is passed over", "\xe6\x97\xa5\xff", "text/html; CHARSET=utf-8", "(none)");
+        row("UTF-8 untold", "\xe6\x97\xa5", "", "日");
+        row("GB 18030 at last", "\xd6\xd0\xce\xc4", "text/html", "中文");
+        row("an empty name", "\xd6\xd0\xce\xc4", "text/html; charset=", "中文");
+        row("in none of them", "\xff\xff", "", "(none)");
+        row("cut off", "\xe6\x97", "text/html; charset=utf-8", "鏃"); // which is a character in GB 18030
+        row("nothing", "", "", "");
+    }
+    void a_page_is_read_in_the_first_encoding_that_fits()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, contentType);
+        QTEST(orNone(WebLink::decodeHTML(
+                  bytes, contentType.isEmpty() ? std::nullopt : std::optional(contentType))),
+            "expected");
+    }
+
+    void a_file_must_exist()
+    {
+        const QTemporaryDir folder;
+        const QString plain = folder.filePath(u"a b.txt"_s);
+        const QString odd = folder.filePath(u"50% \\ #1.txt"_s);
+        for (const QString &path : {plain, odd}) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QCOMPARE(LocalFile::detect(u" "_s + plain + u"\n"_s), plain);
+        QCOMPARE(LocalFile::detect(u"'"_s + plain + u"'"_s), plain);
+        QCOMPARE(LocalFile::detect(QString(plain).replace(u" "_s, u"\\ "_s)), plain);
+        QCOMPARE(LocalFile::detect(u"FILE://"_s + QString(plain).replace(u" "_s, u"%20"_s)), plain);
+        QCOMPARE(LocalFile::detect(odd), odd); // as it stands before its backslash is taken for a shell's
+        QCOMPARE(LocalFile::detect(folder.path()), folder.path());
+        QCOMPARE(LocalFile::detect(u"~"_s), QDir::homePath());
+        for (const QString &none : {u"/nowhere/at/all"_s, u"a b.txt"_s, u"''"_s, u"'"_s, u""_s,
+                 u"~nobody/x"_s, u"file:///nowhere"_s, u"\""_s + plain + u"'"_s})
+            QCOMPARE(LocalFile::detect(none), std::nullopt);
+    }
+};
+
+QTEST_APPLESS_MAIN(WebLinkTest)
+#include "tst_weblink.moc"
