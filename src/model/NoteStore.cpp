@@ -314,9 +314,13 @@ QList<DaySection> NoteStore::daySections(const QString &query) const
     return groupByDay(found, m_clock.calendar());
 }
 
+QList<DaySection> NoteStore::groupTrashByDay(QList<Note> trash, const Calendar &calendar)
+{
+    sortNewestFirst(trash);
+    return groupByDay(trash, calendar);
+}
+
 QList<DaySection> NoteStore::trashDaySections() const
 {
-    QList<Note> sorted = m_trash;
-    sortNewestFirst(sorted);
-    return groupByDay(sorted, m_clock.calendar());
+    return groupTrashByDay(m_trash, m_clock.calendar());
 }

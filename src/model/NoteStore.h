@@ -64,9 +64,10 @@ public:
 
     /// One section for each day, both in the order given.
     [[nodiscard]] static QList<DaySection> groupByDay(const QList<Note> &notes, const Calendar &calendar);
+    /// By the day the notes were written, the newest first.
+    [[nodiscard]] static QList<DaySection> groupTrashByDay(QList<Note> trash, const Calendar &calendar);
     /// The live notes that contain the query, case aside; all of them when it is blank.
     [[nodiscard]] QList<DaySection> daySections(const QString &query) const;
-    /// By the day the notes were written, the newest first.
     [[nodiscard]] QList<DaySection> trashDaySections() const;
 
 Q_SIGNALS:

@@ -1,0 +1,115 @@
+// The probe as a script uses it: a line in, a line out.
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class ProbeTest final : public QObject
+{
+    Q_OBJECT
+
+    QProcess m_probe;
+
+    QByteArray ask(const QByteArray &line)
+    {
+        m_probe.write(line + '\n');
+        while (!m_probe.canReadLine()) {
+            if (!m_probe.waitForReadyRead(10'000))
+                return "no answer";
+        }
+        return m_probe.readLine().chopped(1);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_probe.start(QStringLiteral(PROBE), QStringList());
+        QVERIFY(m_probe.waitForStarted());
+    }
+    void cleanupTestCase()
+    {
+        m_probe.closeWriteChannel(); // the end of input ends it
+        QVERIFY(m_probe.waitForFinished());
+        QCOMPARE(m_probe.exitCode(), 0);
+    }
+
+    void each_line_is_answered_by_one_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("answer"); // or how it begins
+        const auto row = [](const char *request, const char *answer) {
+            QTest::newRow(request) << QByteArray(request).replace('\'', '"')
+                                   << QByteArray(answer).replace('\'', '"');
+        };
+        row("{'op':'detect','text':'明天下午3点 交房租 "
+            "#家','now':'2026-03-02T02:00:00Z','timeZone':'Asia/Shanghai'}",
+            "{'ok':{'content':'交房租 #家','fireAt':'2026-03-03T07:00:00Z'}}");
+        row("", "{'error':");
+        row("[1]", "{'error':");
+        row("{'op':'nothing of the kind'}", "{'error':");
+        row("{'op':'tags'}", "{'error':");
+        row("{'op':'tags','text':1}", "{'error':");
+        row("{'op':'decodeNotes','base64':'W10'}x", "{'error':");
+        row("{'op':'decodeNotes','base64':'!'}", "{'error':");
+        row("{'op':'decodeImport','base64':''}", "{'error':'unrecognizedFormat'}");
+        row("{'op':'parse','text':'9am','language':'latin','now':'2026-03-02T02:00:00Z'}", "{'error':");
+        row("{'op':'mergedContent','text':'ab','ranges':[[1,2]],'language':'english'}", "{'error':");
+        row("{'op':'activeToken','text':'#a','cursor':3}", "{'error':");
+        row("{'op':'resolveTime','timeToken':'12点','period':'晚上','language':'chinese'}",
+            "{'ok':{'dayOffset':1,'hour':0,'minute':0}}");
+        row("{'op':'resolveTime','timeToken':'noon','period':null,'language':'english'}", "{'ok':null}");
+        row("{'op':'resolveDay','dateToken':'3月5日','now':'2026-03-05T15:59:59.999Z','timeZone':'Asia/"
+            "Shanghai','language':'chinese'}",
+            "{'ok':'2026-03-05'}");
+        row("{'op':'timeString','date':'2026-03-05T15:59:59Z','timeZone':'Asia/Shanghai'}", "{'ok':'23:59'}");
+    }
+    void each_line_is_answered_by_one()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QByteArray, answer);
+        const QByteArray given = ask(request);
+        QVERIFY2(answer.endsWith('}') ? given == answer : given.startsWith(answer), given.constData());
+    }
+
+    void stores_are_driven_step_by_step()
+    {
+        const QTemporaryDir folder;
+        const QByteArray request = QByteArray(
+            "{'op':'store','folder':'FOLDER','now':'2026-03-02T02:00:00.250Z','timeZone':'Asia/"
+            "Shanghai','steps':["
+            "{'do':'add','text':' x #t "
+            "','as':'a','reminder':{'fireAt':'2026-03-03T07:00:40Z','content':'x'},'reminderAs':'r'},"
+            "{'do':'add','text':'y','quoting':'a','as':'b'},{'do':'latestReply','id':'a'},{'do':'"
+            "tagSummaries'},"
+            "{'do':'hasReminder','noteID':'a'},{'do':'cancel','id':'r'},{'do':'remove','id':'a'},{'do':'"
+            "reopen'},"
+            "{'do':'add','text':' '}]}");
+        const QJsonObject answer = QJsonDocument::fromJson(
+            ask(QByteArray(request).replace('\'', '"').replace("FOLDER", folder.path().toUtf8())))
+                                       .object()
+                                       .value(u"ok"_s)
+                                       .toObject();
+        const QJsonArray steps = answer.value(u"steps"_s).toArray();
+        QCOMPARE(steps.at(0).toObject().value(u"createdAt"_s), u"2026-03-02T02:00:00.250Z"_s);
+        QCOMPARE(steps.at(2).toObject().value(u"text"_s), u"y"_s);
+        QCOMPARE(steps.at(3).toArray().at(0).toObject().value(u"name"_s), u"t"_s);
+        QCOMPARE(steps.at(4), QJsonValue(true));
+        QCOMPARE(steps.at(8), QJsonValue());
+        QCOMPARE(answer.value(u"notes"_s).toArray().size(), 1);
+        QCOMPARE(answer.value(u"trash"_s).toArray().at(0).toObject().value(u"createdAt"_s),
+            u"2026-03-02T02:00:00Z"_s); // read again from the file
+        const QJsonArray calls = answer.value(u"scheduler"_s).toArray();
+        QCOMPARE(calls.at(0).toObject().value(u"options"_s), 6);
+        QCOMPARE(calls.at(1).toObject().value(u"date"_s), u"2026-03-03T15:00"_s);
+        QCOMPARE(calls.at(2).toObject().value(u"call"_s), u"remove"_s);
+        QVERIFY(QFile::exists(folder.filePath(u"notes.json"_s)));
+    }
+};
+
+QTEST_GUILESS_MAIN(ProbeTest)
+#include "tst_probe.moc"

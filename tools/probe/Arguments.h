@@ -1,0 +1,68 @@
+#pragma once
+
+#include "foundation/Calendar.h"
+#include "foundation/Instant.h"
+#include "model/Note.h"
+#include "reminders/ReminderLanguage.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+/// The arguments of one request. A missing or ill-typed one is remembered, and something harmless stands in
+/// for it: an operation reads what it needs, and its answer counts only when isGood().
+class Arguments final
+{
+public:
+    explicit Arguments(QJsonObject object)
+        : m_object(std::move(object))
+    {
+    }
+    /// The arguments of a step; what it lacks of time and language is the request's.
+    Arguments(QJsonObject step, const Arguments &request);
+
+    [[nodiscard]] bool isGood() const { return m_error.isEmpty(); }
+    [[nodiscard]] const QString &error() const { return m_error; }
+    void fail(const QString &message);
+
+    QString text(const QString &key);
+    std::optional<QString> optionalText(const QString &key); ///< nothing when absent or null
+    qsizetype integer(const QString &key);
+    bool flag(const QString &key); ///< false when absent
+    QByteArray base64(const QString &key);
+    QJsonArray array(const QString &key);
+    QJsonObject object(const QString &key);
+    [[nodiscard]] bool has(const QString &key) const;
+    Instant instant(const QString &key);
+    ReminderLanguage language();
+    [[nodiscard]] bool hasLanguage() const { return has(QStringLiteral("language")); }
+    QList<Note> notes();
+    QStringList texts(const QString &key);
+
+    Instant now(); ///< the real time when absent
+    Calendar calendar();
+    QString uiLanguage();
+
+private:
+    [[nodiscard]] QJsonValue value(const QString &key) const { return m_object.value(key); }
+
+    QJsonObject m_object;
+    QString m_error;
+};
+
+/// How values stand in answers.
+namespace Answer {
+[[nodiscard]] QString instant(Instant instant); ///< whole seconds unless there is a fraction
+[[nodiscard]] QString day(Calendar::Day day);
+[[nodiscard]] QString uuid(QUuid id);
+[[nodiscard]] QJsonObject note(const Note &note);
+[[nodiscard]] QJsonArray notes(const QList<Note> &notes);
+[[nodiscard]] QJsonValue orNull(const std::optional<QString> &text);
+[[nodiscard]] QString languageName(ReminderLanguage language);
+} // namespace Answer
+
+/// "2026-03-02T02:00:00Z", also with a fraction of a second.
+[[nodiscard]] std::optional<Instant> parseProbeInstant(const QString &text);
