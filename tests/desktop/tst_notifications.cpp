@@ -99,6 +99,8 @@ private Q_SLOTS:
         m_server->click(m_server->shown().last().id);
         QTRY_COMPARE(received.count(), 1);
         QCOMPARE(received.first().first().toString(), u"note of replacing"_s);
+        QCOMPARE(
+            qgetenv("XDG_ACTIVATION_TOKEN"), "token 2"); // where Qt looks for the leave to take the focus
     }
 
     void what_is_due_without_a_server_is_shown_when_one_comes()

@@ -59,11 +59,11 @@ private Q_SLOTS:
         QCOMPARE(road.savedReminders().first().noteID, note.id);
 
         road.stop();
-        road.start(Road::shiftTo(three, 4s));
+        road.start(Road::shiftTo(three, 6s));
         QVERIFY(road.waitForTrayIcon());
         QVERIFY(!road.panel()); // later starts stay in the tray
         QVERIFY(server.shown().isEmpty());
-        QTRY_COMPARE_WITH_TIMEOUT(server.shown().size(), 1, 10'000);
+        QTRY_COMPARE_WITH_TIMEOUT(server.shown().size(), 1, 15'000);
         QCOMPARE(server.shown().first().title, u"Quillet 提醒"_s);
         QCOMPARE(server.shown().first().body, u"交房租 #家"_s);
         QTRY_VERIFY(road.savedReminders().isEmpty());

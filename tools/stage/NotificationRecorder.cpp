@@ -22,6 +22,7 @@ NotificationRecorder::~NotificationRecorder()
 
 void NotificationRecorder::click(uint id)
 {
+    Q_EMIT ActivationToken(id, QStringLiteral("token %1").arg(id));
     Q_EMIT ActionInvoked(id, QStringLiteral("default"));
     Q_EMIT NotificationClosed(id, 2);
 }

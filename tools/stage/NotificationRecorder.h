@@ -37,6 +37,7 @@ public Q_SLOTS:
     QString GetServerInformation(QString &vendor, QString &version, QString &specification) const;
 
 Q_SIGNALS:
+    void ActivationToken(uint id, const QString &token);
     void ActionInvoked(uint id, const QString &action);
     void NotificationClosed(uint id, uint reason);
 

@@ -78,11 +78,11 @@ void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
         QStringLiteral("Escape empties the field, and again closes the panel"), road.waitForPanel(false));
 
     road.stop();
-    road.start(Road::shiftTo(three, 3s));
-    tour.step(QStringLiteral("started anew, three seconds before three o'clock tomorrow"),
+    road.start(Road::shiftTo(three, 5s));
+    tour.step(QStringLiteral("started anew, five seconds before three o'clock tomorrow"),
         road.waitForTrayIcon() && !road.panel());
     const auto bubbles = [&desktop] { return desktop.screen().windowsOfClass(QStringLiteral("Dunst")); };
-    const bool shown = PrivateDesktop::waitUntil([&] { return !bubbles().isEmpty(); }, 8s);
+    const bool shown = PrivateDesktop::waitUntil([&] { return !bubbles().isEmpty(); }, 15s);
     settle();
     tour.step(QStringLiteral("at three the notification is there"), shown);
     if (shown)
