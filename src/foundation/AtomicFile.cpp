@@ -41,9 +41,11 @@ private:
     int m_fd;
 };
 
+// From here on a path is that of the file itself, behind any links.
+
 QString stagedPath(const QString &path)
 {
-    return AtomicFile::target(path) + QStringLiteral(".staged");
+    return path + QStringLiteral(".staged");
 }
 
 bool exists(const QString &path)
@@ -73,13 +75,13 @@ bool writeAll(int fd, QByteArrayView bytes)
     return true;
 }
 
-Outcome stage(const AtomicFile::Content &content)
+Outcome stage(const QString &target, const ByteSource &bytes)
 {
-    const QString path = stagedPath(content.path);
+    const QString path = stagedPath(target);
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     bool isGood = file.isOpen();
     if (isGood)
-        content.bytes([&](QByteArrayView piece) { isGood = isGood && writeAll(file.fd(), piece); });
+        bytes([&](QByteArrayView piece) { isGood = isGood && writeAll(file.fd(), piece); });
     if (!isGood || ::fsync(file.fd()) != 0 || !file.close())
         return systemFailure(QStringLiteral("cannot write"), path);
     return Done{};
@@ -89,7 +91,7 @@ Outcome syncFoldersOf(const QStringList &paths)
 {
     QStringList folders;
     for (const QString &path : paths)
-        folders.append(QFileInfo(AtomicFile::target(path)).absolutePath());
+        folders.append(QFileInfo(path).path());
     folders.removeDuplicates();
     for (const QString &folder : std::as_const(folders)) {
         const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
@@ -102,8 +104,8 @@ Outcome syncFoldersOf(const QStringList &paths)
 
 Outcome stageAll(const QList<AtomicFile::Content> &contents, const QStringList &paths)
 {
-    for (const AtomicFile::Content &content : contents) {
-        if (Outcome staged = stage(content); !staged)
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        if (Outcome staged = stage(paths[i], contents[i].bytes); !staged)
             return staged;
     }
     return syncFoldersOf(paths);
@@ -122,10 +124,19 @@ Outcome discardStaged(const QStringList &paths)
 Outcome renameStaged(const QStringList &paths)
 {
     for (const QString &path : paths) {
-        if (exists(stagedPath(path)) && !rename(stagedPath(path), AtomicFile::target(path)))
-            return systemFailure(QStringLiteral("cannot replace"), AtomicFile::target(path));
+        if (exists(stagedPath(path)) && !rename(stagedPath(path), path))
+            return systemFailure(QStringLiteral("cannot replace"), path);
     }
     return syncFoldersOf(paths);
+}
+
+Outcome recoverTargets(const QStringList &paths)
+{
+    const auto isStaged = [](const QString &path) { return exists(stagedPath(path)); };
+    if (std::none_of(paths.begin(), paths.end(), isStaged))
+        return Done{};
+    const bool renamingHadBegun = !isStaged(paths.first());
+    return renamingHadBegun ? renameStaged(paths) : discardStaged(paths);
 }
 } // namespace
 
@@ -162,27 +173,26 @@ Outcome AtomicFile::createFolder(const QString &path)
 
 Outcome AtomicFile::recover(const QStringList &paths)
 {
-    const auto isStaged = [](const QString &path) { return exists(stagedPath(path)); };
-    if (std::none_of(paths.begin(), paths.end(), isStaged))
-        return Done{};
-    const bool renamingHadBegun = !isStaged(paths.first());
-    return renamingHadBegun ? renameStaged(paths) : discardStaged(paths);
+    QStringList targets;
+    for (const QString &path : paths)
+        targets.append(target(path));
+    return recoverTargets(targets);
 }
 
 Outcome AtomicFile::replace(const QList<Content> &contents)
 {
-    QStringList paths;
+    QStringList targets;
     for (const Content &content : contents)
-        paths.append(content.path);
+        targets.append(target(content.path));
 
     // A commit whose renaming failed half-way must be complete before its staged files are written over.
-    if (Outcome earlier = recover(paths); !earlier)
+    if (Outcome earlier = recoverTargets(targets); !earlier)
         return earlier;
-    if (Outcome staged = stageAll(contents, paths); !staged) {
-        (void)discardStaged(paths); // what cannot be removed now is discarded before the next commit
+    if (Outcome staged = stageAll(contents, targets); !staged) {
+        (void)discardStaged(targets); // what cannot be removed now is discarded before the next commit
         return staged;
     }
-    return renameStaged(paths);
+    return renameStaged(targets);
 }
 
 Result<std::optional<QByteArray>> AtomicFile::read(const QString &path)
