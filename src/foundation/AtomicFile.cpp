@@ -214,7 +214,7 @@ Outcome AtomicFile::keepAside(const QString &path, const QString &suffix)
     QString to = from + suffix;
     for (int number = 2; exists(to); ++number)
         to = from + suffix + QStringLiteral("-%1").arg(number);
-    if (!rename(from, to))
+    if (!rename(from, to) && errno != ENOENT)
         return systemFailure(QStringLiteral("cannot keep aside"), from);
     return Done{};
 }

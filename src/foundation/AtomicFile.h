@@ -36,6 +36,7 @@ Outcome createFolder(const QString &path);
 /// Nothing when there is no such file; a failure when there is one that cannot be read.
 [[nodiscard]] Result<std::optional<QByteArray>> read(const QString &path);
 
-/// Moves a file out of the way, to its name followed by @p suffix (and a number where that is taken).
+/// Moves a file out of the way, to its name followed by @p suffix (and a number where that is taken). A file
+/// that has gone meanwhile needs no keeping.
 Outcome keepAside(const QString &path, const QString &suffix);
 } // namespace AtomicFile

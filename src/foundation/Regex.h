@@ -41,7 +41,6 @@ public:
     Regex(const Regex &) = delete;
     Regex &operator=(const Regex &) = delete;
 
-    [[nodiscard]] const QString &pattern() const { return m_pattern; }
     [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
     /// From left to right, not overlapping.
     [[nodiscard]] std::vector<Match> allMatches(QStringView text) const;

@@ -163,8 +163,8 @@ void NoteListView::scrollTo(const QModelIndex &index, ScrollHint hint)
     if (!index.isValid())
         return;
     m_scrolling->stop();
-    const int target = centredOffset(index.row());
     if (hint == PositionAtCenter) {
+        const int target = centredOffset(index.row());
         m_scrolling->setStartValue(verticalScrollBar()->value());
         m_scrolling->setEndValue(target);
         m_scrolling->start();

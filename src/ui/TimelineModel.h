@@ -38,7 +38,6 @@ public:
     [[nodiscard]] const TimelineRow &row(int number) const { return m_rows[number]; }
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
     [[nodiscard]] const Clock &clock() const { return m_clock; }
-    [[nodiscard]] const NoteStore &notes() const { return m_notes; }
     [[nodiscard]] const ReminderStore &reminders() const { return m_reminders; }
 
 private:

@@ -230,6 +230,16 @@ private Q_SLOTS:
         QCOMPARE(aside.size(), 1);
     }
 
+    void an_unreadable_file_that_is_gone_by_the_first_save_does_not_stop_it()
+    {
+        QDir().mkpath(path({}));
+        writeFile(notesPath(), "not ours");
+        const auto notes = store();
+        QVERIFY(QFile::remove(notesPath()));
+        notes->add(u"新"_s);
+        QCOMPARE(savedTexts(u"notes.json"_s), QStringList{u"新"_s});
+    }
+
     void a_removal_that_died_between_the_renames_is_completed()
     {
         Note removed;
