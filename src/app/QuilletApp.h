@@ -5,6 +5,7 @@
 #include "app/StatusBarMenu.h"
 #include "desktop/ApplicationService.h"
 #include "desktop/DesktopNotificationCenter.h"
+#include "desktop/PageTitleFetcher.h"
 #include "foundation/Clock.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
@@ -28,6 +29,7 @@ private:
     // What the machine provides
     SystemClock m_clock;
     NoDateDetector m_dateDetector;
+    PageTitleFetcher m_titles;
     DesktopNotificationCenter m_notifications;
     // What is owned
     ReminderStore m_reminders;

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &name)
+std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &name, Extent extent)
 {
     if (name.isEmpty())
         return std::nullopt; // which ICU takes for its default
@@ -21,7 +21,7 @@ std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &n
     auto *target = reinterpret_cast<char16_t *>(text.data());
     const char *source = bytes.data();
     ucnv_toUnicode(converter.get(), &target, target + text.size(), &source, bytes.data() + bytes.size(),
-        nullptr, true, &status);
+        nullptr, extent == Extent::Whole, &status);
     if (U_FAILURE(status))
         return std::nullopt;
     text.truncate(target - reinterpret_cast<const char16_t *>(text.constData()));

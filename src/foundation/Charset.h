@@ -7,6 +7,12 @@
 
 /// Texts in other encodings than our own.
 namespace Charset {
+enum class Extent {
+    Whole,
+    Beginning, ///< cut off somewhere, maybe within a character, which is then left out
+};
+
 /// Nothing when the name (as IANA has it, in any case) is unknown, or when a single byte does not decode.
-[[nodiscard]] std::optional<QString> decode(QByteArrayView bytes, const QByteArray &name);
+[[nodiscard]] std::optional<QString> decode(
+    QByteArrayView bytes, const QByteArray &name, Extent extent = Extent::Whole);
 } // namespace Charset

@@ -1,6 +1,5 @@
 #include "text/WebLink.h"
 
-#include "foundation/Charset.h"
 #include "foundation/Regex.h"
 
 #include <QUrl>
@@ -69,7 +68,8 @@ std::optional<QString> WebLink::detect(QStringView text)
     return isEncoded ? address : QString::fromLatin1(url.toEncoded());
 }
 
-std::optional<QString> WebLink::decodeHTML(QByteArrayView bytes, const std::optional<QString> &contentType)
+std::optional<QString> WebLink::decodeHTML(
+    QByteArrayView bytes, const std::optional<QString> &contentType, Charset::Extent extent)
 {
     constexpr QStringView charset = u"charset=";
     const QStringList parts = contentType.value_or(QString()).split(u';');
@@ -77,13 +77,13 @@ std::optional<QString> WebLink::decodeHTML(QByteArrayView bytes, const std::opti
         const QString trimmed = part.trimmed();
         if (!trimmed.startsWith(charset, Qt::CaseInsensitive))
             continue;
-        if (auto text = Charset::decode(bytes, trimmed.sliced(charset.size()).toLatin1()))
+        if (auto text = Charset::decode(bytes, trimmed.sliced(charset.size()).toLatin1(), extent))
             return text;
         break;
     }
-    if (auto text = Charset::decode(bytes, "UTF-8"))
+    if (auto text = Charset::decode(bytes, "UTF-8", extent))
         return text;
-    return Charset::decode(bytes, "GB18030");
+    return Charset::decode(bytes, "GB18030", extent);
 }
 
 std::optional<QString> WebLink::parseTitle(QStringView html)

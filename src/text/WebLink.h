@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Charset.h"
+
 #include <QByteArrayView>
 #include <QString>
 
@@ -13,8 +15,8 @@ namespace WebLink {
 
 /// The text of a page: in the charset that the Content-Type header names, else UTF-8, else GB 18030. Nothing
 /// when it is in none of them; a single byte that does not decode rules an encoding out.
-[[nodiscard]] std::optional<QString> decodeHTML(
-    QByteArrayView bytes, const std::optional<QString> &contentType);
+[[nodiscard]] std::optional<QString> decodeHTML(QByteArrayView bytes,
+    const std::optional<QString> &contentType, Charset::Extent extent = Charset::Extent::Whole);
 
 /// What stands in the first title element, on one line and decoded; nothing when that is blank.
 [[nodiscard]] std::optional<QString> parseTitle(QStringView html);

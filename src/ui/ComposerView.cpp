@@ -4,24 +4,31 @@
 #include "model/NoteStore.h"
 #include "reminders/ReminderDetector.h"
 #include "text/L10n.h"
+#include "text/LocalFile.h"
+#include "text/PageTitleFetching.h"
+#include "text/WebLink.h"
 #include "ui/ComposerField.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
 #include "ui/ReminderBar.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QPainter>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <limits>
 
-ComposerView::ComposerView(
-    NoteStore &store, PanelState &state, const DateDetecting &detector, const Clock &clock, QWidget *parent)
+ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector,
+    PageTitleFetching &titles, const Clock &clock, QWidget *parent)
     : QWidget(parent)
     , m_store(store)
     , m_state(state)
     , m_detector(detector)
+    , m_titles(titles)
     , m_clock(clock)
     , m_reminderBar(new ReminderBar(clock, this))
     , m_field(new ComposerField(this))
@@ -100,17 +107,39 @@ void ComposerView::submit()
     if (const auto editingID = m_state.editingID()) {
         m_store.update(*editingID, draft);
         m_state.setEditingID({});
+    } else if (m_state.quoting()) {
+        m_store.add(draft, m_state.quoting());
+    } else if (const auto address = WebLink::detect(draft)) {
+        addWebLink(draft, *address);
+    } else if (const auto path = LocalFile::detect(draft)) {
+        addFileLink(*path);
     } else {
         std::optional<ParsedReminder> reminder;
-        if (!m_state.quoting() && !m_suppressReminder)
+        if (!m_suppressReminder)
             reminder = detectedReminder();
         // A time that has passed makes a plain note, as the bar says.
         if (reminder && reminder->fireAt <= m_clock.now())
             reminder.reset();
-        m_store.add(draft, m_state.quoting(), {}, reminder);
+        m_store.add(draft, {}, {}, reminder);
     }
     m_state.setQuoting({});
     m_state.setDraft({});
+}
+
+void ComposerView::addWebLink(const QString &draft, const QString &address)
+{
+    const auto note = m_store.add(draft, {}, address);
+    // For the store, which is there however long the page takes and whatever becomes of the panel.
+    m_titles.fetchTitle(address, &m_store, [&store = m_store, note = *note](const auto &title) {
+        if (title)
+            store.applyLinkTitle(*title, note.id, note.text);
+    });
+}
+
+void ComposerView::addFileLink(const QString &path)
+{
+    const QString name = QFileInfo(QDir::cleanPath(path)).fileName();
+    m_store.add(name.isEmpty() ? path : name, {}, QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded()));
 }
 
 void ComposerView::updatePlaceholder()

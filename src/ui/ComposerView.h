@@ -11,17 +11,19 @@ class Clock;
 class ComposerField;
 class DateDetecting;
 class NoteStore;
+class PageTitleFetching;
 class PanelState;
 class ReminderBar;
 
-/// The one line that is written in. Return saves the draft: as an edit, a note with a reminder, or a note.
+/// The one line that is written in. Return saves the draft: as an edit, a link, a note with a reminder, or a
+/// note.
 class ComposerView final : public QWidget
 {
     Q_OBJECT
 
 public:
-    ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector, const Clock &clock,
-        QWidget *parent = nullptr);
+    ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector,
+        PageTitleFetching &titles, const Clock &clock, QWidget *parent = nullptr);
 
     /// Saves the draft and clears the field; a blank draft is only cleared.
     void submit();
@@ -35,11 +37,14 @@ private:
     void updateReminderPreview();
     void updatePlaceholder();
     void focusAtEnd();
+    void addWebLink(const QString &draft, const QString &address);
+    void addFileLink(const QString &path);
     [[nodiscard]] std::optional<ParsedReminder> detectedReminder() const;
 
     NoteStore &m_store;
     PanelState &m_state;
     const DateDetecting &m_detector;
+    PageTitleFetching &m_titles;
     const Clock &m_clock;
     ReminderBar *m_reminderBar = nullptr;
     ComposerField *m_field = nullptr;

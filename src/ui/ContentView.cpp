@@ -12,12 +12,12 @@
 #include <QVBoxLayout>
 
 ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
-    const Clock &clock, QWidget *parent)
+    PageTitleFetching &titles, const Clock &clock, QWidget *parent)
     : QWidget(parent)
     , m_reminders(reminders)
     , m_model(new TimelineModel(notes, reminders, clock, this))
     , m_timeline(new NoteListView(notes, reminders, m_state, *m_model, this))
-    , m_composer(new ComposerView(notes, m_state, detector, clock, this))
+    , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
 {
     setFocusProxy(m_composer);
 

@@ -9,6 +9,7 @@ class ComposerView;
 class DateDetecting;
 class NoteListView;
 class NoteStore;
+class PageTitleFetching;
 class ReminderStore;
 class TimelineModel;
 
@@ -18,8 +19,8 @@ class ContentView final : public QWidget
     Q_OBJECT
 
 public:
-    ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector, const Clock &clock,
-        QWidget *parent = nullptr);
+    ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
+        PageTitleFetching &titles, const Clock &clock, QWidget *parent = nullptr);
 
     [[nodiscard]] bool isComposing() const;
     [[nodiscard]] PanelState &state() { return m_state; }

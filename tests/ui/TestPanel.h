@@ -4,6 +4,7 @@
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "reminders/DateDetecting.h"
+#include "support/KnownTitles.h"
 #include "support/RecordingScheduler.h"
 #include "support/TestClock.h"
 #include "support/TestFiles.h"
@@ -26,7 +27,7 @@ public:
     TestPanel()
         : reminders(m_folder.filePath(QStringLiteral("reminders.json")), m_scheduler, clock)
         , notes(m_folder.filePath(QStringLiteral("notes.json")), clock)
-        , content(new ContentView(notes, reminders, m_detector, clock))
+        , content(new ContentView(notes, reminders, m_detector, titles, clock))
         , window(content)
     {
         notes.setReminderStore(&reminders);
@@ -77,6 +78,7 @@ private:
     NoDateDetector m_detector;
 
 public:
+    KnownTitles titles;
     TestClock clock{"2026-03-02T02:00:00Z"};
     ReminderStore reminders;
     NoteStore notes;

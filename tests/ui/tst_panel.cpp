@@ -51,6 +51,49 @@ private Q_SLOTS:
         QVERIFY(panel.reminderBar()->isVisible());
     }
 
+    void a_link_takes_the_title_of_its_page()
+    {
+        TestPanel panel;
+        const auto submit = [&](const QString &draft) {
+            panel.type(draft);
+            panel.press(Qt::Key_Return);
+            return panel.notes.notes().first();
+        };
+        const Note titled = submit(u" https://a.example/中文 "_s);
+        QCOMPARE(titled.text, u"https://a.example/中文"_s);
+        QCOMPARE(titled.link, u"https://a.example/%E4%B8%AD%E6%96%87"_s);
+        const Note edited = submit(u"https://a.example/2"_s);
+        const Note removed = submit(u"https://a.example/3"_s);
+        const Note untitled = submit(u"https://a.example/4"_s);
+        QCOMPARE(panel.titles.asked.first(), titled.link);
+        QCOMPARE(panel.titles.asked.size(), 4);
+
+        panel.window.hide();
+        panel.notes.update(edited.id, u"我的话"_s);
+        panel.notes.remove(removed.id);
+        for (const auto &title : {std::optional(u"标题"_s), std::optional(u"标题"_s),
+                 std::optional(u"标题"_s), std::optional<QString>()})
+            panel.titles.tell(title);
+        QStringList texts;
+        for (const Note &note : panel.savedNotes())
+            texts.append(note.text);
+        QCOMPARE(texts, (QStringList{u"https://a.example/4"_s, u"我的话"_s, u"标题"_s}));
+    }
+
+    void a_path_becomes_a_note_with_the_name_of_the_file()
+    {
+        TestPanel panel;
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"a #b"_s));
+        panel.type(u"'"_s + folder.filePath(u"a #b/"_s) + u"'"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().text, u"a #b"_s);
+        QCOMPARE(panel.savedNotes().first().link, u"file://"_s + folder.path() + u"/a%20%23b/"_s);
+        panel.type(u"/"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().text, u"/"_s);
+    }
+
     void a_blank_draft_is_cleared_and_not_saved()
     {
         TestPanel panel;

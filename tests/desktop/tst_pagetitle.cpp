@@ -1,0 +1,175 @@
+#include "desktop/PageTitleFetcher.h"
+#include "support/WebServer.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class PageTitleTest final : public QObject
+{
+    Q_OBJECT
+
+    static QByteArray response(const QByteArray &head, const QByteArray &body)
+    {
+        return "HTTP/1.1 " + head + "\r\n\r\n" + body;
+    }
+    static QByteArray page(const QByteArray &body)
+    {
+        return response("200 OK\r\nContent-Type: text/html", body);
+    }
+
+    /// The title, or why there is none; "never" when nothing was told within five seconds.
+    static QString fetched(PageTitleFetcher &fetcher, const QString &address)
+    {
+        QString told = u"never"_s;
+        QObject context;
+        fetcher.fetchTitle(address, &context, [&](const auto &title) { told = title.value_or(u"(none)"_s); });
+        (void)QTest::qWaitFor([&] { return told != u"never"_s; });
+        return told;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char *proxy : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY"})
+            qunsetenv(proxy);
+    }
+
+    void only_a_page_has_a_title_data()
+    {
+        QTest::addColumn<QByteArray>("response");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<int>("requests");
+        const QByteArray body = "<title>买 &amp; 卖</title>";
+        const auto row = [](const char *name, const QByteArray &response, const char *expected,
+                             int requests = 1) {
+            QTest::newRow(name) << response << QString::fromUtf8(expected) << requests;
+        };
+        row("a page", page(body), "买 & 卖");
+        row("of no told type", response("200 OK", body), "买 & 卖");
+        row("XHTML", response("200 OK\r\ncontent-type: APPLICATION/XHTML+XML", body), "买 & 卖");
+        row("any success", response("299 Odd\r\nContent-Type: text/html", body), "买 & 卖");
+        row("in the charset that it tells",
+            response(
+                "200 OK\r\nContent-Type: text/html; charset=Shift_JIS", "<title>\x93\xfa\x96\x7b</title>"),
+            "日本");
+        row("of another type", response("200 OK\r\nContent-Type: application/json", body), "(none)");
+        row("not found", response("404 Not Found\r\nContent-Type: text/html", body), "(none)");
+        row("broken", response("500 Broken\r\nContent-Type: text/html", body), "(none)");
+        row("shorter than promised", page("").replace("\r\n\r\n", "\r\nContent-Length: 99\r\n\r\n") + body,
+            "(none)");
+        row("untitled", page("<p>"), "(none)");
+        row("a redirect to nowhere", response("302 Found", body), "(none)");
+        row("a redirect to a file", response("302 Found\r\nLocation: file:///etc/hostname", body), "(none)");
+        row("a redirect to another protocol", response("301 Moved\r\nLocation: ftp://127.0.0.1/", body),
+            "(none)");
+        row("a redirect to data", response("301 Moved\r\nLocation: data:text/html,<title>x</title>", body),
+            "(none)");
+        row("a redirect round and round", response("302 Found\r\nLocation: /page", body), "(none)", 21);
+    }
+    void only_a_page_has_a_title()
+    {
+        WebServer server;
+        QFETCH(QByteArray, response);
+        server.answer(u"/page"_s, response);
+        PageTitleFetcher fetcher(4s);
+        QTEST(fetched(fetcher, server.address(u"/page"_s)), "expected");
+        QFETCH(int, requests);
+        QCOMPARE(server.requests.size(), requests);
+    }
+
+    void a_server_that_knows_no_answer_is_left_alone_data()
+    {
+        QTest::addColumn<QByteArray>("response");
+        QTest::newRow("hangs up") << QByteArray();
+        QTest::newRow("speaks another protocol") << QByteArray("220 mail.example ESMTP\r\n");
+    }
+    void a_server_that_knows_no_answer_is_left_alone()
+    {
+        WebServer server;
+        QFETCH(QByteArray, response);
+        server.answer(u"/page"_s, response);
+        PageTitleFetcher fetcher(4s);
+        QCOMPARE(fetched(fetcher, server.address(u"/page"_s)), u"(none)"_s);
+        QTRY_VERIFY(!server.isAnybodyListening());
+        QCOMPARE_LE(server.requests.size(), 2); // the second is on its way before Qt tells of it
+    }
+
+    void a_page_is_asked_for_once_and_as_a_browser_does()
+    {
+        WebServer server;
+        server.answer(u"/old"_s, response("307 Moved\r\nSet-Cookie: a=b\r\nLocation: /%E6%96%B0?q=1", ""));
+        server.answer(u"/%E6%96%B0?q=1"_s, response("200 OK\r\nSet-Cookie: c=d", "<title>新</title>"));
+        PageTitleFetcher fetcher;
+        QCOMPARE(fetched(fetcher, server.address(u"/old#part"_s)), u"新"_s);
+        QCOMPARE(fetched(fetcher, server.address(u"/old"_s)), u"新"_s);
+        QCOMPARE(server.requests.size(), 4); // two pages, each behind a redirect
+        for (const QString &request : std::as_const(server.requests)) {
+            QVERIFY(request.startsWith(u"GET "_s));
+            QVERIFY(request.contains(u"\r\nUser-Agent: Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) "
+                                     u"AppleWebKit/605.1.15 (KHTML, "
+                                     "like Gecko) Version/17.4 Safari/605.1.15\r\n"_s));
+            QVERIFY(!request.contains(u"Cookie"_s, Qt::CaseInsensitive));
+        }
+    }
+
+    void a_page_is_read_as_far_as_a_mebibyte()
+    {
+        WebServer server;
+        // 1 MiB ends within a character.
+        const QByteArray filling = QByteArray("日").repeated((1 << 20) / 3);
+        server.answer(u"/early"_s, page("<title>早</title>" + filling + filling), WebServer::Then::GoOn);
+        server.answer(u"/late"_s, page(filling + "<title>晚</title>"), WebServer::Then::GoOn);
+        PageTitleFetcher fetcher(4s);
+        QCOMPARE(fetched(fetcher, server.address(u"/early"_s)), u"早"_s);
+        QCOMPARE(fetched(fetcher, server.address(u"/late"_s)), u"(none)"_s);
+        QTRY_VERIFY(!server.isAnybodyListening());
+    }
+
+    void a_page_that_does_not_come_is_given_up_data()
+    {
+        QTest::addColumn<QByteArray>("response");
+        QTest::addColumn<WebServer::Then>("then");
+        QTest::newRow("no word") << QByteArray() << WebServer::Then::SayNoMore;
+        QTest::newRow("a head only") << page("") << WebServer::Then::SayNoMore;
+        QTest::newRow("a title, but no end") << page("<title>x</title>") << WebServer::Then::SayNoMore;
+        QTest::newRow("a head that does not end")
+            << QByteArray("HTTP/1.1 200 OK\r\nX-Long: ") << WebServer::Then::GoOn;
+    }
+    void a_page_that_does_not_come_is_given_up()
+    {
+        WebServer server;
+        QFETCH(QByteArray, response);
+        QFETCH(WebServer::Then, then);
+        server.answer(u"/slow"_s, response, then);
+        PageTitleFetcher fetcher(300ms);
+        QCOMPARE(fetched(fetcher, server.address(u"/slow"_s)), u"(none)"_s);
+        QTRY_VERIFY(!server.isAnybodyListening());
+    }
+
+    void whoever_has_gone_is_told_nothing()
+    {
+        WebServer server;
+        server.answer(u"/page"_s, page("<title>x</title>"));
+        server.answer(u"/slow"_s, {}, WebServer::Then::SayNoMore);
+        QStringList told;
+        const auto tell = [&](const auto &title) { told.append(title.value_or(u"(none)"_s)); };
+        QObject stays;
+        {
+            PageTitleFetcher fetcher;
+            auto goes = std::make_unique<QObject>();
+            fetcher.fetchTitle(server.address(u"/page"_s), goes.get(), tell);
+            goes.reset();
+            fetcher.fetchTitle(server.address(u"/page"_s), &stays, tell);
+            QTRY_COMPARE(told, QStringList{u"x"_s});
+            fetcher.fetchTitle(server.address(u"/slow"_s), &stays, tell);
+            QTRY_VERIFY(server.requests.last().contains(u"/slow"_s));
+        }
+        QTRY_VERIFY(!server.isAnybodyListening());
+        QCOMPARE(told, QStringList{u"x"_s});
+    }
+};
+
+QTEST_GUILESS_MAIN(PageTitleTest)
+#include "tst_pagetitle.moc"
