@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <memory>
 
-qsizetype Characters::startOfPrevious(QStringView text, qsizetype position)
+TextRange Characters::at(QStringView text, qsizetype position)
 {
     static const std::unique_ptr<icu::BreakIterator> iterator = [] {
         UErrorCode status = U_ZERO_ERROR;
@@ -13,14 +13,12 @@ qsizetype Characters::startOfPrevious(QStringView text, qsizetype position)
         Q_ASSERT(U_SUCCESS(status));
         return std::unique_ptr<icu::BreakIterator>(made);
     }();
-    // No character people write is longer than this, and a long text must not be looked at from its start
-    // each time.
-    constexpr qsizetype longest = 256;
+    constexpr qsizetype longest = 256; // no character that people write is longer
     const qsizetype from = std::max<qsizetype>(0, position - longest);
-    const QStringView window = text.sliced(from, position - from);
+    const QStringView window = text.sliced(from, std::min(text.size(), position + longest) - from);
     const icu::UnicodeString source(
         false, reinterpret_cast<const char16_t *>(window.utf16()), int32_t(window.size()));
     iterator->setText(source);
-    const int32_t start = iterator->preceding(int32_t(window.size()));
-    return start == icu::BreakIterator::DONE ? from : from + start;
+    const int32_t end = iterator->following(int32_t(position - from));
+    return {from + iterator->previous(), from + end};
 }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "foundation/TextRange.h"
+
 #include <QStringView>
 
 /// Characters as a person sees them: grapheme clusters, one or many UTF-16 units each.
 namespace Characters {
-/// Where the character that ends at @p position begins, in UTF-16 units; 0 at the start of the text.
-[[nodiscard]] qsizetype startOfPrevious(QStringView text, qsizetype position);
+/// The character that the unit at @p position belongs to. It is looked for within a few hundred units, so
+/// that asking costs the same in a long text.
+[[nodiscard]] TextRange at(QStringView text, qsizetype position);
 } // namespace Characters

@@ -3,6 +3,8 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
 
+#include <unicode/unistr.h>
+
 #include <memory>
 
 std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &name, Extent extent)
@@ -26,4 +28,12 @@ std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &n
         return std::nullopt;
     text.truncate(target - reinterpret_cast<const char16_t *>(text.constData()));
     return text;
+}
+
+QString Charset::decodeLeniently(QByteArrayView bytes)
+{
+    constexpr char mark[] = "\xEF\xBB\xBF";
+    const QByteArrayView text = bytes.startsWith(mark) ? bytes.sliced(3) : bytes;
+    const auto decoded = icu::UnicodeString::fromUTF8({text.data(), int32_t(text.size())});
+    return QString::fromUtf16(decoded.getBuffer(), decoded.length());
 }

@@ -15,4 +15,8 @@ enum class Extent {
 /// Nothing when the name (as IANA has it, in any case) is unknown, or when a single byte does not decode.
 [[nodiscard]] std::optional<QString> decode(
     QByteArrayView bytes, const QByteArray &name, Extent extent = Extent::Whole);
+
+/// UTF-8 in which anything may be broken: as few U+FFFD stand for what does not decode as Unicode recommends.
+/// A byte order mark at the start is no part of the text.
+[[nodiscard]] QString decodeLeniently(QByteArrayView bytes);
 } // namespace Charset

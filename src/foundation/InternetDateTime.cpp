@@ -1,8 +1,13 @@
 #include "foundation/InternetDateTime.h"
 
+#include <algorithm>
+
 using namespace std::chrono;
 
 namespace {
+constexpr Instant earliest{sys_days(year(0) / January / 1)};
+constexpr Instant latest{sys_days(year(9999) / December / 31) + hours(24) - milliseconds(1)};
+
 void writePair(char *place, unsigned value)
 {
     place[0] = char('0' + value / 10);
@@ -12,7 +17,7 @@ void writePair(char *place, unsigned value)
 
 void InternetDateTime::write(Instant instant, char *place)
 {
-    const auto wholeSeconds = floor<seconds>(instant);
+    const auto wholeSeconds = floor<seconds>(std::clamp(instant, earliest, latest));
     const auto midnight = floor<days>(wholeSeconds);
     const year_month_day date(midnight);
     const hh_mm_ss time(wholeSeconds - midnight);
@@ -111,5 +116,6 @@ std::optional<Instant> InternetDateTime::parse(QByteArrayView text)
     const year_month_day date{year(yearNumber), month(unsigned(monthNumber)), day(unsigned(dayNumber))};
     if (!reader.readAll() || !date.ok() || hour > 23 || minute > 59 || second > 59)
         return std::nullopt;
-    return Instant(sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset);
+    const Instant instant = sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
+    return instant < earliest || instant > latest ? std::nullopt : std::optional(instant);
 }

@@ -12,6 +12,8 @@
 namespace dom = simdjson::dom;
 
 namespace {
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 /// -1 for what is no hexadecimal digit.
 constexpr int hexValue(char digit)
 {
@@ -53,6 +55,8 @@ bool read(dom::element value, QString &place)
     if (value.get(text) != simdjson::SUCCESS)
         return false;
     place = QString::fromUtf8(text.data(), qsizetype(text.size()));
+    if (text.starts_with(byteOrderMark)) // which Qt takes for a mark, but in a note it is a character
+        place.prepend(QChar(QChar::ByteOrderMark));
     return true;
 }
 
@@ -152,7 +156,7 @@ Result<QList<Record>> decode(QByteArrayView bytes)
     if (bytes.isEmpty())
         return Failure{QStringLiteral("the text is empty")}; // there may not even be a pointer to it
     // simdjson skips a byte order mark, which our form does not have.
-    if (bytes.startsWith("\xEF\xBB\xBF"))
+    if (bytes.startsWith(byteOrderMark.data()))
         return Failure{QStringLiteral("the text begins with a byte order mark")};
     if (const auto error = parser.parse(bytes.data(), size_t(bytes.size())).get(array))
         return Failure{QString::fromLatin1(simdjson::error_message(error))};

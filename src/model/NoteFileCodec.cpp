@@ -1,5 +1,6 @@
 #include "model/NoteFileCodec.h"
 
+#include "foundation/Charset.h"
 #include "model/NoteCoding.h"
 #include "model/NoteMarkdown.h"
 
@@ -7,7 +8,7 @@ Result<QList<Note>> NoteFileCodec::decode(QByteArrayView bytes, Instant now, con
 {
     if (auto notes = noteDecoder::decodeNotes(bytes))
         return notes;
-    const QList<Note> notes = NoteMarkdown::parse(QString::fromUtf8(bytes), now, calendar);
+    const QList<Note> notes = NoteMarkdown::parse(Charset::decodeLeniently(bytes), now, calendar);
     if (notes.isEmpty())
         return Failure{QStringLiteral("unrecognizedFormat")};
     return notes;

@@ -7,14 +7,18 @@ QPointer<TagCompletionState> TagCompletionState::s_active;
 
 std::optional<TagCompletion::Token> TagCompletion::activeToken(QStringView draft, qsizetype cursor)
 {
-    for (qsizetype end = cursor; end > 0;) {
-        const qsizetype start = Characters::startOfPrevious(draft, end);
-        const QStringView character = draft.sliced(start, end - start);
-        if (character == u"#")
-            return Token{{end, cursor}, draft.sliced(end, cursor - end).toString()};
-        if (character == u"@" || character.front().isSpace())
+    const QStringView written = draft.first(cursor);
+    for (qsizetype i = cursor - 1; i >= 0; --i) {
+        const QChar unit = written[i];
+        if (unit != u'#' && unit != u'@' && !unit.isSpace())
+            continue;
+        // As long as it is a character of its own: "#️⃣" is one too, and not a "#".
+        const TextRange character = Characters::at(written, i);
+        if (character.start != i || (character.length() > 1 && !unit.isSpace()))
+            continue;
+        if (unit != u'#')
             return std::nullopt;
-        end = start;
+        return Token{{i + 1, cursor}, written.sliced(i + 1).toString()};
     }
     return std::nullopt;
 }
@@ -67,7 +71,7 @@ void TagCompletionState::moveSelection(int step)
 std::optional<TagCompletionState::Applied> TagCompletionState::apply(
     const QString &candidate, const QString &text)
 {
-    if (!m_isActive || !m_token)
+    if (!m_isActive || !m_token || m_token->range.end > text.size())
         return std::nullopt;
     const TextRange range = m_token->range;
     const Applied applied{

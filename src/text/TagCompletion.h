@@ -46,7 +46,7 @@ public:
     /// skipped: it tells of nothing but what was applied.
     void update(QStringView draft, qsizetype cursor, const QStringList &tags);
     void moveSelection(int step); ///< from the last to the first, and back
-    /// Nothing when no list is shown.
+    /// Nothing when no list is shown, or the text is shorter than the draft that it was shown for.
     std::optional<Applied> apply(const QString &candidate, const QString &text);
     void dismiss();
 

@@ -82,6 +82,9 @@ private Q_SLOTS:
         row("2024-05-01T08:30:00+24:00", "");
         row("2024-05-01T08:30:00Zjunk", "");
         row("+024-05-01T08:30:00Z", "");
+        row("9999-12-31T23:59:59Z", "9999-12-31T23:59:59Z");
+        row("9999-12-31T23:59:59-00:01", ""); // which could not be written again
+        row("0000-01-01T00:00:00+00:01", "");
         row("", "");
     }
     void internet_date_times_are_read_strictly()
@@ -96,6 +99,12 @@ private Q_SLOTS:
     {
         QCOMPARE(InternetDateTime::format(at("2024-05-01T08:30:00Z") + 999ms), "2024-05-01T08:30:00Z");
         QCOMPARE(InternetDateTime::format(at("1969-12-31T23:59:59Z") + 1ms), "1969-12-31T23:59:59Z");
+    }
+
+    void what_is_written_can_be_read_again()
+    {
+        QCOMPARE(InternetDateTime::format(at("9999-12-31T23:59:59Z") + 24h), "9999-12-31T23:59:59Z");
+        QCOMPARE(InternetDateTime::format(at("0000-01-01T00:00:00Z") - 1ms), "0000-01-01T00:00:00Z");
     }
 };
 

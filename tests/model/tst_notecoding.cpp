@@ -46,6 +46,16 @@ private Q_SLOTS:
         QCOMPARE(noteDecoder::decodeNotes(expected).value(), (QList<Note>{m_note, bare}));
     }
 
+    void every_text_comes_back()
+    {
+        for (const QString &text : {u"\uFEFF"_s, u"\uFEFF\uFEFFx"_s, u"\u2028\u0085\u007F"_s,
+                 u"e\u0301👩‍👩‍👧"_s, QString(100'000, u'字'), QString(1, u'\0')}) {
+            Note note = m_note;
+            note.text = text;
+            QCOMPARE(noteDecoder::decodeNotes(noteEncoder::encode(QList{note})).value().first().text, text);
+        }
+    }
+
     void reminders_are_written_with_sorted_keys()
     {
         const Reminder reminder{m_note.id, *m_note.quoteID, u"交/房租"_s, u"明天 交房租"_s,

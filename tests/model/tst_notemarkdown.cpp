@@ -96,6 +96,11 @@ private Q_SLOTS:
         const auto broken = NoteFileCodec::decode("[{\"id\":1}]", m_today, m_calendar);
         QCOMPARE(broken.value().first().text, u"[{\"id\":1}]"_s);
         QCOMPARE(NoteFileCodec::decode("\xff x", m_today, m_calendar).value().first().text, u"\uFFFD x"_s);
+        QCOMPARE(NoteFileCodec::decode("\xEF\xBB\xBF- \xe6\x97/\xf0\x9f\x98/\xc0\x80", m_today, m_calendar)
+                     .value()
+                     .first()
+                     .text,
+            u"\uFFFD/\uFFFD/\uFFFD\uFFFD"_s);
         QCOMPARE(NoteFileCodec::decode("# 2024-03-05\n\n", m_today, m_calendar).message(),
             u"unrecognizedFormat"_s);
         QCOMPARE(NoteFileCodec::decode("", m_today, m_calendar).message(), u"unrecognizedFormat"_s);

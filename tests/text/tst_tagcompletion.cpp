@@ -27,7 +27,11 @@ private Q_SLOTS:
         row("#a@b|", "(none)");
         row("#a\u3000b|", "(none)");
         row("😀#家👨‍👩‍👧é|", "家👨‍👩‍👧é");
-        row("#\u0308a|", "(none)"); // "#" with a mark is another character
+        row("#\u0308a|", "(none)");                  // "#" with a mark is another character
+        row("#a#\uFE0F\u20E3b|", "a#\uFE0F\u20E3b"); // so is the keycap
+        row("#|\uFE0F", "");
+        row("#a\r\nb|", "(none)");
+        row("#a \u0301b|", "(none)");
         row("abc|", "(none)");
     }
     void the_fragment_ends_at_the_caret()

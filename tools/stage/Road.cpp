@@ -3,6 +3,7 @@
 #include "foundation/Clock.h"
 #include "model/NoteCoding.h"
 
+#include <QDebug>
 #include <QFile>
 
 #include <algorithm>
@@ -34,12 +35,18 @@ void Road::stop()
 
 bool Road::waitForTrayIcon()
 {
-    return PrivateDesktop::waitUntil([this] {
+    const bool isThere = PrivateDesktop::waitUntil([this] {
         const auto windows = m_desktop.screen().windowsOfClass(name);
         return std::any_of(windows.begin(), windows.end(), [](const XServer::Window &window) {
             return window.isInner && window.frame.height() < smallestPanel;
         });
     });
+    if (!isThere) {
+        for (const XServer::Window &window : m_desktop.screen().windowsOfClass(name))
+            qWarning() << "a window, not an icon in the tray:" << window.frame << window.isInner;
+        qWarning("the program says: %s", m_process->readAll().constData());
+    }
+    return isThere;
 }
 
 std::optional<QRect> Road::panel() const
