@@ -1,7 +1,7 @@
 // Adding a note to 10,000 notes, against a plain program that writes, syncs and renames the same bytes.
 #include "model/NoteCoding.h"
 #include "model/NoteStore.h"
-#include "support/TestClock.h"
+#include "support/ManyNotes.h"
 #include "support/TestFiles.h"
 
 #include <benchmark/benchmark.h>
@@ -14,16 +14,6 @@
 #include <unistd.h>
 
 namespace {
-QList<Note> manyNotes(int count)
-{
-    QList<Note> notes;
-    for (int i = 0; i < count; ++i) {
-        notes.append({QUuid::createUuid(), QStringLiteral("第%1条 买牛奶和面包，顺便取快递 #家 #购物").arg(i),
-            {}, {}, {}, at("2026-03-01T00:00:00Z") - std::chrono::minutes(i)});
-    }
-    return notes;
-}
-
 /// In a folder of the build, which lies on a disk; a temporary folder may be memory.
 QTemporaryDir folderOnDisk()
 {

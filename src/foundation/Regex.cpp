@@ -42,40 +42,68 @@ const Regex::Compiled &Regex::compiled() const
     return *m_compiled;
 }
 
-void Regex::search(QStringView text, bool onlyFirst, std::vector<Match> &matches) const
+class Regex::Search
 {
-    const icu::RegexPattern *pattern = compiled().pattern.get();
-    if (!pattern)
-        return;
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::UnicodeString input(
-        false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()));
-    const std::unique_ptr<icu::RegexMatcher> matcher(pattern->matcher(input, status));
-    if (U_FAILURE(status))
-        return;
-    matcher->setTimeLimit(timeLimit, status);
-    while (matcher->find(status) && U_SUCCESS(status)) {
-        Match match;
-        for (int32_t number = 0; number <= matcher->groupCount(); ++number)
-            match.m_groups.append({matcher->start(number, status), matcher->end(number, status)});
-        matches.push_back(std::move(match));
-        if (onlyFirst)
+public:
+    Search(const icu::RegexPattern *pattern, QStringView text)
+        : m_input(false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()))
+    {
+        if (!pattern)
             return;
+        UErrorCode status = U_ZERO_ERROR;
+        m_matcher.reset(pattern->matcher(m_input, status));
+        if (U_SUCCESS(status))
+            m_matcher->setTimeLimit(timeLimit, status);
+        if (U_FAILURE(status))
+            m_matcher.reset();
     }
+
+    bool next()
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        if (!m_matcher || !m_matcher->find(status) || U_FAILURE(status))
+            return false;
+        m_match.m_groups.clear();
+        for (int32_t number = 0; number <= m_matcher->groupCount(); ++number)
+            m_match.m_groups.append({m_matcher->start(number, status), m_matcher->end(number, status)});
+        return true;
+    }
+    [[nodiscard]] const Match &match() const { return m_match; }
+
+private:
+    icu::UnicodeString m_input;
+    std::unique_ptr<icu::RegexMatcher> m_matcher;
+    Match m_match;
+};
+
+Regex::Matches::Matches(std::unique_ptr<Search> search)
+    : m_search(std::move(search))
+{
+}
+
+Regex::Matches::~Matches() = default;
+
+const Regex::Match &Regex::Matches::Iterator::operator*() const
+{
+    return m_search->match();
+}
+
+Regex::Matches::Iterator &Regex::Matches::Iterator::operator++()
+{
+    if (!m_search->next())
+        m_search = nullptr;
+    return *this;
 }
 
 std::optional<Regex::Match> Regex::firstMatch(QStringView text) const
 {
-    std::vector<Match> matches;
-    search(text, true, matches);
-    return matches.empty() ? std::nullopt : std::optional(std::move(matches.front()));
+    Search search(compiled().pattern.get(), text);
+    return search.next() ? std::optional(search.match()) : std::nullopt;
 }
 
-std::vector<Regex::Match> Regex::allMatches(QStringView text) const
+Regex::Matches Regex::allMatches(QStringView text) const
 {
-    std::vector<Match> matches;
-    search(text, false, matches);
-    return matches;
+    return Matches(std::make_unique<Search>(compiled().pattern.get(), text));
 }
 
 QString Regex::replaced(QStringView text, QStringView replacement) const

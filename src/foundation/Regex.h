@@ -8,7 +8,6 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <vector>
 
 /// A regular expression in ICU syntax over UTF-16, where \d, \s and \b know all of Unicode.
 ///
@@ -32,6 +31,40 @@ public:
         QVarLengthArray<TextRange, 6> m_groups;
     };
 
+    class Search;
+
+    /// The matches from left to right, not overlapping, each looked for when it is its turn. To be walked
+    /// once, while the text lives.
+    class Matches
+    {
+    public:
+        explicit Matches(std::unique_ptr<Search> search);
+        ~Matches();
+
+        struct End {
+        };
+        class Iterator
+        {
+        public:
+            explicit Iterator(Search *search)
+                : m_search(search)
+            {
+                ++*this;
+            }
+            const Match &operator*() const;
+            Iterator &operator++();
+            bool operator==(End) const { return !m_search; }
+
+        private:
+            Search *m_search; ///< null behind the last match
+        };
+        [[nodiscard]] Iterator begin() { return Iterator(m_search.get()); }
+        [[nodiscard]] End end() const { return {}; }
+
+    private:
+        std::unique_ptr<Search> m_search;
+    };
+
     Regex()
         : Regex(QString())
     {
@@ -42,8 +75,7 @@ public:
     Regex &operator=(const Regex &) = delete;
 
     [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
-    /// From left to right, not overlapping.
-    [[nodiscard]] std::vector<Match> allMatches(QStringView text) const;
+    [[nodiscard]] Matches allMatches(QStringView text) const;
     /// The text with every match written as @p replacement, which is taken as it is.
     [[nodiscard]] QString replaced(QStringView text, QStringView replacement) const;
     [[nodiscard]] bool matchesIn(QStringView text) const { return firstMatch(text).has_value(); }
@@ -51,7 +83,6 @@ public:
 private:
     struct Compiled;
     [[nodiscard]] const Compiled &compiled() const;
-    void search(QStringView text, bool onlyFirst, std::vector<Match> &matches) const;
 
     QString m_pattern;
     Case m_case;

@@ -14,37 +14,34 @@ namespace dom = simdjson::dom;
 namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// -1 for what is no hexadecimal digit.
-constexpr int hexValue(char digit)
+constexpr std::array<signed char, 256> makeHexValues()
 {
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    const char lower = char(digit | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (int i = 0; i < 10; ++i)
+        values[size_t('0' + i)] = char(i);
+    for (int i = 0; i < 6; ++i)
+        values[size_t('a' + i)] = values[size_t('A' + i)] = char(10 + i);
+    return values;
 }
 
 /// Exactly the 36 characters of the canonical form, in either case.
 std::optional<QUuid> parseUuid(std::string_view text)
 {
-    if (text.size() != 36)
+    static constexpr std::array<signed char, 256> hexValues = makeHexValues();
+    static constexpr size_t bytesAt[16] = {0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
+    if (text.size() != 36 || text[8] != '-' || text[13] != '-' || text[18] != '-' || text[23] != '-')
         return std::nullopt;
     std::array<uchar, 16> bytes{};
-    size_t digits = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-')
-                return std::nullopt;
-            continue;
-        }
-        const int value = hexValue(text[i]);
-        if (value < 0)
-            return std::nullopt;
-        bytes[digits / 2] = uchar((bytes[digits / 2] << 4) | value);
-        ++digits;
+    int all = 0; // negative as soon as one digit is none
+    for (size_t i = 0; i < bytes.size(); ++i) {
+        const int value = hexValues[uchar(text[bytesAt[i]])] * 16 | hexValues[uchar(text[bytesAt[i] + 1])];
+        all |= value;
+        bytes[i] = uchar(value);
     }
-    return QUuid(uint(bytes[0]) << 24 | uint(bytes[1]) << 16 | uint(bytes[2]) << 8 | bytes[3],
-        ushort(bytes[4] << 8 | bytes[5]), ushort(bytes[6] << 8 | bytes[7]), bytes[8], bytes[9], bytes[10],
-        bytes[11], bytes[12], bytes[13], bytes[14], bytes[15]);
+    if (all < 0)
+        return std::nullopt;
+    return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
 }
 
 // Each reads one value into its place and tells whether it could.
@@ -90,9 +87,26 @@ bool read(dom::element value, std::optional<T> &place)
     return read(value, place.emplace());
 }
 
+/// Whether an address is as simple as most are: a web address of a named host, in characters that need no
+/// thought.
+bool isPlainAddress(QStringView address)
+{
+    const qsizetype scheme = address.indexOf(u"://");
+    if (scheme < 0 || (address.first(scheme) != u"https" && address.first(scheme) != u"http"))
+        return false;
+    const QStringView rest = address.sliced(scheme + 3);
+    const auto isPlain = [](QChar character) {
+        const char16_t unit = character.unicode();
+        return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z')
+               || (unit >= u'0' && unit <= u'9') || unit == u'.' || unit == u'-' || unit == u'_'
+               || unit == u'/' || unit == u'?' || unit == u'=' || unit == u'&' || unit == u'#';
+    };
+    return !rest.isEmpty() && rest.front().isLetter() && std::all_of(rest.begin(), rest.end(), isPlain);
+}
+
 bool isAddress(const std::optional<QString> &link)
 {
-    return !link || QUrl(*link).isValid();
+    return !link || isPlainAddress(*link) || QUrl(*link).isValid();
 }
 
 bool read(dom::object object, Note &note)
@@ -165,10 +179,8 @@ Result<QList<Record>> decode(QByteArrayView bytes)
     records.reserve(qsizetype(array.size()));
     for (const dom::element element : array) {
         dom::object object;
-        Record record;
-        if (element.get(object) != simdjson::SUCCESS || !read(object, record))
-            return Failure{QStringLiteral("element %1 is not as it should be").arg(records.size())};
-        records.append(std::move(record));
+        if (element.get(object) != simdjson::SUCCESS || !read(object, records.emplaceBack()))
+            return Failure{QStringLiteral("element %1 is not as it should be").arg(records.size() - 1)};
     }
     return records;
 }
