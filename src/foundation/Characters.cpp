@@ -22,3 +22,13 @@ TextRange Characters::at(QStringView text, qsizetype position)
     const int32_t end = iterator->following(int32_t(position - from));
     return {from + iterator->previous(), from + end};
 }
+
+QStringView Characters::trimmedOfBlanks(QStringView text)
+{
+    const auto isBlank = [](QChar character) { return character == u' ' || character == u'\t'; };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}

@@ -1,8 +1,8 @@
 #include "model/NoteMarkdown.h"
 
+#include "foundation/Characters.h"
 #include "foundation/Digits.h"
 #include "foundation/Regex.h"
-#include "text/TagEditing.h"
 
 using namespace std::chrono;
 
@@ -85,7 +85,7 @@ public:
         else if (line.startsWith(u'#'))
             readHeading(line);
         else if (line.startsWith(u'>'))
-            readQuote(TagEditing::trimmedOfBlanks(line.sliced(1)));
+            readQuote(Characters::trimmedOfBlanks(line.sliced(1)));
         else
             readNote(line);
     }
@@ -110,7 +110,7 @@ private:
     void readNote(QStringView line)
     {
         const TimePrefix split = splitTimePrefix(withoutListMarker(line));
-        const QStringView text = TagEditing::trimmedOfBlanks(split.rest);
+        const QStringView text = Characters::trimmedOfBlanks(split.rest);
         if (text.isEmpty())
             return;
         const seconds ofDay = split.time ? *split.time : seconds(m_untimed++);
@@ -154,7 +154,7 @@ QList<Note> NoteMarkdown::parse(QStringView text, Instant fallbackDay, const Cal
     qsizetype start = 0;
     for (qsizetype end = 0; end <= text.size(); ++end) {
         if (end == text.size() || isNewline(text[end])) {
-            parser.read(TagEditing::trimmedOfBlanks(text.sliced(start, end - start)));
+            parser.read(Characters::trimmedOfBlanks(text.sliced(start, end - start)));
             start = end + 1;
         }
     }

@@ -1,6 +1,7 @@
 #include "model/NoteStore.h"
 
 #include "foundation/CaseFolding.h"
+#include "foundation/Characters.h"
 #include "foundation/Log.h"
 #include "model/AppPaths.h"
 #include "model/NoteCoding.h"
@@ -231,7 +232,7 @@ qsizetype NoteStore::noteCount(const QString &tag) const
 
 void NoteStore::renameTag(const QString &from, const QString &to)
 {
-    const QString name = TagEditing::trimmedOfBlanks(to).toString();
+    const QString name = Characters::trimmedOfBlanks(to).toString();
     const bool isName = !name.isEmpty() && name != from
                         && std::none_of(name.begin(), name.end(),
                             [](QChar character) { return QStringView(u" \t#@").contains(character); });

@@ -1,5 +1,6 @@
 #include "text/TagEditing.h"
 
+#include "foundation/Characters.h"
 #include "foundation/Regex.h"
 
 namespace {
@@ -8,16 +9,6 @@ bool isTag(const TagEditing::Token &token, QStringView name)
     return QStringView(token.text).sliced(1) == name;
 }
 } // namespace
-
-QStringView TagEditing::trimmedOfBlanks(QStringView text)
-{
-    const auto isBlank = [](QChar character) { return character == u' ' || character == u'\t'; };
-    while (!text.isEmpty() && isBlank(text.front()))
-        text = text.sliced(1);
-    while (!text.isEmpty() && isBlank(text.back()))
-        text.chop(1);
-    return text;
-}
 
 QList<TagEditing::Token> TagEditing::tokens(QStringView text)
 {
@@ -68,5 +59,5 @@ QString TagEditing::removingTag(QStringView text, QStringView tag)
         }
     }
     result += text.sliced(cursor);
-    return trimmedOfBlanks(result).toString();
+    return Characters::trimmedOfBlanks(result).toString();
 }

@@ -14,9 +14,6 @@ struct Token {
     bool operator==(const Token &) const = default;
 };
 
-/// Without spaces and tabs at both ends; line breaks stay.
-[[nodiscard]] QStringView trimmedOfBlanks(QStringView text);
-
 [[nodiscard]] QList<Token> tokens(QStringView text);
 
 /// How often the tag stands in the text.

@@ -1,5 +1,6 @@
 #include "text/WebLink.h"
 
+#include "foundation/Characters.h"
 #include "foundation/Regex.h"
 
 #include <QUrl>
@@ -74,7 +75,7 @@ std::optional<QString> WebLink::decodeHTML(
     constexpr QStringView charset = u"charset=";
     const QStringList parts = contentType.value_or(QString()).split(u';');
     for (const QString &part : parts) {
-        const QString trimmed = part.trimmed();
+        const QStringView trimmed = Characters::trimmedOfBlanks(part);
         if (!trimmed.startsWith(charset, Qt::CaseInsensitive))
             continue;
         if (auto text = Charset::decode(bytes, trimmed.sliced(charset.size()).toLatin1(), extent))

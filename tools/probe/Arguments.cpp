@@ -5,6 +5,7 @@
 #include "text/L10n.h"
 
 #include <array>
+#include <cmath>
 
 using namespace std::chrono;
 
@@ -114,7 +115,8 @@ std::optional<QString> Arguments::optionalText(const QString &key)
 qsizetype Arguments::integer(const QString &key)
 {
     const double number = value(key).toDouble();
-    if (!value(key).isDouble() || number != double(qsizetype(number)))
+    constexpr double most = 1LL << 53; // beyond which not every integer is there
+    if (!value(key).isDouble() || !(std::abs(number) <= most) || number != std::floor(number))
         fail(QStringLiteral("\"%1\" must be an integer").arg(key));
     return value(key).toInteger();
 }
