@@ -10,6 +10,7 @@ namespace {
 struct Choice {
     Instant fireAt;
     QList<TextRange> ranges;
+    ReminderLanguage language;
 };
 
 /// A date with a time wins over a time alone (whose day another detection may supply), and that over a date
@@ -17,16 +18,20 @@ struct Choice {
 std::optional<Choice> choose(
     const QList<DateDetection> &detections, Instant now, const Calendar &calendar, ReminderLanguage language)
 {
+    // What a detector states decides; of one that states nothing the language's patterns are asked.
+    using Kind = DateDetection::Kind;
     const auto holdsTime = [language](const DateDetection &detection) {
-        return ReminderParser::holdsTime(detection.text, language);
+        return detection.kind ? detection.kind != Kind::Day
+                              : ReminderParser::holdsTime(detection.text, language);
     };
     const auto holdsDate = [language](const DateDetection &detection) {
-        return ReminderParser::holdsDate(detection.text, language);
+        return detection.kind ? detection.kind != Kind::Time
+                              : ReminderParser::holdsDate(detection.text, language);
     };
 
     for (const DateDetection &detection : detections) {
         if (holdsTime(detection) && holdsDate(detection))
-            return Choice{detection.fireAt, {detection.range}};
+            return Choice{detection.fireAt, {detection.range}, detection.language.value_or(language)};
     }
     for (const DateDetection &detection : detections) {
         if (!holdsTime(detection))
@@ -38,11 +43,14 @@ std::optional<Choice> choose(
             calendar.day(hasDate ? date->fireAt : now), calendar.timeOfDay(detection.fireAt));
         if (!fireAt)
             return std::nullopt;
-        return Choice{*fireAt, hasDate ? QList{detection.range, date->range} : QList{detection.range}};
+        // The midnight that ends a day.
+        const int dayOffset = detection.kind ? calendar.daysBetween(now, detection.fireAt) : 0;
+        return Choice{calendar.addingDays(*fireAt, dayOffset),
+            hasDate ? QList{detection.range, date->range} : QList{detection.range}, detection.language.value_or(language)};
     }
     for (const DateDetection &detection : detections) {
         if (!holdsTime(detection))
-            return Choice{ReminderDetector::normalizePureDate(detection.fireAt, calendar), {detection.range}};
+            return Choice{ReminderDetector::normalizePureDate(detection.fireAt, calendar), {detection.range}, detection.language.value_or(language)};
     }
     return std::nullopt;
 }
@@ -66,8 +74,9 @@ std::optional<ParsedReminder> ReminderDetector::detect(
         return std::nullopt;
     const bool standsInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
     return ParsedReminder{choice->fireAt,
-        standsInFront ? ReminderParser::content(trimmed.sliced(choice->ranges.first().end), trimmed, language)
-                      : mergedContent(trimmed, choice->ranges, language)};
+        standsInFront ? ReminderParser::content(
+                            trimmed.sliced(choice->ranges.first().end), trimmed, choice->language)
+                      : mergedContent(trimmed, choice->ranges, choice->language)};
 }
 
 QString ReminderDetector::mergedContent(QStringView text, QList<TextRange> ranges, ReminderLanguage language)

@@ -25,6 +25,105 @@ QString timePattern()
 }
 } // namespace
 
+namespace {
+DateWords dates()
+{
+    using enum DateWords::Strength;
+    using enum DayPart;
+    using enum SpanUnit;
+    return {
+        .relativeDays = {{u"today", 0}, {u"tomorrow|tmrw|tmr|tomorow|tommorow|tommorrow", 1},
+            {u"the_day_after_tomorrow|day_after_tomorrow|overmorrow", 2}},
+        .weekdays = {{u"sunday", 0}, {u"monday", 1}, {u"tuesday|tues|tue", 2}, {u"wednesday|weds", 3},
+            {u"thursday|thurs|thur|thu", 4}, {u"friday|fri", 5}, {u"saturday", 6}},
+        .months = {{u"january|jan", 1}, {u"february|feb", 2}, {u"march|mar", 3}, {u"april|apr", 4}, {u"may", 5},
+            {u"june|jun", 6}, {u"july|jul", 7}, {u"august|aug", 8}, {u"september|sept|sep", 9},
+            {u"october|oct", 10}, {u"november|nov", 11}, {u"december|dec", 12}},
+        .numbers = {{u"one", 1}, {u"two", 2}, {u"three", 3}, {u"four", 4}, {u"five", 5}, {u"six", 6}, {u"seven", 7},
+            {u"eight", 8}, {u"nine", 9}, {u"ten", 10}, {u"eleven", 11}, {u"twelve", 12}, {u"fifteen", 15},
+            {u"twenty", 20}, {u"twenty-five", 25}, {u"thirty", 30}, {u"forty", 40}, {u"forty-five", 45}},
+        .ordinals = {{u"first", 1}, {u"second", 2}, {u"third", 3}, {u"fourth", 4}, {u"fifth", 5}, {u"sixth", 6},
+            {u"seventh", 7}, {u"eighth", 8}, {u"ninth", 9}, {u"tenth", 10}, {u"eleventh", 11}, {u"twelfth", 12},
+            {u"fifteenth", 15}, {u"twentieth", 20}},
+        .parts = {{u"morning|in_the_morning", Morning}, {u"noon|midday|lunchtime", Noon},
+            {u"afternoon|in_the_afternoon", Afternoon}, {u"evening|in_the_evening", Evening},
+            {u"night|at_night", Night}, {u"am|a.m.|a.m", Am}, {u"pm|p.m.|p.m", Pm}},
+        .units = {{u"minutes|minute|mins|min", Minutes}, {u"hours|hour|hrs|hr", Hours}, {u"days|day", Days},
+            {u"weeks|week", Weeks}, {u"months|month", Months}},
+        .rules = {
+            {u"<relative>"},
+            {u"this|next? tonight|tonite", {.relativeDay = 0, .part = Evening}},
+            {u"this morning", {.relativeDay = 0, .part = Morning}},
+            {u"this afternoon", {.relativeDay = 0, .part = Afternoon}},
+            {u"this evening", {.relativeDay = 0, .part = Evening}},
+            {u"this|coming|upcoming? <weekday>"},
+            {u"next <weekday>", {.next = 1}},
+            {u"sun", {.weekday = 0}, WithNeighbour},
+            {u"mon", {.weekday = 1}, WithNeighbour},
+            {u"wed", {.weekday = 3}, WithNeighbour},
+            {u"sat", {.weekday = 6}, WithNeighbour},
+            {u"on|by|this|until sun", {.weekday = 0}, AtEdge},
+            {u"on|by|this|until mon", {.weekday = 1}},
+            {u"on|by|this|until wed", {.weekday = 3}},
+            {u"on|by|this|until sat", {.weekday = 6}},
+            {u"next sun", {.weekday = 0, .next = 1}},
+            {u"next mon", {.weekday = 1, .next = 1}},
+            {u"next wed", {.weekday = 3, .next = 1}},
+            {u"next sat", {.weekday = 6, .next = 1}},
+            {u"sun <part>", {.weekday = 0}},
+            {u"mon <part>", {.weekday = 1}},
+            {u"wed <part>", {.weekday = 3}},
+            {u"sat <part>", {.weekday = 6}},
+            {u"next week", {.weeksAhead = 1}},
+            {u"this|the|at_the|over_the weekend", {.weekend = 0}},
+            {u"next weekend", {.weekend = 1}},
+            {u"the? end of the|this? month", {.monthEnd = 1}},
+            {u"the? end of next month", {.monthsAhead = 1, .monthEnd = 1}},
+            {u"on|by|until|before|from the <day> st|nd|rd|th of_the_month?", {}, AtEdge},
+            {u"on|by|until|before the <ordinal> of_the_month?", {}, AtEdge},
+            {u"<month> .? <day> st|nd|rd|th? ,? <year>?"},
+            {u"the? <day> st|nd|rd|th? of? <month> .? ,? <year>?"},
+            {u"<monthnumber> / <day> / <year>"},
+            {u"<monthnumber> / <day>", {}, WithNeighbour},
+            {u"on|by|until|before <monthnumber> / <day>"},
+            {u"in|within <n> <unit>"},
+            {u"in|within a|an <unit>"},
+            {u"in a couple of? <unit>", {.halves = 4}},
+            {u"in half an hour", {.halves = 1, .unit = Hours}},
+            {u"in a half hour", {.halves = 1, .unit = Hours}},
+            {u"in an hour and a half", {.halves = 3, .unit = Hours}},
+            {u"in <n> and a half <unit>", {.halves = 1}},
+            {u"in a quarter of an hour", {.halves = 30, .unit = Minutes}},
+            {u"<n> <unit> from now|today"},
+            {u"a|an|one <unit> from now|today"},
+            {u"<hour> am|a.m.|a.m", {.part = Am}, AtEdge},
+            {u"at|by|until|till|before|after|from|around|@ <hour> am|a.m.|a.m", {.part = Am}},
+            {u"<hour> pm|p.m.|p.m", {.part = Pm}},
+            {u"<hour> . <mm> am|a.m.", {.part = Am}},
+            {u"<hour> . <mm> pm|p.m.", {.part = Pm}},
+            {u"at|@|by|until|around <hour>", {}, AtEdge},
+            {u"<hour> o'clock|oclock"},
+            {u"half past <hour>", {.shift = 30}},
+            {u"half <hour>", {.shift = 30}, WithNeighbour},
+            {u"quarter past|after <hour>", {.shift = 15}},
+            {u"a quarter past|after <hour>", {.shift = 15}},
+            {u"quarter to|of|before|til <hour>", {.shift = -15}},
+            {u"a quarter to|of|before|til <hour>", {.shift = -15}},
+            {u"<minute> minutes? past|after <hour>"},
+            {u"at|by <minute> to|before <hour>", {.minutesBefore = 1}},
+            {u"<minute> minutes to|before <hour>", {.minutesBefore = 1}},
+            {u"noon|midday", {.hour = 12, .asWritten = 1}},
+            {u"midnight", {.hour = 24}},
+        },
+        .before = u"at|on|by|until|till|before|after|from|for|around|about|no_later_than|starting|on_the|first_thing",
+        .between = u"at|on|in|the|of|around|by",
+        .after = u"sharp|o'clock",
+        .notAfter = u"last|past|black|good|since|chapter|version|level|page|every",
+        .notBefore = u"ago|percent|euros|dollars|bucks|people|times|of_march",
+    };
+}
+} // namespace
+
 const LanguageRules &Languages::english()
 {
     static const LanguageRules rules{
@@ -52,6 +151,7 @@ const LanguageRules &Languages::english()
         .triggerPhrases = {u"remind me to", u"remind me", u"remind", u"don't forget to", u"don't forget",
             u"don’t forget to", u"don’t forget", u"dont forget to", u"dont forget", u"remember to",
             u"remember"},
+        .dates = dates(),
     };
     return rules;
 }

@@ -16,6 +16,95 @@ QString timePattern()
 }
 } // namespace
 
+namespace {
+DateWords dates()
+{
+    using enum DateWords::Strength;
+    using enum DayPart;
+    using enum SpanUnit;
+    return {
+        .relativeDays = {{u"heute", 0}, {u"morgen", 1}, {u"übermorgen|uebermorgen", 2}},
+        .weekdays = {{u"sonntag|sonntags", 0}, {u"montag|montags", 1}, {u"dienstag|dienstags", 2}, {u"mittwoch|mittwochs", 3},
+            {u"donnerstag|donnerstags", 4}, {u"freitag|freitags", 5}, {u"samstag|sonnabend|samstags", 6}},
+        .months = {{u"januar|jan|jänner", 1}, {u"februar|feb|feber", 2}, {u"märz|maerz|mrz", 3}, {u"april|apr", 4}, {u"mai", 5},
+            {u"juni|jun", 6}, {u"juli|jul", 7}, {u"august|aug", 8}, {u"september|sept|sep", 9}, {u"oktober|okt", 10},
+            {u"november|nov", 11}, {u"dezember|dez", 12}},
+        .numbers = {{u"ein|eins|einem|einer", 1}, {u"zwei|zwo", 2}, {u"drei", 3}, {u"vier", 4}, {u"fünf", 5}, {u"sechs", 6},
+            {u"sieben", 7}, {u"acht", 8}, {u"neun", 9}, {u"zehn", 10}, {u"elf", 11}, {u"zwölf", 12}, {u"fünfzehn", 15},
+            {u"zwanzig", 20}, {u"dreißig|dreissig", 30}, {u"vierzig", 40}, {u"fünfundvierzig", 45}},
+        .ordinals = {{u"ersten", 1}, {u"zweiten", 2}, {u"dritten", 3}, {u"vierten", 4}, {u"fünften", 5}, {u"sechsten", 6},
+            {u"siebten|siebenten", 7}, {u"achten", 8}, {u"neunten", 9}, {u"zehnten", 10}, {u"fünfzehnten", 15},
+            {u"zwanzigsten", 20}},
+        .parts = {{u"früh|morgens|vormittag|vormittags|am_vormittag|am_morgen|morgen", Morning}, {u"mittag|mittags|am_mittag", Noon},
+            {u"nachmittag|nachmittags|am_nachmittag", Afternoon}, {u"abend|abends|am_abend", Evening},
+            {u"nacht|nachts|in_der_nacht", Night}},
+        .units = {{u"minuten|minute|min", Minutes}, {u"stunden|stunde|std", Hours}, {u"tagen|tage|tag", Days},
+            {u"wochen|woche", Weeks}, {u"monaten|monate|monat", Months}},
+        .rules = {
+            {u"<relative>"},
+            {u"morgen früh", {.relativeDay = 1, .part = Morning}},
+            {u"heute früh", {.relativeDay = 0, .part = Morning}},
+            {u"<weekdaypart>"},
+            {u"nächsten|nächster|nächste <weekday>", {.next = 1}},
+            {u"diesen|dieser|kommenden|kommender? <weekday>"},
+            {u"<weekday> nächste|nächster|kommende|kommender woche", {.weeksAhead = 1}},
+            {u"nächste|kommende woche <weekday>", {.weeksAhead = 1}},
+            {u"nächste|kommende woche", {.weeksAhead = 1}},
+            {u"übernächste woche <weekday>?", {.weeksAhead = 2}},
+            {u"mo", {.weekday = 1}, WithNeighbour},
+            {u"di", {.weekday = 2}, WithNeighbour},
+            {u"mi", {.weekday = 3}, WithNeighbour},
+            {u"do", {.weekday = 4}, WithNeighbour},
+            {u"fr", {.weekday = 5}, WithNeighbour},
+            {u"sa", {.weekday = 6}, WithNeighbour},
+            {u"so", {.weekday = 0}, WithNeighbour},
+            {u"am|dieses|dies wochenende", {.weekend = 0}},
+            {u"nächstes|am_nächsten wochenende", {.weekend = 1}},
+            {u"ende des|diesen? monats", {.monthEnd = 1}},
+            {u"zum? monatsende", {.monthEnd = 1}},
+            {u"ende nächsten monats", {.monthsAhead = 1, .monthEnd = 1}},
+            {u"<day> . <month> .? <year>?"},
+            {u"<day> <month> .? <year>"},
+            {u"<day> . <monthnumber> . <year>?"},
+            {u"den? <ordinal> <month> <year>?"},
+            {u"am|den|bis|zum|bis_zum <day> . <monthnumber>"},
+            {u"am|zum|bis_zum|den <day> .", {}, AtEdge},
+            {u"am|zum|bis_zum <ordinal>", {}, AtEdge},
+            {u"in <n> <unit>"},
+            {u"in einer halben stunde", {.halves = 1, .unit = Hours}},
+            {u"in anderthalb|eineinhalb stunden", {.halves = 3, .unit = Hours}},
+            {u"in zweieinhalb stunden", {.halves = 5, .unit = Hours}},
+            {u"in einer viertelstunde", {.halves = 30, .unit = Minutes}},
+            {u"in einer dreiviertelstunde", {.halves = 90, .unit = Minutes}},
+            {u"heute|morgen in <n> <unit>"},
+            {u"<hour> uhr"},
+            {u"<hour> uhr <minute>"},
+            {u"<hour> : <mm> uhr|h", {.asWritten = 1}},
+            {u"<hour> . <mm> uhr|h", {.asWritten = 1}},
+            {u"um <hour> . <mm>", {.asWritten = 1}, AtEdge},
+            {u"<hour> h"},
+            {u"um|gegen|ab|bis <hour>", {}, AtEdge},
+            {u"halb <hour> uhr?", {.shift = -30}},
+            {u"viertel nach <hour>", {.shift = 15}},
+            {u"viertel vor <hour>", {.shift = -15}},
+            {u"dreiviertel|drei_viertel <hour>", {.shift = -15}},
+            {u"<minute> minuten? nach <hour>"},
+            {u"<minute> minuten? vor <hour>", {.minutesBefore = 1}},
+            {u"<minute> nach halb <hour>", {.shift = -30}},
+            {u"<minute> vor halb <hour>", {.minutesBefore = 1, .shift = -30}},
+            {u"um|am|zu|zum? mitternacht", {.hour = 24}},
+            {u"um? zwölf uhr mittags", {.hour = 12, .asWritten = 1}},
+        },
+        .before = u"um|am|bis|bis_zum|bis_zu|ab|vor|vor_dem|nach|für|gegen|spätestens|den|der|zum|von|vom|schon|gleich|im",
+        .between = u"um|am|den|gegen|ab|der|dem|im",
+        .after = u"uhr|herum|genau|pünktlich",
+        .notAfter = u"letzten|letzter|vergangenen|guten|jeden|jeder|alle|kapitel|version|seite|gestern|vorgestern",
+        .notBefore = u"personen|euro|prozent|leuten|platz|stock|weltkrieg|element",
+        .joinsWeekdayAndPart = true,
+    };
+}
+} // namespace
+
 const LanguageRules &Languages::german()
 {
     static const LanguageRules rules{
@@ -46,6 +135,7 @@ const LanguageRules &Languages::german()
             {u"in der nacht", HourRule::Night}},
         .halfBefore = u"halb",
         .triggerPhrases = {u"erinnere mich", u"erinnere", u"nicht vergessen", u"denk dran", u"denk daran"},
+        .dates = dates(),
     };
     return rules;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Regex.h"
+#include "reminders/DateWords.h"
 
 #include <QStringView>
 
@@ -69,4 +70,7 @@ struct LanguageRules {
     std::vector<QStringView> triggerPhrases;
     /// The particle that joins a time to the rest of the sentence, or nothing.
     QStringView joiningParticle = {};
+
+    /// How dates are found anywhere in a draft.
+    DateWords dates = {};
 };

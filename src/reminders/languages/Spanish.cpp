@@ -16,6 +16,80 @@ QString timePattern()
 }
 } // namespace
 
+namespace {
+DateWords dates()
+{
+    using enum DateWords::Strength;
+    using enum DayPart;
+    using enum SpanUnit;
+    return {
+        .relativeDays = {{u"hoy", 0}, {u"mañana", 1}, {u"pasado_mañana", 2}},
+        .weekdays = {{u"domingo", 0}, {u"lunes", 1}, {u"martes", 2}, {u"miércoles", 3}, {u"jueves", 4}, {u"viernes", 5},
+            {u"sábado", 6}},
+        .months = {{u"enero|ene", 1}, {u"febrero|feb", 2}, {u"marzo", 3}, {u"abril|abr", 4}, {u"mayo", 5}, {u"junio|jun", 6},
+            {u"julio|jul", 7}, {u"agosto|ago", 8}, {u"septiembre|setiembre|sept|sep", 9}, {u"octubre|oct", 10},
+            {u"noviembre|nov", 11}, {u"diciembre|dic", 12}},
+        .numbers = {{u"un|una|uno", 1}, {u"dos", 2}, {u"tres", 3}, {u"cuatro", 4}, {u"cinco", 5}, {u"seis", 6}, {u"siete", 7},
+            {u"ocho", 8}, {u"nueve", 9}, {u"diez", 10}, {u"once", 11}, {u"doce", 12}, {u"quince", 15}, {u"veinte", 20},
+            {u"veinticinco", 25}, {u"treinta", 30}, {u"cuarenta", 40}, {u"cuarenta_y_cinco", 45}},
+        .ordinals = {{u"primero", 1}},
+        .parts = {{u"por_la_mañana|de_la_mañana|a_la_mañana|temprano", Morning}, {u"al_mediodía|mediodía|a_mediodía|del_mediodía", Noon},
+            {u"por_la_tarde|de_la_tarde|a_la_tarde", Afternoon}, {u"por_la_noche|de_la_noche|a_la_noche|noche", Evening},
+            {u"de_madrugada|de_la_madrugada", EarlyMorning}},
+        .units = {{u"minutos|minuto|min", Minutes}, {u"horas|hora", Hours}, {u"días|día", Days}, {u"semanas|semana", Weeks},
+            {u"meses|mes", Months}},
+        .rules = {
+            {u"<relative>"},
+            {u"esta noche", {.relativeDay = 0, .part = Evening}},
+            {u"esta tarde", {.relativeDay = 0, .part = Afternoon}},
+            {u"esta mañana", {.relativeDay = 0, .part = Morning}},
+            {u"este mediodía", {.relativeDay = 0, .part = Noon}},
+            {u"el? próximo <weekday>", {.next = 1}},
+            {u"este? <weekday>"},
+            {u"<weekday> próximo", {.next = 1}},
+            {u"<weekday> que viene", {.next = 1}},
+            {u"<weekday> de la semana que_viene|próxima", {.weeksAhead = 1}},
+            {u"la? semana que_viene <weekday>?", {.weeksAhead = 1}},
+            {u"la? próxima semana <weekday>?", {.weeksAhead = 1}},
+            {u"este|el|en_el|durante_el fin de semana", {.weekend = 0}},
+            {u"el? próximo fin de semana", {.weekend = 1}},
+            {u"el? fin de semana que_viene|próximo", {.weekend = 1}},
+            {u"a|antes_de|para? fin|fines|final|finales de|del mes", {.monthEnd = 1}},
+            {u"<day> de <month> .? de|del? <year>?"},
+            {u"el <day> <month> .?"},
+            {u"<day> / <monthnumber> / <year>"},
+            {u"el|del|al|para_el|antes_del <day> / <monthnumber>"},
+            {u"<day> / <monthnumber>", {}, WithNeighbour},
+            {u"el? día <day>"},
+            {u"el? día primero"},
+            {u"el|antes_del|para_el|hasta_el <day>", {}, AtEdge},
+            {u"en|dentro_de|de_aquí_a <n> <unit>"},
+            {u"en|dentro_de media hora", {.halves = 1, .unit = Hours}},
+            {u"en|dentro_de una hora y media", {.halves = 3, .unit = Hours}},
+            {u"en|dentro_de <n> horas y media", {.halves = 1, .unit = Hours}},
+            {u"en|dentro_de un cuarto de hora", {.halves = 30, .unit = Minutes}},
+            {u"<hour> : <mm> h|horas", {.asWritten = 1}},
+            {u"<hour> h|hs", {}, AtEdge},
+            {u"a|las|sobre_las|hacia_las? las|la <hour> horas|h?", {}, AtEdge},
+            {u"las|la <hour> y media", {.shift = 30}},
+            {u"las|la <hour> y cuarto", {.shift = 15}},
+            {u"las|la <hour> menos cuarto", {.shift = -15}},
+            {u"las|la <hour> y <minute>"},
+            {u"las|la <hour> menos <minute>", {.minutesBefore = 1}},
+            {u"las <hour> en punto"},
+            {u"las <hour> . <mm>", {.asWritten = 1}, AtEdge},
+            {u"a? medianoche", {.hour = 24}},
+            {u"al|a mediodía", {.hour = 12, .asWritten = 1}},
+        },
+        .before = u"a|el|a_las|las|la|antes_de|antes_del|antes_de_las|para|para_el|para_las|hasta|hasta_el|después_de|después_de_las|desde|desde_el|sobre_las|hacia_las|del|de|este|esta|en|por|antes|al",
+        .between = u"a|a_las|de|el|por|en|al|del",
+        .after = u"en_punto|h|horas",
+        .notAfter = u"la|una|pasado|último|cada|todos_los|capítulo|versión|página|ayer|anteayer",
+        .notBefore = u"pasado|personas|euros|por_ciento|de_ramos|y_la_noche|en_día",
+    };
+}
+} // namespace
+
 const LanguageRules &Languages::spanish()
 {
     static const LanguageRules rules{
@@ -41,6 +115,7 @@ const LanguageRules &Languages::spanish()
             {u"noche", HourRule::Night}},
         .halfPast = u"y media",
         .triggerPhrases = {u"recuérdame", u"recuerda", u"no olvides", u"acuérdate de", u"acuérdate"},
+        .dates = dates(),
     };
     return rules;
 }

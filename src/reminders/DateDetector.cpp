@@ -1,0 +1,276 @@
+#include "reminders/DateDetector.h"
+
+#include "reminders/DateGrammar.h"
+#include "reminders/DateResolver.h"
+#include "reminders/LanguageDetection.h"
+#include "reminders/languages/Languages.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+using Role = DateGrammar::Role;
+using Type = DateToken::Type;
+
+/// One of each set of words; Danish stands for all three Scandinavian languages.
+constexpr std::array languages{ReminderLanguage::Chinese, ReminderLanguage::English, ReminderLanguage::Japanese,
+    ReminderLanguage::Korean, ReminderLanguage::German, ReminderLanguage::French, ReminderLanguage::Spanish,
+    ReminderLanguage::Danish, ReminderLanguage::Dutch, ReminderLanguage::Italian, ReminderLanguage::Portuguese};
+
+const DateGrammar &grammar(ReminderLanguage language)
+{
+    static QHash<const LanguageRules *, std::shared_ptr<const DateGrammar>> grammars;
+    const LanguageRules &rules = Languages::rules(language);
+    auto found = grammars.constFind(&rules);
+    if (found == grammars.cend())
+        found = grammars.insert(&rules, std::make_shared<const DateGrammar>(rules.dates));
+    return **found;
+}
+
+/// Finds the dates of one draft in one language: what the rules match, put together where it stands together.
+class Finder
+{
+public:
+    Finder(const DateGrammar &grammar, const QList<DateToken> &tokens)
+        : m_reading(grammar, tokens)
+        , m_tokens(tokens)
+    {
+    }
+
+    struct Found {
+        qsizetype start = 0; ///< token
+        qsizetype end = 0;
+        DateFacts facts;
+    };
+
+    /// From left to right; at each place the longest wins.
+    QList<Found> find() const
+    {
+        QList<Found> all;
+        qsizetype free = 0; // the first token that no date has yet
+        for (qsizetype start = 0; start < m_tokens.size();) {
+            Found best{start, start, {}};
+            // A leading word may belong to a rule or just lead to the date.
+            for (qsizetype first = start, next = start;; first = next) {
+                if (first < m_tokens.size() && mayBeginAt(first))
+                    extend({start, first, {}}, 0, Strength::WithNeighbour, best);
+                next = m_reading.endOf(Role::Before, first);
+                if (next == first)
+                    break;
+            }
+            if (best.end == start) {
+                ++start;
+                continue;
+            }
+            best.start = withWordsBefore(best.start, free);
+            best.end = withWordsAfter(best.end);
+            all.append(best);
+            start = free = best.end;
+        }
+        return all;
+    }
+
+private:
+    using Strength = DateWords::Strength;
+
+    [[nodiscard]] bool isType(qsizetype token, Type type) const
+    {
+        return token >= 0 && token < m_tokens.size() && m_tokens[token].type == type;
+    }
+    [[nodiscard]] bool isGlued(qsizetype token) const { return token < m_tokens.size() && m_tokens[token].isGlued; }
+    [[nodiscard]] bool isHangul(qsizetype token) const
+    {
+        return isType(token, Type::Character) && DateTokens::isHangul(m_tokens[token].text.front());
+    }
+    [[nodiscard]] bool isHyphen(qsizetype token) const
+    {
+        return isType(token, Type::Mark) && m_tokens[token].text == u"-";
+    }
+
+    /// Not within a word, and not behind one that makes it no date.
+    [[nodiscard]] bool mayBeginAt(qsizetype token) const
+    {
+        if (m_reading.startOf(Role::NotAfter, token) != token)
+            return false;
+        if (!isGlued(token))
+            return true;
+        const qsizetype before = token - 1;
+        if (isHangul(token))
+            return !isHangul(before);
+        if (isHyphen(before))
+            return !isGlued(before);
+        const bool isElision = isType(before, Type::Word) && m_tokens[before].text.endsWith(u'\'');
+        return isElision || !(isType(before, Type::Word) || isType(before, Type::Number))
+               || isType(token, Type::Character);
+    }
+
+    [[nodiscard]] bool mayEndAt(qsizetype token) const
+    {
+        if (m_reading.endOf(Role::NotBefore, token) != token)
+            return false;
+        if (!isGlued(token))
+            return true;
+        if (isHangul(token)) // which may carry a particle
+            return isHangul(token - 1) ? !isHangulBehind(m_reading.endOf(Role::After, token), token) : true;
+        if (isHyphen(token))
+            return !isGlued(token + 1);
+        const bool isPossessive = isType(token, Type::Word) && m_tokens[token].text == u"'s";
+        return isPossessive || isType(token, Type::Character)
+               || !(isType(token, Type::Word) || isType(token, Type::Number) || isType(token, Type::Barrier));
+    }
+    [[nodiscard]] bool isHangulBehind(qsizetype particleEnd, qsizetype token) const
+    {
+        return particleEnd == token || (isHangul(particleEnd) && isGlued(particleEnd));
+    }
+
+    /// The end of the draft or of what is said there.
+    [[nodiscard]] bool isEdge(qsizetype token) const
+    {
+        if (token >= m_tokens.size() || isType(token, Type::Barrier))
+            return true;
+        return isType(token, Type::Mark) && QStringView(u",.;:!?)，。、；！？").contains(m_tokens[token].text.front());
+    }
+
+    /// Tries what can stand behind the parts found so far, and keeps the longest date that can end.
+    void extend(const Found &sofar, int parts, Strength strength, Found &best) const
+    {
+        constexpr int mostParts = 4;
+        const bool isReason = strength == Strength::Alone
+                              || (strength == Strength::AtEdge && (parts > 1 || isEdge(sofar.end)));
+        if (parts > 0 && isReason && sofar.end > best.end && mayEndAt(sofar.end))
+            best = sofar;
+        if (parts == mostParts)
+            return;
+        for (const qsizetype at : continuations(sofar.end, parts)) {
+            if (at >= m_tokens.size())
+                continue;
+            for (const DateGrammar::Match &match : m_reading.matches(at)) {
+                if (const auto facts = DateFacts::together(sofar.facts, match.facts))
+                    extend({sofar.start, match.end, *facts}, parts + 1, std::min(strength, match.strength), best);
+            }
+        }
+    }
+
+    /// Where the next part may begin: at once, or behind a comma or a word that joins parts.
+    [[nodiscard]] QList<qsizetype> continuations(qsizetype end, int parts) const
+    {
+        QList<qsizetype> starts{end};
+        if (parts == 0)
+            return starts;
+        const bool isComma =
+            isType(end, Type::Mark) && QStringView(u",，、").contains(m_tokens[end].text.front());
+        const qsizetype behindComma = isComma ? end + 1 : end;
+        if (isComma)
+            starts.append(behindComma);
+        for (const Role role : {Role::Between, Role::Before}) {
+            const qsizetype behind = m_reading.endOf(role, behindComma);
+            if (behind != behindComma)
+                starts.append(behind);
+        }
+        return starts;
+    }
+
+    /// "by the", "spätestens am": as many as there are.
+    [[nodiscard]] qsizetype withWordsBefore(qsizetype start, qsizetype free) const
+    {
+        for (;;) {
+            const qsizetype before = m_reading.startOf(Role::Before, start);
+            const bool isPart = isHangul(before) && before > 0 && isHangul(before - 1) && isGlued(before);
+            if (before == start || before < free || isPart)
+                return start;
+            start = before;
+        }
+    }
+    [[nodiscard]] qsizetype withWordsAfter(qsizetype end) const
+    {
+        if (isType(end, Type::Word) && m_tokens[end].text == u"'s" && isGlued(end))
+            ++end;
+        return m_reading.endOf(Role::After, end);
+    }
+
+    DateGrammar::Reading m_reading;
+    const QList<DateToken> &m_tokens;
+};
+
+QList<DateDetection> detected(QStringView text, const QList<DateToken> &tokens, ReminderLanguage language,
+    Instant now, const Calendar &calendar)
+{
+    QList<DateDetection> detections;
+    for (const Finder::Found &found : Finder(grammar(language), tokens).find()) {
+        const auto resolved = DateResolver::resolve(found.facts, now, calendar);
+        if (!resolved)
+            continue;
+        TextRange range{tokens[found.start].range.start, tokens[found.end - 1].range.end};
+        // Of two blanks that would meet, one goes with the date.
+        if (range.start > 0 && text[range.start - 1].isSpace() && range.end < text.size()
+            && text[range.end].isSpace())
+            ++range.end;
+        detections.append({resolved->fireAt, range, text.sliced(range.start, range.length()).toString(),
+            resolved->kind, language});
+    }
+    return detections;
+}
+
+/// How many words of the draft speak for a language.
+int countTelling(const QList<DateToken> &tokens, ReminderLanguage language)
+{
+    const DateGrammar &words = grammar(language);
+    return int(std::count_if(tokens.begin(), tokens.end(), [&words](const DateToken &token) {
+        return (token.type == Type::Word || token.type == Type::Character) && words.isTelling(token.text);
+    }));
+}
+
+/// The other languages for which words of the draft speak, the best founded first. Where nothing speaks for the
+/// draft's own language and there are numbers, all that could explain them.
+QList<ReminderLanguage> othersByEvidence(const QList<DateToken> &tokens, ReminderLanguage first, bool isFounded)
+{
+    const bool hasNumbers = std::any_of(
+        tokens.begin(), tokens.end(), [](const DateToken &token) { return token.type == Type::Number; });
+    struct Evidence {
+        ReminderLanguage language;
+        int words = 0;
+    };
+    QList<Evidence> evidence;
+    for (const ReminderLanguage language : languages) {
+        if (&Languages::rules(language) == &Languages::rules(first))
+            continue;
+        const int words = countTelling(tokens, language);
+        if (words > 0 || (hasNumbers && !isFounded))
+            evidence.append({language, words});
+    }
+    std::stable_sort(evidence.begin(), evidence.end(),
+        [](const Evidence &a, const Evidence &b) { return a.words > b.words; });
+    QList<ReminderLanguage> others;
+    for (const Evidence &of : std::as_const(evidence))
+        others.append(of.language);
+    return others;
+}
+
+qsizetype covered(const QList<DateDetection> &detections)
+{
+    qsizetype units = 0;
+    for (const DateDetection &detection : detections)
+        units += detection.range.length();
+    return units;
+}
+} // namespace
+
+QList<DateDetection> DateDetector::detectDates(QStringView text) const
+{
+    const QList<DateToken> tokens = DateTokens::of(text);
+    const ReminderLanguage language = LanguageDetection::detect(text);
+    const Instant now = m_clock.now();
+    const Calendar &calendar = m_clock.calendar();
+    QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
+    const bool isFounded = countTelling(tokens, language) > 0;
+    if (!detections.isEmpty() && isFounded)
+        return detections;
+    for (const ReminderLanguage other : othersByEvidence(tokens, language, isFounded)) {
+        const QList<DateDetection> others = detected(text, tokens, other, now, calendar);
+        if (covered(others) > covered(detections))
+            detections = others;
+        if (isFounded && !detections.isEmpty())
+            break;
+    }
+    return detections;
+}
