@@ -1,11 +1,20 @@
-// A reminder always says something, on a full minute.
+// A reminder always says something, on a full minute; a date stands where the detector says.
 #include "FuzzInput.h"
+#include "reminders/DateDetector.h"
 #include "reminders/ReminderDetector.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString text = FuzzInput(data, size).text();
-    if (const auto found = ReminderDetector::detect(text, fuzzNow, fuzzCalendar(), NoDateDetector())) {
+    const FixedClock clock(fuzzNow, fuzzCalendar());
+    const DateDetector detector(clock);
+    qsizetype end = 0;
+    for (const DateDetection &detection : detector.detectDates(text)) {
+        require(detection.range.start >= end && detection.range.end > detection.range.start);
+        end = detection.range.end;
+        require(text.sliced(detection.range.start, detection.range.length()) == detection.text);
+    }
+    if (const auto found = ReminderDetector::detect(text, fuzzNow, fuzzCalendar(), detector)) {
         require(!found->content.isEmpty());
         require(fuzzCalendar().startOfMinute(found->fireAt) == found->fireAt);
     }

@@ -10,7 +10,8 @@ constexpr std::chrono::milliseconds timeToSettle{200};
 } // namespace
 
 QuilletApp::QuilletApp(Start start)
-    : m_notifications(m_clock)
+    : m_dateDetector(m_clock)
+    , m_notifications(m_clock)
     , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
     , m_panel([this] { return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock); })

@@ -9,7 +9,7 @@
 #include "foundation/Clock.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
-#include "reminders/DateDetecting.h"
+#include "reminders/DateDetector.h"
 
 #include <QObject>
 
@@ -28,7 +28,7 @@ private:
 
     // What the machine provides
     SystemClock m_clock;
-    NoDateDetector m_dateDetector;
+    DateDetector m_dateDetector;
     PageTitleFetcher m_titles;
     DesktopNotificationCenter m_notifications;
     // What is owned

@@ -3,6 +3,8 @@
 #include "foundation/Calendar.h"
 #include "foundation/Instant.h"
 
+#include <utility>
+
 /// The present, as the person at the machine reads it. Handed in by constructor, so that tests set their own.
 class Clock
 {
@@ -11,6 +13,24 @@ public:
     [[nodiscard]] virtual Instant now() const = 0;
     /// In the person's time zone, which may change while the program runs: ask anew, keep no copy.
     [[nodiscard]] virtual const Calendar &calendar() const = 0;
+};
+
+/// Stands still until it is set.
+class FixedClock : public Clock
+{
+public:
+    FixedClock(Instant now, Calendar calendar)
+        : m_now(now)
+        , m_calendar(std::move(calendar))
+    {
+    }
+    [[nodiscard]] Instant now() const override { return m_now; }
+    [[nodiscard]] const Calendar &calendar() const override { return m_calendar; }
+    void set(Instant now) { m_now = now; }
+
+private:
+    Instant m_now;
+    Calendar m_calendar;
 };
 
 /// The machine's clock and time zone.

@@ -19,9 +19,9 @@ struct DateDetection {
     };
 
     Instant fireAt;
-    TextRange range;                              ///< in the trimmed draft
-    QString text;                                 ///< what stands in that range
-    std::optional<Kind> kind = {};                ///< empty: the language's patterns decide
+    TextRange range;                               ///< in the trimmed draft
+    QString text;                                  ///< what stands in that range
+    std::optional<Kind> kind = {};                 ///< empty: the language's patterns decide
     std::optional<ReminderLanguage> language = {}; ///< that it was understood in; empty: the draft's
 };
 

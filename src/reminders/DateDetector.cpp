@@ -13,9 +13,10 @@ using Role = DateGrammar::Role;
 using Type = DateToken::Type;
 
 /// One of each set of words; Danish stands for all three Scandinavian languages.
-constexpr std::array languages{ReminderLanguage::Chinese, ReminderLanguage::English, ReminderLanguage::Japanese,
-    ReminderLanguage::Korean, ReminderLanguage::German, ReminderLanguage::French, ReminderLanguage::Spanish,
-    ReminderLanguage::Danish, ReminderLanguage::Dutch, ReminderLanguage::Italian, ReminderLanguage::Portuguese};
+constexpr std::array languages{ReminderLanguage::Chinese, ReminderLanguage::English,
+    ReminderLanguage::Japanese, ReminderLanguage::Korean, ReminderLanguage::German, ReminderLanguage::French,
+    ReminderLanguage::Spanish, ReminderLanguage::Danish, ReminderLanguage::Dutch, ReminderLanguage::Italian,
+    ReminderLanguage::Portuguese};
 
 const DateGrammar &grammar(ReminderLanguage language)
 {
@@ -23,7 +24,8 @@ const DateGrammar &grammar(ReminderLanguage language)
     const LanguageRules &rules = Languages::rules(language);
     auto found = grammars.constFind(&rules);
     if (found == grammars.cend())
-        found = grammars.insert(&rules, std::make_shared<const DateGrammar>(rules.dates));
+        found =
+            grammars.insert(&rules, std::make_shared<const DateGrammar>(rules.dates, rules.triggerPhrases));
     return **found;
 }
 
@@ -50,14 +52,7 @@ public:
         qsizetype free = 0; // the first token that no date has yet
         for (qsizetype start = 0; start < m_tokens.size();) {
             Found best{start, start, {}};
-            // A leading word may belong to a rule or just lead to the date.
-            for (qsizetype first = start, next = start;; first = next) {
-                if (first < m_tokens.size() && mayBeginAt(first))
-                    extend({start, first, {}}, 0, Strength::WithNeighbour, best);
-                next = m_reading.endOf(Role::Before, first);
-                if (next == first)
-                    break;
-            }
+            beginAt(start, start, mostLeadingWords, best);
             if (best.end == start) {
                 ++start;
                 continue;
@@ -72,12 +67,16 @@ public:
 
 private:
     using Strength = DateWords::Strength;
+    static constexpr int mostLeadingWords = 3; ///< "not before the"
 
     [[nodiscard]] bool isType(qsizetype token, Type type) const
     {
         return token >= 0 && token < m_tokens.size() && m_tokens[token].type == type;
     }
-    [[nodiscard]] bool isGlued(qsizetype token) const { return token < m_tokens.size() && m_tokens[token].isGlued; }
+    [[nodiscard]] bool isGlued(qsizetype token) const
+    {
+        return token < m_tokens.size() && m_tokens[token].isGlued;
+    }
     [[nodiscard]] bool isHangul(qsizetype token) const
     {
         return isType(token, Type::Character) && DateTokens::isHangul(m_tokens[token].text.front());
@@ -126,17 +125,32 @@ private:
     /// The end of the draft or of what is said there.
     [[nodiscard]] bool isEdge(qsizetype token) const
     {
-        if (token >= m_tokens.size() || isType(token, Type::Barrier))
+        if (token >= m_tokens.size() || isType(token, Type::Barrier)
+            || m_reading.endOf(Role::Announcement, token) != token)
             return true;
-        return isType(token, Type::Mark) && QStringView(u",.;:!?)，。、；！？").contains(m_tokens[token].text.front());
+        return isType(token, Type::Mark)
+               && QStringView(u",.;:!?)，。、；！？").contains(m_tokens[token].text.front());
+    }
+
+    /// Tries a date that begins with this token, or behind the words there that lead to one.
+    void beginAt(qsizetype start, qsizetype first, int leadingWords, Found &best) const
+    {
+        if (first >= m_tokens.size())
+            return;
+        if (mayBeginAt(first))
+            extend({start, first, {}}, 0, Strength::WithNeighbour, best);
+        if (leadingWords == 0)
+            return;
+        for (const qsizetype next : m_reading.endsOf(Role::Before, first))
+            beginAt(start, next, leadingWords - 1, best);
     }
 
     /// Tries what can stand behind the parts found so far, and keeps the longest date that can end.
     void extend(const Found &sofar, int parts, Strength strength, Found &best) const
     {
         constexpr int mostParts = 4;
-        const bool isReason = strength == Strength::Alone
-                              || (strength == Strength::AtEdge && (parts > 1 || isEdge(sofar.end)));
+        const bool isReason =
+            strength == Strength::Alone || (strength == Strength::AtEdge && (parts > 1 || isEdge(sofar.end)));
         if (parts > 0 && isReason && sofar.end > best.end && mayEndAt(sofar.end))
             best = sofar;
         if (parts == mostParts)
@@ -146,7 +160,8 @@ private:
                 continue;
             for (const DateGrammar::Match &match : m_reading.matches(at)) {
                 if (const auto facts = DateFacts::together(sofar.facts, match.facts))
-                    extend({sofar.start, match.end, *facts}, parts + 1, std::min(strength, match.strength), best);
+                    extend({sofar.start, match.end, *facts}, parts + 1, std::min(strength, match.strength),
+                        best);
             }
         }
     }
@@ -163,23 +178,23 @@ private:
         if (isComma)
             starts.append(behindComma);
         for (const Role role : {Role::Between, Role::Before}) {
-            const qsizetype behind = m_reading.endOf(role, behindComma);
-            if (behind != behindComma)
+            for (const qsizetype behind : m_reading.endsOf(role, behindComma))
                 starts.append(behind);
         }
         return starts;
     }
 
-    /// "by the", "spätestens am": as many as there are.
+    /// "by the", "spätestens am".
     [[nodiscard]] qsizetype withWordsBefore(qsizetype start, qsizetype free) const
     {
-        for (;;) {
+        for (int i = 0; i < mostLeadingWords; ++i) {
             const qsizetype before = m_reading.startOf(Role::Before, start);
             const bool isPart = isHangul(before) && before > 0 && isHangul(before - 1) && isGlued(before);
             if (before == start || before < free || isPart)
-                return start;
+                break;
             start = before;
         }
+        return start;
     }
     [[nodiscard]] qsizetype withWordsAfter(qsizetype end) const
     {
@@ -211,6 +226,12 @@ QList<DateDetection> detected(QStringView text, const QList<DateToken> &tokens, 
     return detections;
 }
 
+bool isEastAsian(ReminderLanguage language)
+{
+    return language == ReminderLanguage::Chinese || language == ReminderLanguage::Japanese
+           || language == ReminderLanguage::Korean;
+}
+
 /// How many words of the draft speak for a language.
 int countTelling(const QList<DateToken> &tokens, ReminderLanguage language)
 {
@@ -220,10 +241,12 @@ int countTelling(const QList<DateToken> &tokens, ReminderLanguage language)
     }));
 }
 
-/// The other languages for which words of the draft speak, the best founded first. Where nothing speaks for the
-/// draft's own language and there are numbers, all that could explain them.
-QList<ReminderLanguage> othersByEvidence(const QList<DateToken> &tokens, ReminderLanguage first, bool isFounded)
+/// The languages that may understand a draft: the one it seems to be in and those for which as many words
+/// speak, the best founded first. Where no word speaks for any and there are numbers, all that could explain
+/// them.
+QList<ReminderLanguage> candidates(const QList<DateToken> &tokens, ReminderLanguage seeming)
 {
+    const int own = countTelling(tokens, seeming);
     const bool hasNumbers = std::any_of(
         tokens.begin(), tokens.end(), [](const DateToken &token) { return token.type == Type::Number; });
     struct Evidence {
@@ -232,18 +255,19 @@ QList<ReminderLanguage> othersByEvidence(const QList<DateToken> &tokens, Reminde
     };
     QList<Evidence> evidence;
     for (const ReminderLanguage language : languages) {
-        if (&Languages::rules(language) == &Languages::rules(first))
+        // The scripts of East Asia tell for sure.
+        if (&Languages::rules(language) == &Languages::rules(seeming) || isEastAsian(language))
             continue;
         const int words = countTelling(tokens, language);
-        if (words > 0 || (hasNumbers && !isFounded))
+        if (words >= own && (words > 0 || hasNumbers))
             evidence.append({language, words});
     }
     std::stable_sort(evidence.begin(), evidence.end(),
         [](const Evidence &a, const Evidence &b) { return a.words > b.words; });
-    QList<ReminderLanguage> others;
+    QList<ReminderLanguage> all{seeming};
     for (const Evidence &of : std::as_const(evidence))
-        others.append(of.language);
-    return others;
+        all.append(of.language);
+    return all;
 }
 
 qsizetype covered(const QList<DateDetection> &detections)
@@ -258,19 +282,13 @@ qsizetype covered(const QList<DateDetection> &detections)
 QList<DateDetection> DateDetector::detectDates(QStringView text) const
 {
     const QList<DateToken> tokens = DateTokens::of(text);
-    const ReminderLanguage language = LanguageDetection::detect(text);
     const Instant now = m_clock.now();
     const Calendar &calendar = m_clock.calendar();
-    QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
-    const bool isFounded = countTelling(tokens, language) > 0;
-    if (!detections.isEmpty() && isFounded)
-        return detections;
-    for (const ReminderLanguage other : othersByEvidence(tokens, language, isFounded)) {
-        const QList<DateDetection> others = detected(text, tokens, other, now, calendar);
-        if (covered(others) > covered(detections))
-            detections = others;
-        if (isFounded && !detections.isEmpty())
-            break;
+    QList<DateDetection> best;
+    for (const ReminderLanguage language : candidates(tokens, LanguageDetection::detect(text))) {
+        const QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
+        if (covered(detections) > covered(best))
+            best = detections;
     }
-    return detections;
+    return best;
 }

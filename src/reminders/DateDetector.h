@@ -5,8 +5,8 @@
 
 /// Finds the dates of one-line drafts in thirteen languages, wherever they stand.
 ///
-/// A draft is read in the language that it seems to be in and, where that finds nothing, in those for which its
-/// words speak. What stands in a tag, an address or a path is no date.
+/// A draft is read in the language that it seems to be in and, where that finds nothing, in those for which
+/// its words speak. What stands in a tag, an address or a path is no date.
 class DateDetector final : public DateDetecting
 {
 public:

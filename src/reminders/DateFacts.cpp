@@ -16,7 +16,9 @@ bool sayTwoDays(const DateFacts &a, const DateFacts &b)
 {
     if (!a.saysDay() || !b.saysDay())
         return false;
-    const auto isWeekday = [](const DateFacts &facts) { return facts.weekday && !facts.day && !facts.relativeDay; };
+    const auto isWeekday = [](const DateFacts &facts) {
+        return facts.weekday && !facts.day && !facts.relativeDay;
+    };
     const auto isWeek = [](const DateFacts &facts) { return facts.weeksAhead && !facts.weekday; };
     const auto isDate = [](const DateFacts &facts) { return facts.day.has_value(); };
     return !(isWeekday(a) && (isDate(b) || isWeek(b))) && !(isWeekday(b) && (isDate(a) || isWeek(a)));
@@ -31,13 +33,12 @@ std::optional<DateFacts> DateFacts::together(const DateFacts &a, const DateFacts
     if (sayTwoDays(a, b) || a.saysMoment() || b.saysMoment())
         return std::nullopt;
     DateFacts both = a;
-    const bool isGood = join(both.relativeDay, b.relativeDay) && join(both.weekday, b.weekday)
-                        && join(both.next, b.next) && join(both.weeksAhead, b.weeksAhead)
-                        && join(both.day, b.day) && join(both.month, b.month) && join(both.year, b.year)
-                        && join(both.monthsAhead, b.monthsAhead) && join(both.weekend, b.weekend)
-                        && join(both.monthEnd, b.monthEnd) && join(both.halves, b.halves)
-                        && join(both.unit, b.unit) && join(both.hour, b.hour) && join(both.minute, b.minute)
-                        && join(both.minutesBefore, b.minutesBefore) && join(both.shift, b.shift)
-                        && join(both.asWritten, b.asWritten) && join(both.part, b.part);
+    const bool isGood =
+        join(both.relativeDay, b.relativeDay) && join(both.weekday, b.weekday) && join(both.next, b.next)
+        && join(both.weeksAhead, b.weeksAhead) && join(both.day, b.day) && join(both.month, b.month)
+        && join(both.year, b.year) && join(both.monthsAhead, b.monthsAhead) && join(both.weekend, b.weekend)
+        && join(both.monthEnd, b.monthEnd) && join(both.halves, b.halves) && join(both.unit, b.unit)
+        && join(both.hour, b.hour) && join(both.minute, b.minute) && join(both.minutesBefore, b.minutesBefore)
+        && join(both.shift, b.shift) && join(both.asWritten, b.asWritten) && join(both.part, b.part);
     return isGood ? std::optional(both) : std::nullopt;
 }

@@ -35,10 +35,7 @@ struct DateFacts {
     std::optional<DayPart> part = {};
 
     [[nodiscard]] bool saysSpan() const { return unit.has_value(); }
-    [[nodiscard]] bool saysMoment() const
-    {
-        return unit == SpanUnit::Minutes || unit == SpanUnit::Hours;
-    }
+    [[nodiscard]] bool saysMoment() const { return unit == SpanUnit::Minutes || unit == SpanUnit::Hours; }
     [[nodiscard]] bool saysTime() const { return hour.has_value(); }
     [[nodiscard]] bool saysDay() const
     {

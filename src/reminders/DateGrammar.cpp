@@ -62,6 +62,15 @@ bool isHanNumeral(const DateToken &token)
            && QStringView(u"〇零一二两兩三四五六七八九十").contains(token.text.front());
 }
 
+/// What a number is counted as, and greetings: in any language, since a draft may be taken for another.
+constexpr QStringView commonNotAfter = u"kapitel|kapittel|chapter|chapitre|capítulo|capitolo|hoofdstuk|"
+                                       u"abschnitt|afsnit|avsnitt|section|sección|sezione"
+                                       u"|version|versjon|versión|versione|versie|versão|page|página|pagina|"
+                                       u"seite|side|sida|aufgabe|opgave|oppgave|uppgift"
+                                       u"|exercise|exercice|ejercicio|esercizio|exercício|level|niveau|nivel|"
+                                       u"livello|nível|room|zimmer|nr|nummer|number"
+                                       u"|guten|god|gode|goede|good";
+
 /// What is written in digits alone reads the same in every language.
 const std::vector<DateWords::Rule> &commonRules()
 {
@@ -75,7 +84,7 @@ const std::vector<DateWords::Rule> &commonRules()
 }
 } // namespace
 
-DateGrammar::DateGrammar(const DateWords &words)
+DateGrammar::DateGrammar(const DateWords &words, const std::vector<QStringView> &announcements)
     : m_hasHanNumerals(words.hasHanNumerals)
 {
     const auto add = [this](const std::vector<DateWords::Word> &list, Kind kind) {
@@ -89,8 +98,6 @@ DateGrammar::DateGrammar(const DateWords &words)
         addPhrases(word.words, {Kind::Part, int(word.part)});
     for (const DateWords::UnitWord &word : words.units)
         addPhrases(word.words, {Kind::Unit, int(word.unit)});
-    for (auto node = m_nodes.front().next.cbegin(); node != m_nodes.front().next.cend(); ++node)
-        m_telling.insert(node.key());
     add(words.numbers, Kind::Number);
     add(words.ordinals, Kind::Ordinal);
     if (words.joinsWeekdayAndPart) {
@@ -107,11 +114,13 @@ DateGrammar::DateGrammar(const DateWords &words)
             }
         }
     }
-    for (const auto &[alternatives, role] :
-        {std::pair(words.before, Role::Before), std::pair(words.between, Role::Between),
-            std::pair(words.after, Role::After), std::pair(words.notAfter, Role::NotAfter),
-            std::pair(words.notBefore, Role::NotBefore)})
+    for (const auto &[alternatives, role] : {std::pair(words.before, Role::Before),
+             std::pair(words.between, Role::Between), std::pair(words.after, Role::After),
+             std::pair(words.notAfter, Role::NotAfter), std::pair(words.notBefore, Role::NotBefore)})
         addPhrases(alternatives, {Kind::Role, int(role)});
+    addPhrases(commonNotAfter, {Kind::Role, int(Role::NotAfter)});
+    for (const QStringView phrase : announcements)
+        addPhrase(phrase, {Kind::Role, int(Role::Announcement)});
     for (const DateWords::Rule &rule : commonRules())
         addRule(rule);
     for (const DateWords::Rule &rule : words.rules)
@@ -130,7 +139,15 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
     const QStringList plain = phrase.size() < shortestWithoutAccents || DateTokens::isUnspaced(phrase.front())
                                   ? exact
                                   : tokensOf(withoutAccents(phrase.toString()));
+    const bool isTellingKind = entry.kind == Kind::Relative || entry.kind == Kind::Weekday
+                               || entry.kind == Kind::Month || entry.kind == Kind::Part
+                               || entry.kind == Kind::Unit || entry.kind == Kind::WeekdayAndPart;
     for (const QStringList &tokens : {exact, plain}) {
+        if (isTellingKind) {
+            const auto longest = std::max_element(tokens.begin(), tokens.end(),
+                [](const QString &a, const QString &b) { return a.size() < b.size(); });
+            m_telling.insert(*longest);
+        }
         size_t node = 0;
         for (const QString &token : tokens) {
             auto next = m_nodes[node].next.constFind(token);
@@ -143,7 +160,9 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
             }
         }
         std::vector<Entry> &entries = m_nodes[node].entries;
-        const auto isSame = [entry](Entry other) { return other.kind == entry.kind && other.value == entry.value; };
+        const auto isSame = [entry](Entry other) {
+            return other.kind == entry.kind && other.value == entry.value;
+        };
         if (std::none_of(entries.begin(), entries.end(), isSame))
             entries.push_back(entry);
     }
@@ -179,6 +198,7 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
         {QStringLiteral("minute"), Slot::Minute},
         {QStringLiteral("mm"), Slot::TwoDigits},
         {QStringLiteral("day"), Slot::Day},
+        {QStringLiteral("daydigits"), Slot::DayInDigits},
         {QStringLiteral("monthnumber"), Slot::MonthNumber},
         {QStringLiteral("month"), Slot::Month},
         {QStringLiteral("year"), Slot::Year},
@@ -195,6 +215,7 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
         {Slot::Minute, Kind::Number},
         {Slot::TwoDigits, Kind::Number},
         {Slot::Day, Kind::Number},
+        {Slot::DayInDigits, Kind::Number},
         {Slot::MonthNumber, Kind::Number},
         {Slot::Month, Kind::Month},
         {Slot::Year, Kind::Number},
@@ -219,8 +240,6 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
             Q_ASSERT_X(slots.contains(name), "a rule of dates", qPrintable(name));
             element.slot = slots.value(name);
             indexes.push_back(index({kinds.value(element.slot), 0}));
-            if (element.slot == Slot::Day)
-                indexes.push_back(index({Kind::Ordinal, 0}));
         } else {
             for (const QStringView alternative : part.split(u'|')) {
                 element.literals.push_back(literal(alternative));
@@ -280,10 +299,11 @@ void DateGrammar::Reading::addNumeralArc(qsizetype start)
         return;
     QString numeral;
     qsizetype end = start;
-    for (; end < m_tokens.size() && isHanNumeral(m_tokens[end]) && (end == start || m_tokens[end].isGlued); ++end)
+    for (; end < m_tokens.size() && isHanNumeral(m_tokens[end]) && (end == start || m_tokens[end].isGlued);
+         ++end)
         numeral += m_tokens[end].text;
     if (const int value = hanNumeral(numeral); value >= 0)
-        m_arcs[size_t(start)].push_back({{Kind::Number, value}, end, 0});
+        m_arcs[size_t(start)].push_back({{Kind::Number, value}, end, 0, true});
 }
 
 bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFacts &facts)
@@ -302,7 +322,8 @@ bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFact
     switch (element.slot) {
     case Slot::Literal:
         return isKind(Kind::Literal)
-               && std::find(element.literals.begin(), element.literals.end(), value) != element.literals.end();
+               && std::find(element.literals.begin(), element.literals.end(), value)
+                      != element.literals.end();
     case Slot::Hour:
         return isNumber(0, 24) && say(facts.hour, value);
     case Slot::Minute:
@@ -310,7 +331,9 @@ bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFact
     case Slot::TwoDigits:
         return isNumber(0, 59) && arc.digits == 2 && say(facts.minute, value);
     case Slot::Day:
-        return (isNumber(1, 31) || isKind(Kind::Ordinal)) && say(facts.day, value);
+        return isNumber(1, 31) && (arc.digits > 0 || arc.isHanNumeral) && say(facts.day, value);
+    case Slot::DayInDigits:
+        return isNumber(1, 31) && arc.digits > 0 && say(facts.day, value);
     case Slot::MonthNumber:
         return isNumber(1, 12) && say(facts.month, value);
     case Slot::Month:
@@ -339,8 +362,8 @@ bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFact
     return false;
 }
 
-void DateGrammar::Reading::walk(const Rule &rule, size_t element, qsizetype at, const DateFacts &facts,
-    std::vector<Match> &found) const
+void DateGrammar::Reading::walk(
+    const Rule &rule, size_t element, qsizetype at, const DateFacts &facts, std::vector<Match> &found) const
 {
     if (element == rule.elements.size()) {
         found.push_back({at, facts, rule.strength});
@@ -387,16 +410,22 @@ std::vector<DateGrammar::Match> DateGrammar::Reading::matches(qsizetype start) c
     return found;
 }
 
-qsizetype DateGrammar::Reading::endOf(Role role, qsizetype start) const
+std::vector<qsizetype> DateGrammar::Reading::endsOf(Role role, qsizetype start) const
 {
-    qsizetype end = start;
+    std::vector<qsizetype> ends;
     if (start < m_tokens.size()) {
         for (const Arc &arc : m_arcs[size_t(start)]) {
             if (arc.entry.kind == Kind::Role && arc.entry.value == int(role))
-                end = std::max(end, arc.end);
+                ends.push_back(arc.end);
         }
     }
-    return end;
+    return ends;
+}
+
+qsizetype DateGrammar::Reading::endOf(Role role, qsizetype start) const
+{
+    const std::vector<qsizetype> ends = endsOf(role, start);
+    return ends.empty() ? start : *std::max_element(ends.begin(), ends.end());
 }
 
 qsizetype DateGrammar::Reading::startOf(Role role, qsizetype end) const

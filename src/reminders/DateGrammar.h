@@ -12,7 +12,8 @@
 class DateGrammar
 {
 public:
-    explicit DateGrammar(const DateWords &words);
+    /// @p announcements are phrases that announce a reminder: where one begins, something else has ended.
+    DateGrammar(const DateWords &words, const std::vector<QStringView> &announcements);
 
     /// A rule that has matched: the tokens up to an end, and what they say.
     struct Match {
@@ -21,7 +22,7 @@ public:
         DateWords::Strength strength = DateWords::Strength::Alone;
     };
     /// What a word does around a date rather than in it.
-    enum class Role { Before, Between, After, NotAfter, NotBefore };
+    enum class Role { Before, Between, After, NotAfter, NotBefore, Announcement };
 
     class Reading;
 
@@ -36,6 +37,7 @@ private:
         Minute,
         TwoDigits,
         Day,
+        DayInDigits,
         MonthNumber,
         Month,
         Year,
@@ -91,6 +93,8 @@ public:
 
     /// The token behind the longest word of this role that begins here; @p start where there is none.
     [[nodiscard]] qsizetype endOf(Role role, qsizetype start) const;
+    /// The tokens behind each of the words of this role that begin here.
+    [[nodiscard]] std::vector<qsizetype> endsOf(Role role, qsizetype start) const;
     /// The first token of the longest word of this role that ends before the token @p end; @p end for none.
     [[nodiscard]] qsizetype startOf(Role role, qsizetype end) const;
 
@@ -100,6 +104,7 @@ private:
         Entry entry;
         qsizetype end = 0;
         int digits = 0; ///< of a number; 0 when it is in words
+        bool isHanNumeral = false;
     };
 
     void addPhraseArcs(qsizetype start);

@@ -102,7 +102,8 @@ std::optional<Calendar::Day> resolveDate(const DateFacts &facts, Calendar::Day t
     }
     year_month month(today.year(), today.month());
     if (facts.monthsAhead)
-        return existing({(month + months(*facts.monthsAhead)).year(), (month + months(*facts.monthsAhead)).month(), dayOfMonth});
+        return existing({(month + months(*facts.monthsAhead)).year(),
+            (month + months(*facts.monthsAhead)).month(), dayOfMonth});
     // The next month that has such a day.
     for (int i = 0; i < 12; ++i, month += months(1)) {
         const Calendar::Day date(month.year(), month.month(), dayOfMonth);
@@ -124,7 +125,8 @@ std::optional<Calendar::Day> resolveDay(const DateFacts &facts, Calendar::Day to
         return Calendar::Day(date + days(facts.unit == SpanUnit::Weeks ? 7 * count : count));
     }
     if (facts.monthEnd) {
-        const year_month month = year_month(today.year(), today.month()) + months(facts.monthsAhead.value_or(0));
+        const year_month month =
+            year_month(today.year(), today.month()) + months(facts.monthsAhead.value_or(0));
         return Calendar::Day(month / last);
     }
     if (facts.relativeDay)

@@ -6,7 +6,6 @@
 
 #include <optional>
 
-
 /// Puts facts on the calendar.
 namespace DateResolver {
 struct Resolved {

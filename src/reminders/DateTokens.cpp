@@ -64,6 +64,7 @@ QList<TextRange> barriers(QStringView text)
             ranges.append({start, end});
         start = end;
     }
+    std::sort(ranges.begin(), ranges.end(), [](TextRange a, TextRange b) { return a.start < b.start; });
     return ranges;
 }
 
@@ -79,11 +80,12 @@ public:
     QList<DateToken> cut()
     {
         const QList<TextRange> masked = barriers(m_text);
+        auto barrier = masked.begin();
         while (m_at < m_text.size()) {
-            const auto inside = std::find_if(masked.begin(), masked.end(),
-                [this](TextRange range) { return m_at >= range.start && m_at < range.end; });
-            if (inside != masked.end())
-                take(Type::Barrier, inside->end);
+            while (barrier != masked.end() && barrier->end <= m_at)
+                ++barrier;
+            if (barrier != masked.end() && barrier->start <= m_at)
+                take(Type::Barrier, barrier->end);
             else if (m_text[m_at].isSpace())
                 ++m_at;
             else
@@ -96,7 +98,8 @@ private:
     void take(Type type, qsizetype end)
     {
         const bool isGlued = !m_tokens.isEmpty() && m_tokens.last().range.end == m_at;
-        m_tokens.append({type, {m_at, end}, m_text.sliced(m_at, end - m_at).toString().toLower(), 0, 0, isGlued});
+        m_tokens.append(
+            {type, {m_at, end}, m_text.sliced(m_at, end - m_at).toString().toLower(), 0, 0, isGlued});
         m_at = end;
     }
 
@@ -117,10 +120,10 @@ private:
             while (end < m_text.size() && isWordLetter(m_text[end]))
                 ++end;
             // "l'8", "mezz'ora": the apostrophe ends the word, but for the one of "Monday's".
-            const bool isElision = end < m_text.size() && isApostrophe(m_text[end])
-                                   && end + 1 < m_text.size() && m_text[end + 1].isLetterOrNumber()
-                                   && !(m_text[end + 1] == u's'
-                                        && (end + 2 == m_text.size() || !m_text[end + 2].isLetter()));
+            const bool isElision =
+                end < m_text.size() && isApostrophe(m_text[end]) && end + 1 < m_text.size()
+                && m_text[end + 1].isLetterOrNumber()
+                && !(m_text[end + 1] == u's' && (end + 2 == m_text.size() || !m_text[end + 2].isLetter()));
             take(Type::Word, end + isElision);
             if (isElision)
                 m_tokens.last().text.back() = u'\'';
@@ -166,12 +169,13 @@ private:
             const bool isElided = isApostrophe(before);
             const bool isAbbreviated = before == u'.' && m_tokens.size() >= 2 && m_tokens.last().isGlued
                                        && m_tokens[m_tokens.size() - 2].type == Type::Word;
-            isAttached = !before.isSpace() && !DateTokens::isUnspaced(before) && !isWithinTime && !isElided && !isAbbreviated
+            isAttached = !before.isSpace() && !DateTokens::isUnspaced(before) && !isWithinTime && !isElided
+                         && !isAbbreviated
                          && !QStringView(u"(（@,，、。：:\"“「『[！!？?；;>").contains(before);
         }
-        static const QStringList shapes{QString(), QStringLiteral(":"), QStringLiteral("."), QStringLiteral(".."),
-            QStringLiteral("/"), QStringLiteral("//"), QStringLiteral("--"), QStringLiteral("-"),
-            QStringLiteral(":-:"), QStringLiteral(".-.")};
+        static const QStringList shapes{QString(), QStringLiteral(":"), QStringLiteral("."),
+            QStringLiteral(".."), QStringLiteral("/"), QStringLiteral("//"), QStringLiteral("--"),
+            QStringLiteral("-"), QStringLiteral(":-:"), QStringLiteral(".-.")};
         const QChar behind = end < m_text.size() ? m_text[end] : QChar();
         const bool isMeasure = QStringView(u"%€$£¥‰").contains(behind) && !behind.isNull();
         if (isAttached || isMeasure || longest > 4 || !shapes.contains(separators)) {

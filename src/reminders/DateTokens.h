@@ -17,9 +17,9 @@ struct DateToken {
 
     Type type = Type::Barrier;
     TextRange range;
-    QString text;     ///< in lower case; a mark in its ASCII form
-    int value = 0;    ///< of a number
-    int digits = 0;   ///< of a number
+    QString text;         ///< in lower case; a mark in its ASCII form
+    int value = 0;        ///< of a number
+    int digits = 0;       ///< of a number
     bool isGlued = false; ///< nothing stands between it and the token before
 };
 

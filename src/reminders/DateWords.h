@@ -8,12 +8,13 @@
 
 /// The words and rules by which a language's dates are found anywhere in a draft.
 ///
-/// All words are in lower case; alternatives stand in one text, "mon|monday". A word of four letters or more is
-/// also known without its accents. A rule is a sequence of elements between blanks: alternatives of literal
-/// words, or a slot for a word of a kind; a "?" behind makes it optional, and "_" is a blank within a literal.
+/// All words are in lower case; alternatives stand in one text, "mon|monday". A word of four letters or more
+/// is also known without its accents. A rule is a sequence of elements between blanks: alternatives of
+/// literal words, or a slot for a word of a kind; a "?" behind makes it optional, and "_" is a blank within a
+/// literal.
 ///
-/// Slots: <hour> <minute> <mm> (two digits) <day> <monthnumber> <month> <year> <n> <unit> <weekday> <relative>
-/// <part> <ordinal>. What a slot matches is added to the rule's own facts.
+/// Slots: <hour> <minute> <mm> (two digits) <day> <daydigits> <monthnumber> <month> <year> <n> <unit>
+/// <weekday> <relative> <part> <ordinal>. What a slot matches is added to the rule's own facts.
 struct DateWords {
     struct Word {
         QStringView words;

@@ -46,11 +46,13 @@ std::optional<Choice> choose(
         // The midnight that ends a day.
         const int dayOffset = detection.kind ? calendar.daysBetween(now, detection.fireAt) : 0;
         return Choice{calendar.addingDays(*fireAt, dayOffset),
-            hasDate ? QList{detection.range, date->range} : QList{detection.range}, detection.language.value_or(language)};
+            hasDate ? QList{detection.range, date->range} : QList{detection.range},
+            detection.language.value_or(language)};
     }
     for (const DateDetection &detection : detections) {
         if (!holdsTime(detection))
-            return Choice{ReminderDetector::normalizePureDate(detection.fireAt, calendar), {detection.range}, detection.language.value_or(language)};
+            return Choice{ReminderDetector::normalizePureDate(detection.fireAt, calendar), {detection.range},
+                detection.language.value_or(language)};
     }
     return std::nullopt;
 }
@@ -74,9 +76,9 @@ std::optional<ParsedReminder> ReminderDetector::detect(
         return std::nullopt;
     const bool standsInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
     return ParsedReminder{choice->fireAt,
-        standsInFront ? ReminderParser::content(
-                            trimmed.sliced(choice->ranges.first().end), trimmed, choice->language)
-                      : mergedContent(trimmed, choice->ranges, choice->language)};
+        standsInFront
+            ? ReminderParser::content(trimmed.sliced(choice->ranges.first().end), trimmed, choice->language)
+            : mergedContent(trimmed, choice->ranges, choice->language)};
 }
 
 QString ReminderDetector::mergedContent(QStringView text, QList<TextRange> ranges, ReminderLanguage language)

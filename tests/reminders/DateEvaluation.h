@@ -22,7 +22,8 @@ struct Score {
 
 inline QStringList lines(const QString &file)
 {
-    return QString::fromUtf8(readFile(QStringLiteral(DATES_FOLDER "/") + file)).split(u'\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(readFile(QStringLiteral(DATES_FOLDER "/") + file))
+        .split(u'\n', Qt::SkipEmptyParts);
 }
 
 inline QStringList languages()
@@ -38,8 +39,8 @@ inline bool isMoment(const QString &told, Instant fireAt, const Calendar &calend
 {
     const auto day = calendar.day(fireAt);
     const auto time = calendar.timeOfDay(fireAt);
-    const QString whole = QString::asprintf("%04d-%02u-%02u %02d:%02d", int(day.year()), unsigned(day.month()),
-        unsigned(day.day()), time.hour, time.minute);
+    const QString whole = QString::asprintf("%04d-%02u-%02u %02d:%02d", int(day.year()),
+        unsigned(day.month()), unsigned(day.day()), time.hour, time.minute);
     return told == whole || (int(day.year()) == 2026 && told == whole.sliced(5));
 }
 
@@ -61,7 +62,8 @@ inline Score evaluate(const QString &language)
         score.rightContents += hasContent;
         if (!isRight || !hasContent) {
             score.faults.append(line + QStringLiteral("   =>   ")
-                                + (found ? QString::fromLatin1(InternetDateTime::format(found->fireAt + std::chrono::hours(8)))
+                                + (found ? QString::fromLatin1(InternetDateTime::format(
+                                               found->fireAt + std::chrono::hours(8)))
                                                + u' ' + found->content
                                          : QStringLiteral("nothing")));
         }
@@ -72,8 +74,10 @@ inline Score evaluate(const QString &language)
             continue;
         if (const auto found = detect(line)) {
             ++score.falseAlarms;
-            score.faults.append(line + QStringLiteral("   =>   ")
-                                + QString::fromLatin1(InternetDateTime::format(found->fireAt + std::chrono::hours(8))) + u' ' + found->content);
+            score.faults.append(
+                line + QStringLiteral("   =>   ")
+                + QString::fromLatin1(InternetDateTime::format(found->fireAt + std::chrono::hours(8))) + u' '
+                + found->content);
         }
     }
     return score;

@@ -1,6 +1,6 @@
-// Everyday drafts in every language, each in a file of dates/: <language>-found.txt holds drafts with the moment
-// and the content that they mean, <language>-ordinary.txt drafts that hold no date. It is Wednesday 2026-03-04
-// 10:00 in Shanghai.
+// Everyday drafts in every language, each in a file of dates/: <language>-found.txt holds drafts with the
+// moment and the content that they mean, <language>-ordinary.txt drafts that hold no date. It is Wednesday
+// 2026-03-04 10:00 in Shanghai.
 #include "reminders/DateEvaluation.h"
 
 #include <QTest>

@@ -9,22 +9,15 @@ inline Instant at(const char *text)
     return InternetDateTime::parse(text).value();
 }
 
-/// A clock that stands still until a test moves it.
-class TestClock final : public Clock
+/// Set and moved in the words of a test.
+class TestClock final : public FixedClock
 {
 public:
     explicit TestClock(const char *now, const char *timeZone = "Asia/Shanghai")
-        : m_now(at(now))
-        , m_calendar(timeZone)
+        : FixedClock(at(now), Calendar(timeZone))
     {
     }
 
-    [[nodiscard]] Instant now() const override { return m_now; }
-    [[nodiscard]] const Calendar &calendar() const override { return m_calendar; }
-    void set(const char *now) { m_now = at(now); }
-    void advance(std::chrono::milliseconds by) { m_now += by; }
-
-private:
-    Instant m_now;
-    Calendar m_calendar;
+    void set(const char *now) { FixedClock::set(at(now)); }
+    void advance(std::chrono::milliseconds by) { FixedClock::set(now() + by); }
 };

@@ -1,6 +1,7 @@
 #include "probe/Arguments.h"
 #include "probe/Operations.h"
 
+#include "reminders/DateDetector.h"
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
 #include "reminders/ReminderParser.h"
@@ -30,14 +31,17 @@ QJsonValue parse(Arguments &arguments)
 
 QJsonValue detect(Arguments &arguments)
 {
+    const FixedClock clock(arguments.now(), arguments.calendar());
     return answer(ReminderDetector::detect(
-        arguments.text(u"text"_s), arguments.now(), arguments.calendar(), NoDateDetector()));
+        arguments.text(u"text"_s), clock.now(), clock.calendar(), DateDetector(clock)));
 }
 
 QJsonValue detectDates(Arguments &arguments)
 {
     QJsonArray answers;
-    for (const DateDetection &detection : NoDateDetector().detectDates(arguments.text(u"text"_s))) {
+    const FixedClock clock(arguments.now(), arguments.calendar());
+    const QString text = arguments.text(u"text"_s);
+    for (const DateDetection &detection : DateDetector(clock).detectDates(text)) {
         answers.append(QJsonObject{{u"fireAt"_s, Answer::instant(detection.fireAt)},
             {u"location"_s, detection.range.start}, {u"length"_s, detection.range.length()},
             {u"text"_s, detection.text}});

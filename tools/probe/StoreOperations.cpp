@@ -11,23 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-class ProbeClock final : public Clock
-{
-public:
-    ProbeClock(Instant now, Calendar calendar)
-        : m_now(now)
-        , m_calendar(std::move(calendar))
-    {
-    }
-    [[nodiscard]] Instant now() const override { return m_now; }
-    [[nodiscard]] const Calendar &calendar() const override { return m_calendar; }
-    void set(Instant now) { m_now = now; }
-
-private:
-    Instant m_now;
-    Calendar m_calendar;
-};
-
 /// Shows nothing, and writes down what it is asked.
 class ProbeScheduler final : public NotificationScheduling
 {
@@ -339,7 +322,7 @@ private:
     }
 
     QString m_folder;
-    ProbeClock m_clock;
+    FixedClock m_clock;
     ProbeScheduler m_scheduler;
     std::unique_ptr<ReminderStore> m_reminders;
     std::unique_ptr<NoteStore> m_notes;
