@@ -232,6 +232,17 @@ bool isEastAsian(ReminderLanguage language)
            || language == ReminderLanguage::Korean;
 }
 
+/// The scripts of East Asia tell for sure, but for Chinese and a Japanese draft without kana.
+bool mayBeEither(ReminderLanguage a, ReminderLanguage b, const QList<DateToken> &tokens)
+{
+    const auto writesHan = [](ReminderLanguage language) {
+        return language == ReminderLanguage::Chinese || language == ReminderLanguage::Japanese;
+    };
+    return writesHan(a) && writesHan(b) && std::none_of(tokens.begin(), tokens.end(), [](const DateToken &token) {
+        return token.type == Type::Character && token.text.front().script() != QChar::Script_Han;
+    });
+}
+
 /// How many words of the draft speak for a language.
 int countTelling(const QList<DateToken> &tokens, ReminderLanguage language)
 {
@@ -255,8 +266,8 @@ QList<ReminderLanguage> candidates(const QList<DateToken> &tokens, ReminderLangu
     };
     QList<Evidence> evidence;
     for (const ReminderLanguage language : languages) {
-        // The scripts of East Asia tell for sure.
-        if (&Languages::rules(language) == &Languages::rules(seeming) || isEastAsian(language))
+        const bool isSame = &Languages::rules(language) == &Languages::rules(seeming);
+        if (isSame || (isEastAsian(language) && !mayBeEither(seeming, language, tokens)))
             continue;
         const int words = countTelling(tokens, language);
         if (words >= own && (words > 0 || hasNumbers))

@@ -14,6 +14,7 @@ struct DateFacts {
     std::optional<int> relativeDay = {}; ///< 0 is today
     std::optional<int> weekday = {};     ///< 0 is Sunday
     std::optional<int> next = {};        ///< set: of today's own weekday, the one in a week
+    std::optional<int> weeksLater = {};  ///< behind the day that the weekday alone would mean
     std::optional<int> weeksAhead = {};  ///< 1: in the week that begins next Monday
     std::optional<int> day = {};         ///< of the month
     std::optional<int> month = {};

@@ -29,6 +29,12 @@ QStringList tokensOf(QStringView phrase)
     return texts;
 }
 
+QString longestToken(const QStringList &tokens)
+{
+    return *std::max_element(tokens.begin(), tokens.end(),
+        [](const QString &a, const QString &b) { return a.size() < b.size(); });
+}
+
 constexpr int partsInAWeekday = 16;
 
 /// 十五 is 15, 二十 is 20; -1 for what is no such number below a hundred.
@@ -143,11 +149,8 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
                                || entry.kind == Kind::Month || entry.kind == Kind::Part
                                || entry.kind == Kind::Unit || entry.kind == Kind::WeekdayAndPart;
     for (const QStringList &tokens : {exact, plain}) {
-        if (isTellingKind) {
-            const auto longest = std::max_element(tokens.begin(), tokens.end(),
-                [](const QString &a, const QString &b) { return a.size() < b.size(); });
-            m_telling.insert(*longest);
-        }
+        if (isTellingKind)
+            m_telling.insert(longestToken(tokens));
         size_t node = 0;
         for (const QString &token : tokens) {
             auto next = m_nodes[node].next.constFind(token);
@@ -186,8 +189,8 @@ int DateGrammar::literal(QStringView phrase)
     m_literals.insert(text, number);
     addPhrase(phrase, {Kind::Literal, number});
     constexpr qsizetype shortestTelling = 4;
-    if (phrase.size() >= shortestTelling)
-        m_telling.insert(tokensOf(phrase).first());
+    if (const QString word = longestToken(tokensOf(phrase)); word.size() >= shortestTelling)
+        m_telling.insert(word);
     return number;
 }
 

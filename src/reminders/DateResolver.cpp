@@ -140,7 +140,8 @@ std::optional<Calendar::Day> resolveDay(const DateFacts &facts, Calendar::Day to
         return Calendar::Day(mondayOf(today) + days(7 * *facts.weeksAhead + weekdayFromMonday));
     }
     const int ahead = (*facts.weekday - int(weekday(date).c_encoding()) + 7) % 7;
-    return Calendar::Day(date + days(ahead == 0 && facts.next ? 7 : ahead));
+    const int nearest = ahead == 0 && facts.next ? 7 : ahead;
+    return Calendar::Day(date + days(nearest + 7 * facts.weeksLater.value_or(0)));
 }
 } // namespace
 
