@@ -3,6 +3,7 @@
 #include "foundation/CaseFolding.h"
 #include "model/NoteFileCodec.h"
 #include "model/NoteMarkdown.h"
+#include "reminders/DateDetector.h"
 #include "reminders/ReminderDetector.h"
 #include "support/TestClock.h"
 #include "text/LocalFile.h"
@@ -63,7 +64,8 @@ QList<Function> functions()
 {
     static const Calendar calendar("Asia/Shanghai");
     static const Instant now = at("2026-03-02T02:00:00Z");
-    static const NoDateDetector detector;
+    static const FixedClock clock(now, calendar);
+    static const DateDetector detector(clock);
     return {
         {"fold", [](const QString &text) { use(CaseFolding::folded(text)); }},
         {"segments", [](const QString &text) { use(NoteHighlighting::segments(text)); }},
@@ -86,6 +88,7 @@ QList<Function> functions()
         {"decodeImport",
             [](const QString &text) { use(NoteFileCodec::decode(text.toUtf8(), now, calendar)); }},
         {"detect", [](const QString &text) { use(ReminderDetector::detect(text, now, calendar, detector)); }},
+        {"detectDates", [](const QString &text) { use(detector.detectDates(text)); }},
         {"detect, a reminder",
             [](const QString &text) {
                 use(ReminderDetector::detect(u"tomorrow 9am remind me"_s + text, now, calendar, detector));

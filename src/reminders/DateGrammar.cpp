@@ -149,8 +149,11 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
                                || entry.kind == Kind::Month || entry.kind == Kind::Part
                                || entry.kind == Kind::Unit || entry.kind == Kind::WeekdayAndPart;
     for (const QStringList &tokens : {exact, plain}) {
-        if (isTellingKind)
-            m_telling.insert(longestToken(tokens));
+        // Short words mean something in every other language.
+        constexpr qsizetype shortestTelling = 3;
+        const QString word = longestToken(tokens);
+        if (isTellingKind && (word.size() >= shortestTelling || DateTokens::isUnspaced(word.front())))
+            m_telling.insert(word);
         size_t node = 0;
         for (const QString &token : tokens) {
             auto next = m_nodes[node].next.constFind(token);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/DateFormat.h"
 #include "reminders/DateDetector.h"
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
@@ -13,6 +14,7 @@
 namespace DateEvaluation {
 struct Score {
     int drafts = 0;
+    int found = 0;
     int rightMoments = 0;
     int rightContents = 0;
     int ordinary = 0;
@@ -34,50 +36,56 @@ inline QStringList languages()
     return languages;
 }
 
-/// "2026-03-05 15:00"; the year may be missing in @p told.
-inline bool isMoment(const QString &told, Instant fireAt, const Calendar &calendar)
+inline const TestClock &clock()
 {
-    const auto day = calendar.day(fireAt);
-    const auto time = calendar.timeOfDay(fireAt);
-    const QString whole = QString::asprintf("%04d-%02u-%02u %02d:%02d", int(day.year()),
-        unsigned(day.month()), unsigned(day.day()), time.hour, time.minute);
-    return told == whole || (int(day.year()) == 2026 && told == whole.sliced(5));
+    static const TestClock clock("2026-03-04T02:00:00Z");
+    return clock;
+}
+
+inline std::optional<ParsedReminder> detect(const QString &draft)
+{
+    return ReminderDetector::detect(draft, clock().now(), clock().calendar(), DateDetector(clock()));
+}
+
+inline QString momentOf(Instant fireAt)
+{
+    return DateFormat::format(fireAt, u"yyyy-MM-dd HH:mm", "en_US_POSIX", clock().calendar());
+}
+
+/// "2026-03-05 15:00"; the year may be missing in @p told.
+inline bool isMoment(const QString &told, Instant fireAt)
+{
+    const QString moment = momentOf(fireAt);
+    return told == moment || QStringLiteral("2026-") + told == moment;
 }
 
 inline Score evaluate(const QString &language)
 {
-    const TestClock clock("2026-03-04T02:00:00Z");
-    const DateDetector detector(clock);
-    const auto detect = [&](const QString &draft) {
-        return ReminderDetector::detect(draft, clock.now(), clock.calendar(), detector);
-    };
     Score score;
+    const auto fault = [&score](const QString &line, const std::optional<ParsedReminder> &found) {
+        score.faults.append(
+            line + QStringLiteral("   =>   ")
+            + (found ? momentOf(found->fireAt) + u' ' + found->content : QStringLiteral("nothing")));
+    };
     for (const QString &line : lines(language + QStringLiteral("-found.txt"))) {
         const QStringList columns = line.split(QStringLiteral(" | "));
         const auto found = detect(columns[0]);
-        const bool isRight = found && isMoment(columns[1], found->fireAt, clock.calendar());
+        const bool isRight = found && isMoment(columns[1], found->fireAt);
         const bool hasContent = found && found->content == columns[2];
         ++score.drafts;
+        score.found += found.has_value();
         score.rightMoments += isRight;
         score.rightContents += hasContent;
-        if (!isRight || !hasContent) {
-            score.faults.append(line + QStringLiteral("   =>   ")
-                                + (found ? QString::fromLatin1(InternetDateTime::format(
-                                               found->fireAt + std::chrono::hours(8)))
-                                               + u' ' + found->content
-                                         : QStringLiteral("nothing")));
-        }
+        if (!isRight || !hasContent)
+            fault(line, found);
     }
     for (const QString &line : lines(language + QStringLiteral("-ordinary.txt"))) {
         ++score.ordinary;
-        if (ReminderParser::parse(line, clock.now(), clock.calendar(), LanguageDetection::detect(line)))
+        if (ReminderParser::parse(line, clock().now(), clock().calendar(), LanguageDetection::detect(line)))
             continue;
         if (const auto found = detect(line)) {
             ++score.falseAlarms;
-            score.faults.append(
-                line + QStringLiteral("   =>   ")
-                + QString::fromLatin1(InternetDateTime::format(found->fireAt + std::chrono::hours(8))) + u' '
-                + found->content);
+            fault(line, found);
         }
     }
     return score;
