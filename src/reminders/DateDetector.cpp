@@ -238,9 +238,10 @@ bool mayBeEither(ReminderLanguage a, ReminderLanguage b, const QList<DateToken> 
     const auto writesHan = [](ReminderLanguage language) {
         return language == ReminderLanguage::Chinese || language == ReminderLanguage::Japanese;
     };
-    return writesHan(a) && writesHan(b) && std::none_of(tokens.begin(), tokens.end(), [](const DateToken &token) {
-        return token.type == Type::Character && token.text.front().script() != QChar::Script_Han;
-    });
+    return writesHan(a) && writesHan(b)
+           && std::none_of(tokens.begin(), tokens.end(), [](const DateToken &token) {
+                  return token.type == Type::Character && token.text.front().script() != QChar::Script_Han;
+              });
 }
 
 /// How many words of the draft speak for a language.

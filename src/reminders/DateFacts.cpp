@@ -47,10 +47,12 @@ std::optional<DateFacts> DateFacts::together(const DateFacts &a, const DateFacts
             other.part.reset();
     }
     const bool isGood =
-        join(both.relativeDay, b.relativeDay) && join(both.weekday, b.weekday) && join(both.next, b.next) && join(both.weeksLater, b.weeksLater) && join(both.weeksAhead, b.weeksAhead) && join(both.day, b.day) && join(both.month, b.month)
-        && join(both.year, b.year) && join(both.monthsAhead, b.monthsAhead) && join(both.weekend, b.weekend)
-        && join(both.monthEnd, b.monthEnd) && join(both.halves, b.halves) && join(both.unit, b.unit)
-        && join(both.hour, b.hour) && join(both.minute, b.minute) && join(both.minutesBefore, b.minutesBefore)
-        && join(both.shift, b.shift) && join(both.asWritten, b.asWritten) && join(both.part, other.part);
+        join(both.relativeDay, b.relativeDay) && join(both.weekday, b.weekday) && join(both.next, b.next)
+        && join(both.weeksLater, b.weeksLater) && join(both.weeksAhead, b.weeksAhead) && join(both.day, b.day)
+        && join(both.month, b.month) && join(both.year, b.year) && join(both.monthsAhead, b.monthsAhead)
+        && join(both.weekend, b.weekend) && join(both.monthEnd, b.monthEnd) && join(both.halves, b.halves)
+        && join(both.unit, b.unit) && join(both.hour, b.hour) && join(both.minute, b.minute)
+        && join(both.minutesBefore, b.minutesBefore) && join(both.shift, b.shift)
+        && join(both.asWritten, b.asWritten) && join(both.part, other.part);
     return isGood ? std::optional(both) : std::nullopt;
 }

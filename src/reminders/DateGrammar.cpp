@@ -31,8 +31,8 @@ QStringList tokensOf(QStringView phrase)
 
 QString longestToken(const QStringList &tokens)
 {
-    return *std::max_element(tokens.begin(), tokens.end(),
-        [](const QString &a, const QString &b) { return a.size() < b.size(); });
+    return *std::max_element(
+        tokens.begin(), tokens.end(), [](const QString &a, const QString &b) { return a.size() < b.size(); });
 }
 
 constexpr int partsInAWeekday = 16;
@@ -84,6 +84,7 @@ const std::vector<DateWords::Rule> &commonRules()
         {u"<year> - <monthnumber> - <day>"},
         {u"<year> / <monthnumber> / <day>"},
         {u"<hour> : <mm>", {.asWritten = 1}},
+        {u"<hour> : <mm> - <until> : <until>", {.asWritten = 1}},
         {u"<part>", {}, DateWords::Strength::WithNeighbour},
     };
     return rules;
@@ -215,6 +216,7 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
         {QStringLiteral("part"), Slot::Part},
         {QStringLiteral("ordinal"), Slot::Ordinal},
         {QStringLiteral("weekdaypart"), Slot::WeekdayAndPart},
+        {QStringLiteral("until"), Slot::Until},
     };
     static const QHash<Slot, Kind> kinds{
         {Slot::Hour, Kind::Number},
@@ -232,6 +234,7 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
         {Slot::Part, Kind::Part},
         {Slot::Ordinal, Kind::Ordinal},
         {Slot::WeekdayAndPart, Kind::WeekdayAndPart},
+        {Slot::Until, Kind::Number},
     };
     Rule compiled{{}, rule.facts, rule.strength};
     bool canBeFirst = true;
@@ -274,8 +277,11 @@ DateGrammar::Reading::Reading(const DateGrammar &grammar, const QList<DateToken>
         const DateToken &token = tokens[start];
         if (token.type == DateToken::Type::Barrier)
             continue;
-        if (token.type == DateToken::Type::Number)
-            m_arcs[size_t(start)].push_back({{Kind::Number, token.value}, start + 1, token.digits});
+        if (token.type == DateToken::Type::Number) {
+            const bool isBehindMark = token.isGlued && tokens[start - 1].type == DateToken::Type::Mark;
+            m_arcs[size_t(start)].push_back(
+                {{Kind::Number, token.value}, start + 1, token.digits, false, isBehindMark});
+        }
         addNumeralArc(start);
         addPhraseArcs(start);
     }
@@ -309,7 +315,7 @@ void DateGrammar::Reading::addNumeralArc(qsizetype start)
          ++end)
         numeral += m_tokens[end].text;
     if (const int value = hanNumeral(numeral); value >= 0)
-        m_arcs[size_t(start)].push_back({{Kind::Number, value}, end, 0, true});
+        m_arcs[size_t(start)].push_back({{Kind::Number, value}, end, 0, true, false});
 }
 
 bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFacts &facts)
@@ -345,6 +351,9 @@ bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFact
     case Slot::Month:
         return isKind(Kind::Month) && say(facts.month, value);
     case Slot::Year:
+        // "5/3/27"; what looks like the years before may as well be a version.
+        if (isNumber(25, 99) && arc.digits == 2 && arc.isBehindMark)
+            return say(facts.year, 2000 + value);
         return isNumber(1900, 2999, 4) && say(facts.year, value);
     case Slot::Count:
         if (!isNumber(1, 999, 3))
@@ -361,6 +370,8 @@ bool DateGrammar::Reading::take(const Element &element, const Arc &arc, DateFact
         return isKind(Kind::Part) && say(facts.part, DayPart(value));
     case Slot::Ordinal:
         return isKind(Kind::Ordinal) && say(facts.day, value);
+    case Slot::Until:
+        return isNumber(0, 59);
     case Slot::WeekdayAndPart:
         return isKind(Kind::WeekdayAndPart) && say(facts.weekday, value / partsInAWeekday)
                && say(facts.part, DayPart(value % partsInAWeekday));

@@ -48,6 +48,7 @@ private:
         Part,
         Ordinal,
         WeekdayAndPart,
+        Until,
     };
     struct Entry {
         Kind kind = Kind::Literal;
@@ -105,6 +106,7 @@ private:
         qsizetype end = 0;
         int digits = 0; ///< of a number; 0 when it is in words
         bool isHanNumeral = false;
+        bool isBehindMark = false; ///< "/27" and the like
     };
 
     void addPhraseArcs(qsizetype start);

@@ -14,7 +14,8 @@
 /// literal.
 ///
 /// Slots: <hour> <minute> <mm> (two digits) <day> <daydigits> <monthnumber> <month> <year> <n> <unit>
-/// <weekday> <relative> <part> <ordinal>. What a slot matches is added to the rule's own facts.
+/// <weekday> <relative> <part> <ordinal> <weekdaypart>, and <until> for the end of a stretch of time, which
+/// says nothing. What a slot matches is added to the rule's own facts.
 struct DateWords {
     struct Word {
         QStringView words;

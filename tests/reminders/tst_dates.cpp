@@ -3,6 +3,7 @@
 // 2026-03-04 10:00 in Shanghai.
 #include "reminders/DateEvaluation.h"
 
+#include <QLocale>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +29,37 @@ private Q_SLOTS:
         QCOMPARE_GE(score.rightMoments * 100, score.drafts * 97);
         QCOMPARE_GE(score.rightContents * 100, score.drafts * 95);
         QCOMPARE_LE(score.falseAlarms * 100, score.ordinary);
+    }
+
+    // The system knows how people of a place write a whole date.
+    void dates_are_read_as_each_place_writes_them_data()
+    {
+        QTest::addColumn<QString>("place");
+        for (const char *place : {"zh_CN", "zh_TW", "en_US", "en_GB", "ja_JP", "ko_KR", "de_DE", "de_AT",
+                 "fr_FR", "es_ES", "es_MX", "da_DK", "nb_NO", "sv_SE", "nl_NL", "it_IT", "pt_PT", "pt_BR"})
+            QTest::newRow(place) << QString::fromLatin1(place);
+    }
+    void dates_are_read_as_each_place_writes_them()
+    {
+        QFETCH(QString, place);
+        const QLocale locale(place);
+        QStringList faults;
+        for (QDate day(2026, 3, 5); day < QDate(2027, 3, 5); day = day.addDays(13)) {
+            const QString whole = locale.toString(day, QLocale::LongFormat);
+            for (const QString &written : {whole, whole.toLower()}) {
+                const QString draft = u"xyz "_s + written;
+                const auto found = DateEvaluation::detect(draft);
+                if (!found
+                    || DateEvaluation::momentOf(found->fireAt) != day.toString(Qt::ISODate) + u" 09:00"_s
+                    || found->content != u"xyz"_s)
+                    faults.append(draft + u" => "_s
+                                  + (found ? DateEvaluation::momentOf(found->fireAt) + u' ' + found->content
+                                           : u"nothing"_s));
+            }
+        }
+        for (const QString &fault : faults.first(std::min<qsizetype>(6, faults.size())))
+            qInfo("%s", qPrintable(fault));
+        QVERIFY(faults.isEmpty());
     }
 
     void the_examples_of_the_documentation_hold()
