@@ -1,6 +1,7 @@
 // Drafts of 60 characters that the grammar accepts, one for each language.
 #include "foundation/Regex.h"
 #include "reminders/ReminderDetector.h"
+#include "support/NoDateDetector.h"
 #include "support/TestClock.h"
 
 #include <benchmark/benchmark.h>

@@ -32,10 +32,3 @@ public:
     virtual ~DateDetecting() = default;
     [[nodiscard]] virtual QList<DateDetection> detectDates(QStringView text) const = 0;
 };
-
-/// Finds none: only what the grammar accepts is a reminder.
-class NoDateDetector final : public DateDetecting
-{
-public:
-    [[nodiscard]] QList<DateDetection> detectDates(QStringView) const override { return {}; }
-};

@@ -3,7 +3,7 @@
 #include "model/NoteCoding.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
-#include "reminders/DateDetecting.h"
+#include "reminders/DateDetector.h"
 #include "support/KnownTitles.h"
 #include "support/RecordingScheduler.h"
 #include "support/TestClock.h"
@@ -27,7 +27,7 @@ public:
     TestPanel()
         : reminders(m_folder.filePath(QStringLiteral("reminders.json")), m_scheduler, clock)
         , notes(m_folder.filePath(QStringLiteral("notes.json")), clock)
-        , content(new ContentView(notes, reminders, m_detector, titles, clock))
+        , content(new ContentView(notes, reminders, detector, titles, clock))
         , window(content)
     {
         notes.setReminderStore(&reminders);
@@ -75,11 +75,11 @@ public:
 private:
     QTemporaryDir m_folder;
     RecordingScheduler m_scheduler;
-    NoDateDetector m_detector;
 
 public:
     KnownTitles titles;
     TestClock clock{"2026-03-02T02:00:00Z"};
+    DateDetector detector{clock};
     ReminderStore reminders;
     NoteStore notes;
     ContentView *content; ///< the window's

@@ -26,6 +26,16 @@ private Q_SLOTS:
         QCOMPARE(panel.reminders.reminders().first().fireAt, at("2026-03-03T07:00:00Z"));
     }
 
+    void a_date_anywhere_in_the_draft_is_a_reminder()
+    {
+        TestPanel panel;
+        panel.type(u"给妈妈打电话 周五下午五点 #家"_s);
+        QCOMPARE(panel.reminderBar()->text(), u"3月6日 17:00 · 给妈妈打电话 #家"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().first().text, u"给妈妈打电话 周五下午五点 #家"_s);
+        QCOMPARE(panel.reminders.reminders().first().fireAt, at("2026-03-06T09:00:00Z"));
+    }
+
     void a_time_that_has_passed_makes_a_plain_note()
     {
         TestPanel panel;
