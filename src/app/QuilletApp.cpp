@@ -14,7 +14,10 @@ QuilletApp::QuilletApp(Start start)
     , m_notifications(m_clock)
     , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
-    , m_panel([this] { return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock); })
+    , m_panel([this] {
+        m_dateDetector.prepare();
+        return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
+    })
     , m_delegate(m_notifications, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);

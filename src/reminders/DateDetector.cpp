@@ -89,7 +89,7 @@ private:
     /// Not within a word, and not behind one that makes it no date.
     [[nodiscard]] bool mayBeginAt(qsizetype token) const
     {
-        if (m_reading.startOf(Role::NotAfter, token) != token)
+        if (m_reading.startOf(Role::NotAfter, token) != token || m_reading.isWithin(Role::Idiom, token))
             return false;
         if (!isGlued(token))
             return true;
@@ -105,7 +105,7 @@ private:
 
     [[nodiscard]] bool mayEndAt(qsizetype token) const
     {
-        if (m_reading.endOf(Role::NotBefore, token) != token)
+        if (m_reading.endOf(Role::NotBefore, token) != token || m_reading.isWithin(Role::Idiom, token))
             return false;
         if (!isGlued(token))
             return true;
@@ -290,6 +290,12 @@ qsizetype covered(const QList<DateDetection> &detections)
     return units;
 }
 } // namespace
+
+void DateDetector::prepare()
+{
+    for (const ReminderLanguage language : languages)
+        (void)grammar(language);
+}
 
 QList<DateDetection> DateDetector::detectDates(QStringView text) const
 {

@@ -15,6 +15,9 @@ public:
     {
     }
 
+    /// Makes the tables of all languages ready, for which the first keystroke would wait some milliseconds.
+    static void prepare();
+
     [[nodiscard]] QList<DateDetection> detectDates(QStringView text) const override;
 
 private:

@@ -36,6 +36,7 @@ QString longestToken(const QStringList &tokens)
 }
 
 constexpr int partsInAWeekday = 16;
+constexpr qsizetype longestPhrase = 5; // in tokens
 
 /// 十五 is 15, 二十 is 20; -1 for what is no such number below a hundred.
 int hanNumeral(const QString &characters)
@@ -121,9 +122,10 @@ DateGrammar::DateGrammar(const DateWords &words, const std::vector<QStringView> 
             }
         }
     }
-    for (const auto &[alternatives, role] : {std::pair(words.before, Role::Before),
-             std::pair(words.between, Role::Between), std::pair(words.after, Role::After),
-             std::pair(words.notAfter, Role::NotAfter), std::pair(words.notBefore, Role::NotBefore)})
+    for (const auto &[alternatives, role] :
+        {std::pair(words.before, Role::Before), std::pair(words.between, Role::Between),
+            std::pair(words.after, Role::After), std::pair(words.notAfter, Role::NotAfter),
+            std::pair(words.notBefore, Role::NotBefore), std::pair(words.idioms, Role::Idiom)})
         addPhrases(alternatives, {Kind::Role, int(role)});
     addPhrases(commonNotAfter, {Kind::Role, int(Role::NotAfter)});
     for (const QStringView phrase : announcements)
@@ -447,12 +449,21 @@ qsizetype DateGrammar::Reading::endOf(Role role, qsizetype start) const
 
 qsizetype DateGrammar::Reading::startOf(Role role, qsizetype end) const
 {
-    constexpr qsizetype longest = 5; // tokens in such a phrase
-    for (qsizetype start = std::max<qsizetype>(0, end - longest); start < end; ++start) {
+    for (qsizetype start = std::max<qsizetype>(0, end - longestPhrase); start < end; ++start) {
         for (const Arc &arc : m_arcs[size_t(start)]) {
             if (arc.end == end && arc.entry.kind == Kind::Role && arc.entry.value == int(role))
                 return start;
         }
     }
     return end;
+}
+
+bool DateGrammar::Reading::isWithin(Role role, qsizetype token) const
+{
+    for (qsizetype start = std::max<qsizetype>(0, token - longestPhrase); start < token; ++start) {
+        const std::vector<qsizetype> ends = endsOf(role, start);
+        if (std::any_of(ends.begin(), ends.end(), [token](qsizetype end) { return end > token; }))
+            return true;
+    }
+    return false;
 }

@@ -22,7 +22,7 @@ public:
         DateWords::Strength strength = DateWords::Strength::Alone;
     };
     /// What a word does around a date rather than in it.
-    enum class Role { Before, Between, After, NotAfter, NotBefore, Announcement };
+    enum class Role { Before, Between, After, NotAfter, NotBefore, Idiom, Announcement };
 
     class Reading;
 
@@ -98,6 +98,8 @@ public:
     [[nodiscard]] std::vector<qsizetype> endsOf(Role role, qsizetype start) const;
     /// The first token of the longest word of this role that ends before the token @p end; @p end for none.
     [[nodiscard]] qsizetype startOf(Role role, qsizetype end) const;
+    /// Whether the token stands within such a word, behind its beginning.
+    [[nodiscard]] bool isWithin(Role role, qsizetype token) const;
 
 private:
     /// A word of the language that begins at some token.

@@ -49,11 +49,12 @@ struct DateWords {
     std::vector<UnitWord> units;
     std::vector<Rule> rules;
 
-    QStringView before;    ///< what leads to a date and is cut out with it: "at", "by"
-    QStringView between;   ///< what may stand between the parts of a date
-    QStringView after;     ///< what follows a date and is cut out with it
-    QStringView notAfter;  ///< words that make what follows no date: "last"
-    QStringView notBefore; ///< words that make what precedes no date
+    QStringView before = {};    ///< what leads to a date and is cut out with it: "at", "by"
+    QStringView between = {};   ///< what may stand between the parts of a date
+    QStringView after = {};     ///< what follows a date and is cut out with it
+    QStringView notAfter = {};  ///< words that make what follows no date: "last"
+    QStringView notBefore = {}; ///< words that make what precedes no date
+    QStringView idioms = {};    ///< phrases within which no date begins or ends: "am Morgen" is not "morgen"
     bool hasHanNumerals = false;
     bool joinsWeekdayAndPart = false; ///< "Freitagabend" is one word
 };

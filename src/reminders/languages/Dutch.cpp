@@ -61,7 +61,7 @@ DateWords dates()
                 {u"<weekday> volgende week", {.weeksAhead = 1}},
                 {u"<weekday> in de volgende week", {.weeksAhead = 1}},
                 {u"volgende week <weekday>?", {.weeksAhead = 1}},
-                {u"dit|komend|in_het|het weekend|weekeinde", {.weekend = 0}},
+                {u"dit|komend|in_het|voor_het weekend|weekeinde", {.weekend = 0}},
                 {u"volgend weekend|weekeinde", {.weekend = 1}},
                 {u"het? einde|eind van de|deze maand", {.monthEnd = 1}},
                 {u"eind deze? maand", {.monthEnd = 1}},
@@ -106,6 +106,7 @@ DateWords dates()
         .after = u"uur|precies|stipt",
         .notAfter = u"vorige|afgelopen|elke|iedere|hoofdstuk|versie|pagina|gisteren|eergisteren|goede|guten",
         .notBefore = u"personen|mensen|euro|procent|wereldoorlog|redenen|bergen",
+        .idioms = u"am_morgen|guten_morgen|goede_morgen",
         .joinsWeekdayAndPart = true,
     };
 }

@@ -77,7 +77,7 @@ DateWords dates()
                 {u"wed <part>", {.weekday = 3}},
                 {u"sat <part>", {.weekday = 6}},
                 {u"next week", {.weeksAhead = 1}},
-                {u"this|the|at_the|over_the weekend", {.weekend = 0}},
+                {u"this|at_the|over_the|on_the|for_the|by_the weekend", {.weekend = 0}},
                 {u"next weekend", {.weekend = 1}},
                 {u"the? end of the|this? month", {.monthEnd = 1}},
                 {u"the? end of next month", {.monthsAhead = 1, .monthEnd = 1}},
@@ -134,6 +134,7 @@ DateWords dates()
         .after = u"sharp|o'clock",
         .notAfter = u"last|past|black|good|since|chapter|version|level|page|every",
         .notBefore = u"ago|percent|euros|dollars|bucks|people|times|of_march",
+        .idioms = u"black_friday|good_friday|palm_sunday|sunday_school|easter_sunday",
     };
 }
 } // namespace

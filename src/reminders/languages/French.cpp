@@ -53,7 +53,7 @@ DateWords dates()
                 {u"la? semaine prochaine <weekday>?", {.weeksAhead = 1}},
                 {u"<weekday> en huit", {.weeksLater = 1}},
                 {u"le <day> du mois prochain", {.monthsAhead = 1}},
-                {u"ce|le week-end|weekend", {.weekend = 0}},
+                {u"ce|pendant_le|pour_le week-end|weekend", {.weekend = 0}},
                 {u"le? week-end|weekend prochain", {.weekend = 1}},
                 {u"la? fin du mois", {.monthEnd = 1}},
                 {u"fin de? mois", {.monthEnd = 1}},
@@ -94,6 +94,7 @@ DateWords dates()
         .after = u"pile|précises|précise",
         .notAfter = u"dernier|tous_les|chaque|chapitre|version|page|hier|avant-hier|il_y_a",
         .notBefore = u"dernier|derniers|personnes|euros|pour_cent|siècle|étage|prix|avril_fish",
+        .idioms = u"vendredi_saint|black_friday",
     };
 }
 } // namespace

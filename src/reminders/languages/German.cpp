@@ -111,6 +111,7 @@ DateWords dates()
         .notAfter = u"letzten|letzter|vergangenen|guten|jeden|jeder|alle|abschnitt|aufgabe|übung|punkt|"
                     u"nummer|nr|kapitel|version|seite|gestern|vorgestern",
         .notBefore = u"personen|euro|prozent|leuten|platz|stock|weltkrieg|element",
+        .idioms = u"am_morgen|guten_morgen|schwarzer_freitag|black_friday",
         .joinsWeekdayAndPart = true,
     };
 }

@@ -62,7 +62,7 @@ DateWords dates()
                 {u"<weekday> della prossima settimana", {.weeksAhead = 1}},
                 {u"la? settimana prossima <weekday>?", {.weeksAhead = 1}},
                 {u"la? prossima settimana <weekday>?", {.weeksAhead = 1}},
-                {u"questo|nel|il weekend|week-end|fine_settimana", {.weekend = 0}},
+                {u"questo|nel|per_il|durante_il weekend|week-end|fine_settimana", {.weekend = 0}},
                 {u"il? prossimo weekend|week-end|fine_settimana", {.weekend = 1}},
                 {u"a|entro|entro_la? fine mese", {.monthEnd = 1}},
                 {u"a|alla|entro|entro_la|la? fine del mese", {.monthEnd = 1}},
@@ -109,6 +109,7 @@ DateWords dates()
         .after = u"in_punto|precise",
         .notAfter = u"scorso|ogni|tutti_i|capitolo|versione|pagina|ieri|l'altro|della|la",
         .notBefore = u"scorso|scorsa|persone|euro|per_cento|come_oggi|ragazze|per_giorno",
+        .idioms = u"oggi_come_oggi|oggi_giorno|black_friday",
     };
 }
 } // namespace

@@ -70,7 +70,7 @@ DateWords dates()
         .between = u"",
         .after = u"까지|에는|에|부터|쯤에|쯤|경에|경|은|는|의|로|으로|정각에",
         .notAfter = u"지난|지난주|제|매|매주|매일|작년",
-        .notBefore = u"간|동안|만에|째",
+        .notBefore = u"전의|전에|전부터|간|동안|만에|째",
     };
 }
 } // namespace

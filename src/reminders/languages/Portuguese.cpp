@@ -80,7 +80,7 @@ DateWords dates()
                 {u"<weekday> da semana que_vem", {.weeksAhead = 1}},
                 {u"na|a? semana que_vem <weekday>?", {.weeksAhead = 1}},
                 {u"na|a? próxima semana <weekday>?", {.weeksAhead = 1}},
-                {u"no|este|neste|o|nesse fim de semana", {.weekend = 0}},
+                {u"no|este|neste|nesse fim de semana", {.weekend = 0}},
                 {u"no|o? próximo fim de semana", {.weekend = 1}},
                 {u"até|no|ao? o? fim|final do mês", {.monthEnd = 1}},
                 {u"dia? <day> º|°? de <month> .? de? <year>?"},
@@ -121,6 +121,7 @@ DateWords dates()
             u"passada|passado|último|última|cada|todos_os|toda|capítulo|versão|página|ontem|anteontem",
         .notBefore =
             u"passada|passado|pessoas|euros|reais|por_cento|em_dia|de_ramos|meninas|temporada|parte|mão",
+        .idioms = u"roupa_de_domingo|traje_de_domingo|black_friday",
     };
 }
 } // namespace

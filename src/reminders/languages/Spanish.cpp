@@ -55,7 +55,7 @@ DateWords dates()
                 {u"<weekday> de la semana que_viene|próxima", {.weeksAhead = 1}},
                 {u"la? semana que_viene <weekday>?", {.weeksAhead = 1}},
                 {u"la? próxima semana <weekday>?", {.weeksAhead = 1}},
-                {u"este|el|en_el|durante_el fin de semana", {.weekend = 0}},
+                {u"este|en_el|durante_el|para_el fin de semana", {.weekend = 0}},
                 {u"el? próximo fin de semana", {.weekend = 1}},
                 {u"el? fin de semana que_viene|próximo", {.weekend = 1}},
                 {u"a|antes_de|para? fin|fines|final|finales de|del mes", {.monthEnd = 1}},
@@ -97,6 +97,7 @@ DateWords dates()
         .after = u"en_punto|h|horas",
         .notAfter = u"la|una|pasado|último|cada|todos_los|capítulo|versión|página|ayer|anteayer",
         .notBefore = u"pasado|personas|euros|por_ciento|de_ramos|y_la_noche|en_día",
+        .idioms = u"roupa_de_domingo|traje_de_domingo|ropa_de_domingo|black_friday",
     };
 }
 } // namespace
