@@ -28,8 +28,8 @@ DateWords dates()
         .months = {},
         .numbers = {},
         .ordinals = {},
-        .parts = {{u"午前", Am}, {u"朝|早朝", Morning}, {u"昼|お昼|正午", Noon}, {u"午後", Afternoon},
-            {u"夕方|夜|晩", Evening}, {u"夜中|深夜", Night}},
+        .parts = {{u"午前", Am}, {u"午前中", Morning}, {u"朝|早朝", Morning}, {u"昼|お昼|正午", Noon},
+            {u"午後", Afternoon}, {u"夕方|夜|晩", Evening}, {u"夜中|深夜", Night}},
         .units = {{u"分間|分", Minutes}, {u"時間", Hours}, {u"日間|日", Days}, {u"週間", Weeks},
             {u"ヶ月|か月|カ月|ヵ月", Months}},
         .rules =
