@@ -282,6 +282,18 @@ QList<ReminderLanguage> candidates(const QList<DateToken> &tokens, ReminderLangu
     return all;
 }
 
+bool hasWord(QStringView text)
+{
+    constexpr int shortestWord = 2;
+    int letters = 0;
+    for (const QChar character : text) {
+        letters = character.isLetter() ? letters + 1 : 0;
+        if (letters == shortestWord)
+            return true;
+    }
+    return false;
+}
+
 qsizetype covered(const QList<DateDetection> &detections)
 {
     qsizetype units = 0;
@@ -303,8 +315,12 @@ QList<DateDetection> DateDetector::detectDates(QStringView text) const
     const Instant now = m_clock.now();
     const Calendar &calendar = m_clock.calendar();
     QList<DateDetection> best;
-    for (const ReminderLanguage language : candidates(tokens, LanguageDetection::detect(text))) {
-        const QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
+    const ReminderLanguage seeming = LanguageDetection::detect(text);
+    for (const ReminderLanguage language : candidates(tokens, seeming)) {
+        QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
+        // For a language that nothing speaks for, a date must do so itself: "um 3", not "3 h".
+        if (language != seeming && countTelling(tokens, language) == 0)
+            detections.removeIf([](const DateDetection &detection) { return !hasWord(detection.text); });
         if (covered(detections) > covered(best))
             best = detections;
     }

@@ -95,7 +95,8 @@ DateWords dates()
         .between = u"à|le|vers|dans|en|au|pour|de",
         .after = u"pile|précises|précise",
         .notAfter = u"dernier|tous_les|chaque|chapitre|version|page|hier|avant-hier|il_y_a",
-        .notBefore = u"dernier|derniers|personnes|euros|pour_cent|siècle|étage|prix|avril_fish",
+        .notBefore = u"de_route|de_trajet|de_train|de_sport|de_travail|de_vol|de_marche|de_sommeil|dernier|"
+                     u"derniers|personnes|euros|pour_cent|siècle|étage|prix|avril_fish",
         .idioms = u"vendredi_saint|black_friday",
     };
 }

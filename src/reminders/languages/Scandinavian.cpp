@@ -104,7 +104,7 @@ DateWords dates()
                 {u"kl|klokka|klokken|klockan .? <hour> - <until>"},
                 {u"fra|från|mellan|mellom|mellem kl|klokka|klokken|klockan? .? <hour> til|till|og|och "
                  u"<until>",
-                    {}, AtEdge},
+                    {}, WithNeighbour},
                 {u"halv <hour>", {.shift = -30}},
                 {u"kvart over|över <hour>", {.shift = 15}},
                 {u"kvart i|på <hour>", {.shift = -15}},
