@@ -20,9 +20,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((?:\d{1,2}:\d{2}|\d{1,2}(?::\d{2})?\s*uur|half\s+\d{1,2}))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;

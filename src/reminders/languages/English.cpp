@@ -23,9 +23,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((?:\d{1,2}(?::\d{2})?\s*(?:a\.?m\.?|p\.?m\.?)|\d{1,2}:\d{2}))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;
@@ -55,7 +53,7 @@ DateWords dates()
         .rules =
             {
                 {u"<relative>"},
-                {u"this|next? tonight|tonite", {.relativeDay = 0, .part = Evening}},
+                {u"tonight|tonite", {.relativeDay = 0, .part = Evening}},
                 {u"this morning", {.relativeDay = 0, .part = Morning}},
                 {u"this afternoon", {.relativeDay = 0, .part = Afternoon}},
                 {u"this evening", {.relativeDay = 0, .part = Evening}},

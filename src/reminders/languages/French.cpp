@@ -14,9 +14,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((?:\d{1,2}:\d{2}|\d{1,2}h(?:\d{2})?(?:\s*(?:et demie|heures?))?))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;

@@ -19,9 +19,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((?:\d{1,2}:\d{2}|\d{1,2}(?::\d{2})?(?:\s*(?:e mezza|h))?))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;

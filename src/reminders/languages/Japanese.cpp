@@ -12,9 +12,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((\d{1,2}[:：]\d{2}|\d{1,2}(?:時|点)(?:半|\d{1,2}分?)?))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;

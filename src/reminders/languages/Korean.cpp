@@ -12,9 +12,7 @@ QString timePattern()
 {
     return QStringLiteral(R"((\d{1,2}[:：]\d{2}|\d{1,2}시(?:\s*(?:반|\d{1,2}분))?))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;

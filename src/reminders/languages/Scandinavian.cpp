@@ -23,9 +23,7 @@ QString timePattern()
     return QStringLiteral(
         R"((?:\d{1,2}:\d{2}|(?:kl\.?|klokka|klockan)\s*\d{1,2}(?::\d{2})?|halv\s+\d{1,2}))");
 }
-} // namespace
 
-namespace {
 DateWords dates()
 {
     using enum DateWords::Strength;
