@@ -159,14 +159,15 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
             m_telling.insert(word);
         size_t node = 0;
         for (const QString &token : tokens) {
-            auto next = m_nodes[node].next.constFind(token);
-            if (next == m_nodes[node].next.cend()) {
-                m_nodes[node].next.insert(token, m_nodes.size());
-                node = m_nodes.size();
+            const size_t known = next(node, token);
+            if (known == 0) {
+                if (node == 0)
+                    m_first.insert(token, m_nodes.size());
+                else
+                    m_nodes[node].next.emplace_back(token, m_nodes.size());
                 m_nodes.emplace_back();
-            } else {
-                node = *next;
             }
+            node = known == 0 ? m_nodes.size() - 1 : known;
         }
         std::vector<Entry> &entries = m_nodes[node].entries;
         const auto isSame = [entry](Entry other) {
@@ -175,6 +176,17 @@ void DateGrammar::addPhrase(QStringView phrase, Entry entry)
         if (std::none_of(entries.begin(), entries.end(), isSame))
             entries.push_back(entry);
     }
+}
+
+size_t DateGrammar::next(size_t node, const QString &token) const
+{
+    if (node == 0)
+        return m_first.value(token);
+    for (const auto &[text, behind] : m_nodes[node].next) {
+        if (text == token)
+            return behind;
+    }
+    return 0;
 }
 
 void DateGrammar::addPhrases(QStringView alternatives, Entry entry)
@@ -297,10 +309,9 @@ void DateGrammar::Reading::addPhraseArcs(qsizetype start)
         const DateToken &token = m_tokens[at];
         const bool isBroken = at > start && token.type == DateToken::Type::Character && !token.isGlued
                               && !DateTokens::isHangul(token.text.front());
-        const auto next = nodes[node].next.constFind(token.text);
-        if (isBroken || token.type == DateToken::Type::Barrier || next == nodes[node].next.cend())
+        node = m_grammar.next(node, token.text);
+        if (isBroken || token.type == DateToken::Type::Barrier || node == 0)
             return;
-        node = *next;
         for (const Entry &entry : nodes[node].entries)
             m_arcs[size_t(start)].push_back({entry, at + 1, 0});
     }

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QSet>
 
+#include <utility>
 #include <vector>
 
 /// A language's date words, made ready to be matched.
@@ -55,8 +56,8 @@ private:
         int value = 0;
     };
     struct Node {
-        QHash<QString, size_t> next; ///< by the text of a token
-        std::vector<Entry> entries;  ///< what the tokens up to here may be
+        std::vector<std::pair<QString, size_t>> next; ///< by the text of a token: one or a few
+        std::vector<Entry> entries;                   ///< what the tokens up to here may be
     };
     struct Element {
         Slot slot = Slot::Literal;
@@ -75,7 +76,11 @@ private:
     int literal(QStringView phrase);
     [[nodiscard]] static size_t index(Entry entry);
 
-    std::vector<Node> m_nodes{1}; ///< a tree of the tokens of all phrases
+    /// The node behind a token, 0 for none; 0 is also the one before the first token.
+    [[nodiscard]] size_t next(size_t node, const QString &token) const;
+
+    QHash<QString, size_t> m_first; ///< the nodes behind the first tokens: hundreds
+    std::vector<Node> m_nodes{1};   ///< a tree of the tokens of all phrases
     QHash<QString, int> m_literals;
     QSet<QString> m_telling;
     std::vector<Rule> m_rules;
