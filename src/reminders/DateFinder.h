@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reminders/DateGrammar.h"
+#include "reminders/DateReading.h"
 
 /// Finds the dates of one draft in one language: what the rules match, put together where it stands together.
 class DateFinder
@@ -37,6 +37,6 @@ private:
     [[nodiscard]] qsizetype withWordsBefore(qsizetype start, qsizetype free) const;
     [[nodiscard]] qsizetype withWordsAfter(qsizetype end) const;
 
-    DateGrammar::Reading m_reading;
+    DateReading m_reading;
     const QList<DateToken> &m_tokens;
 };

@@ -25,12 +25,12 @@ public:
     /// What a word does around a date rather than in it.
     enum class Role { Before, Between, After, NotAfter, NotBefore, Idiom, Announcement };
 
-    class Reading;
-
     /// Whether a word of a draft speaks for this language: a weekday, a month, a unit of time ...
     [[nodiscard]] bool isTelling(const QString &word) const { return m_telling.contains(word); }
 
 private:
+    friend class DateReading;
+
     enum class Kind { Relative, Weekday, Month, Number, Ordinal, Part, Unit, WeekdayAndPart, Role, Literal };
     enum class Slot {
         Literal,
@@ -55,6 +55,9 @@ private:
         Kind kind = Kind::Literal;
         int value = 0;
     };
+    /// A weekday and a part of the day in one number.
+    static constexpr int partsInAWeekday = 16;
+
     struct Node {
         std::vector<std::pair<QString, size_t>> next; ///< by the text of a token: one or a few
         std::vector<Entry> entries;                   ///< what the tokens up to here may be
@@ -86,43 +89,4 @@ private:
     std::vector<Rule> m_rules;
     std::vector<std::vector<size_t>> m_rulesByFirst; ///< by the index of the entry that they can begin with
     bool m_hasHanNumerals = false;
-};
-
-/// A draft as one language reads it.
-class DateGrammar::Reading
-{
-public:
-    Reading(const DateGrammar &grammar, const QList<DateToken> &tokens);
-
-    /// Every way in which a rule matches from this token on.
-    [[nodiscard]] std::vector<Match> matches(qsizetype start) const;
-
-    /// The token behind the longest word of this role that begins here; @p start where there is none.
-    [[nodiscard]] qsizetype endOf(Role role, qsizetype start) const;
-    /// The tokens behind each of the words of this role that begin here.
-    [[nodiscard]] std::vector<qsizetype> endsOf(Role role, qsizetype start) const;
-    /// The first token of the longest word of this role that ends before the token @p end; @p end for none.
-    [[nodiscard]] qsizetype startOf(Role role, qsizetype end) const;
-    /// Whether the token stands within such a word, behind its beginning.
-    [[nodiscard]] bool isWithin(Role role, qsizetype token) const;
-
-private:
-    /// A word of the language that begins at some token.
-    struct Arc {
-        Entry entry;
-        qsizetype end = 0;
-        int digits = 0; ///< of a number; 0 when it is in words
-        bool isHanNumeral = false;
-        bool isBehindMark = false; ///< "/27" and the like
-    };
-
-    void addPhraseArcs(qsizetype start);
-    void addNumeralArc(qsizetype start);
-    void walk(const Rule &rule, size_t element, qsizetype at, const DateFacts &facts,
-        std::vector<Match> &found) const;
-    [[nodiscard]] static bool take(const Element &element, const Arc &arc, DateFacts &facts);
-
-    const DateGrammar &m_grammar;
-    const QList<DateToken> &m_tokens;
-    std::vector<std::vector<Arc>> m_arcs; ///< by first token
 };
