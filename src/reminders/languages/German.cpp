@@ -105,8 +105,9 @@ DateWords dates()
                 {u"um|am|zu|zum? mitternacht", {.hour = 24}},
                 {u"um? zwölf uhr mittags", {.hour = 12, .asWritten = 1}},
             },
-        .before = u"um|am|bis|bis_zum|bis_zu|ab|vor|vor_dem|nach|für|gegen|spätestens|den|der|zum|von|vom|"
-                  u"schon|gleich|im",
+        .before =
+            u"um|am|ab_dem|bis|bis_zum|bis_zu|ab|vor|vor_dem|nach|für|gegen|spätestens|den|der|zum|von|vom|"
+            u"schon|gleich|im",
         .between = u"um|am|den|gegen|ab|der|dem|im",
         .after = u"uhr|herum|genau|pünktlich",
         .notAfter = u"letzten|letzter|vergangenen|guten|jeden|jeder|alle|abschnitt|aufgabe|übung|punkt|"
