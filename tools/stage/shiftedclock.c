@@ -26,12 +26,21 @@ static void add_ns(struct timespec *time, long long ns)
     time->tv_nsec = total % 1000000000LL;
 }
 
+static int (*real_gettime)(clockid_t, struct timespec *);
+static int (*real_settime)(int, int, const struct itimerspec *, struct itimerspec *);
+
+/* Before there are threads: one that had to look a function up could wait for another that loads a library. */
+__attribute__((constructor)) static void resolve(void)
+{
+    *(void **)&real_gettime = dlsym(RTLD_NEXT, "clock_gettime");
+    *(void **)&real_settime = dlsym(RTLD_NEXT, "timerfd_settime");
+}
+
 int clock_gettime(clockid_t clock, struct timespec *time)
 {
-    static int (*real)(clockid_t, struct timespec *);
-    if (!real)
-        *(void **)&real = dlsym(RTLD_NEXT, "clock_gettime");
-    const int result = real(clock, time);
+    if (!real_gettime)
+        resolve();
+    const int result = real_gettime(clock, time);
     if (result == 0 && (clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE))
         add_ns(time, shift_ns());
     return result;
@@ -58,13 +67,12 @@ time_t time(time_t *place)
 
 int timerfd_settime(int fd, int flags, const struct itimerspec *value, struct itimerspec *old)
 {
-    static int (*real)(int, int, const struct itimerspec *, struct itimerspec *);
-    if (!real)
-        *(void **)&real = dlsym(RTLD_NEXT, "timerfd_settime");
+    if (!real_settime)
+        resolve();
     struct itimerspec shifted = *value;
     const int is_set = value->it_value.tv_sec != 0 || value->it_value.tv_nsec != 0;
     /* Only wall-clock timers are cancelled when the clock is set. */
     if (is_set && (flags & TFD_TIMER_ABSTIME) && (flags & TFD_TIMER_CANCEL_ON_SET))
         add_ns(&shifted.it_value, -shift_ns());
-    return real(fd, flags, &shifted, old);
+    return real_settime(fd, flags, &shifted, old);
 }
