@@ -2,7 +2,6 @@
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
-
 #include <unicode/unistr.h>
 
 #include <memory>

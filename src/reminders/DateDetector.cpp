@@ -74,33 +74,32 @@ int countTelling(const QList<DateToken> &tokens, ReminderLanguage language)
     }));
 }
 
+struct Candidate {
+    ReminderLanguage language;
+    int words = 0; ///< of the draft, that speak for it
+};
+
 /// The languages that may understand a draft: the one it seems to be in and those for which as many words
 /// speak, the best founded first. Where no word speaks for any and there are numbers, all that could explain
 /// them.
-QList<ReminderLanguage> candidates(const QList<DateToken> &tokens, ReminderLanguage seeming)
+QList<Candidate> candidates(const QList<DateToken> &tokens, ReminderLanguage seeming)
 {
     const int own = countTelling(tokens, seeming);
     const bool hasNumbers = std::any_of(
         tokens.begin(), tokens.end(), [](const DateToken &token) { return token.type == Type::Number; });
-    struct Evidence {
-        ReminderLanguage language;
-        int words = 0;
-    };
-    QList<Evidence> evidence;
+    QList<Candidate> others;
     for (const ReminderLanguage language : languages) {
         const bool isSame = &Languages::rules(language) == &Languages::rules(seeming);
         if (isSame || (isEastAsian(language) && !mayBeEither(seeming, language, tokens)))
             continue;
         const int words = countTelling(tokens, language);
         if (words >= own && (words > 0 || hasNumbers))
-            evidence.append({language, words});
+            others.append({language, words});
     }
-    std::stable_sort(evidence.begin(), evidence.end(),
-        [](const Evidence &a, const Evidence &b) { return a.words > b.words; });
-    QList<ReminderLanguage> all{seeming};
-    for (const Evidence &of : std::as_const(evidence))
-        all.append(of.language);
-    return all;
+    std::stable_sort(others.begin(), others.end(),
+        [](const Candidate &a, const Candidate &b) { return a.words > b.words; });
+    others.prepend({seeming, own});
+    return others;
 }
 
 bool hasWord(QStringView text)
@@ -137,10 +136,10 @@ QList<DateDetection> DateDetector::detectDates(QStringView text) const
     const Calendar &calendar = m_clock.calendar();
     QList<DateDetection> best;
     const ReminderLanguage seeming = LanguageDetection::detect(text);
-    for (const ReminderLanguage language : candidates(tokens, seeming)) {
+    for (const auto &[language, words] : candidates(tokens, seeming)) {
         QList<DateDetection> detections = detected(text, tokens, language, now, calendar);
         // For a language that nothing speaks for, a date must do so itself: "um 3", not "3 h".
-        if (language != seeming && countTelling(tokens, language) == 0)
+        if (language != seeming && words == 0)
             detections.removeIf([](const DateDetection &detection) { return !hasWord(detection.text); });
         if (covered(detections) > covered(best))
             best = detections;

@@ -76,16 +76,8 @@ DateGrammar::DateGrammar(const DateWords &words, const std::vector<QStringView> 
     add(words.ordinals, Kind::Ordinal);
     if (words.joinsWeekdayAndPart) {
         for (const DateWords::Word &weekday : words.weekdays) {
-            for (const QStringView name : weekday.words.split(u'|')) {
-                for (const DateWords::PartWord &part : words.parts) {
-                    for (const QStringView partName : part.words.split(u'|')) {
-                        if (name.size() > 3 && !partName.contains(u'_')) {
-                            addPhrase(QString(name.toString() + partName.toString()),
-                                {Kind::WeekdayAndPart, weekday.value * partsInAWeekday + int(part.part)});
-                        }
-                    }
-                }
-            }
+            for (const DateWords::PartWord &part : words.parts)
+                addJoined(weekday, part);
         }
     }
     for (const auto &[alternatives, role] :
@@ -100,6 +92,18 @@ DateGrammar::DateGrammar(const DateWords &words, const std::vector<QStringView> 
         addRule(rule);
     for (const DateWords::Rule &rule : words.rules)
         addRule(rule);
+}
+
+void DateGrammar::addJoined(const DateWords::Word &weekday, const DateWords::PartWord &part)
+{
+    constexpr qsizetype longestAbbreviation = 3;
+    const Entry entry{Kind::WeekdayAndPart, weekday.value * partsInAWeekday + int(part.part)};
+    for (const QStringView name : weekday.words.split(u'|')) {
+        for (const QStringView partName : part.words.split(u'|')) {
+            if (name.size() > longestAbbreviation && !partName.contains(u'_'))
+                addPhrase(QString(name.toString() + partName.toString()), entry);
+        }
+    }
 }
 
 size_t DateGrammar::index(Entry entry)
@@ -180,41 +184,27 @@ int DateGrammar::literal(QStringView phrase)
 
 void DateGrammar::addRule(const DateWords::Rule &rule)
 {
-    static const QHash<QString, Slot> slots{
-        {QStringLiteral("hour"), Slot::Hour},
-        {QStringLiteral("minute"), Slot::Minute},
-        {QStringLiteral("mm"), Slot::TwoDigits},
-        {QStringLiteral("day"), Slot::Day},
-        {QStringLiteral("daydigits"), Slot::DayInDigits},
-        {QStringLiteral("monthnumber"), Slot::MonthNumber},
-        {QStringLiteral("month"), Slot::Month},
-        {QStringLiteral("year"), Slot::Year},
-        {QStringLiteral("n"), Slot::Count},
-        {QStringLiteral("unit"), Slot::Unit},
-        {QStringLiteral("weekday"), Slot::Weekday},
-        {QStringLiteral("relative"), Slot::Relative},
-        {QStringLiteral("part"), Slot::Part},
-        {QStringLiteral("ordinal"), Slot::Ordinal},
-        {QStringLiteral("weekdaypart"), Slot::WeekdayAndPart},
-        {QStringLiteral("until"), Slot::Until},
+    struct SlotKind {
+        Slot slot;
+        Kind kind;
     };
-    static const QHash<Slot, Kind> kinds{
-        {Slot::Hour, Kind::Number},
-        {Slot::Minute, Kind::Number},
-        {Slot::TwoDigits, Kind::Number},
-        {Slot::Day, Kind::Number},
-        {Slot::DayInDigits, Kind::Number},
-        {Slot::MonthNumber, Kind::Number},
-        {Slot::Month, Kind::Month},
-        {Slot::Year, Kind::Number},
-        {Slot::Count, Kind::Number},
-        {Slot::Unit, Kind::Unit},
-        {Slot::Weekday, Kind::Weekday},
-        {Slot::Relative, Kind::Relative},
-        {Slot::Part, Kind::Part},
-        {Slot::Ordinal, Kind::Ordinal},
-        {Slot::WeekdayAndPart, Kind::WeekdayAndPart},
-        {Slot::Until, Kind::Number},
+    static const QHash<QString, SlotKind> slots{
+        {QStringLiteral("hour"), {Slot::Hour, Kind::Number}},
+        {QStringLiteral("minute"), {Slot::Minute, Kind::Number}},
+        {QStringLiteral("mm"), {Slot::TwoDigits, Kind::Number}},
+        {QStringLiteral("day"), {Slot::Day, Kind::Number}},
+        {QStringLiteral("daydigits"), {Slot::DayInDigits, Kind::Number}},
+        {QStringLiteral("monthnumber"), {Slot::MonthNumber, Kind::Number}},
+        {QStringLiteral("month"), {Slot::Month, Kind::Month}},
+        {QStringLiteral("year"), {Slot::Year, Kind::Number}},
+        {QStringLiteral("n"), {Slot::Count, Kind::Number}},
+        {QStringLiteral("unit"), {Slot::Unit, Kind::Unit}},
+        {QStringLiteral("weekday"), {Slot::Weekday, Kind::Weekday}},
+        {QStringLiteral("relative"), {Slot::Relative, Kind::Relative}},
+        {QStringLiteral("part"), {Slot::Part, Kind::Part}},
+        {QStringLiteral("ordinal"), {Slot::Ordinal, Kind::Ordinal}},
+        {QStringLiteral("weekdaypart"), {Slot::WeekdayAndPart, Kind::WeekdayAndPart}},
+        {QStringLiteral("until"), {Slot::Until, Kind::Number}},
     };
     Rule compiled{{}, rule.facts, rule.strength};
     bool canBeFirst = true;
@@ -227,8 +217,9 @@ void DateGrammar::addRule(const DateWords::Rule &rule)
         if (part.startsWith(u'<')) {
             const QString name = part.sliced(1, part.size() - 2).toString();
             Q_ASSERT_X(slots.contains(name), "a rule of dates", qPrintable(name));
-            element.slot = slots.value(name);
-            indexes.push_back(index({kinds.value(element.slot), 0}));
+            const SlotKind &slot = *slots.constFind(name);
+            element.slot = slot.slot;
+            indexes.push_back(index({slot.kind, 0}));
         } else {
             for (const QStringView alternative : part.split(u'|')) {
                 element.literals.push_back(literal(alternative));

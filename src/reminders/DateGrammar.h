@@ -75,6 +75,7 @@ private:
 
     void addPhrase(QStringView phrase, Entry entry);
     void addPhrases(QStringView alternatives, Entry entry);
+    void addJoined(const DateWords::Word &weekday, const DateWords::PartWord &part);
     void addRule(const DateWords::Rule &rule);
     int literal(QStringView phrase);
     [[nodiscard]] static size_t index(Entry entry);

@@ -125,8 +125,11 @@ std::optional<Calendar::Day> resolveDay(const DateFacts &facts, Calendar::Day to
         return Calendar::Day(date + days(facts.unit == SpanUnit::Weeks ? 7 * count : count));
     }
     if (facts.monthEnd) {
-        const year_month month =
-            year_month(today.year(), today.month()) + months(facts.monthsAhead.value_or(0));
+        year_month month = year_month(today.year(), today.month()) + months(facts.monthsAhead.value_or(0));
+        if (facts.month) {
+            const bool isNextYear = std::chrono::month(unsigned(*facts.month)) < today.month();
+            month = (today.year() + years(isNextYear)) / std::chrono::month(unsigned(*facts.month));
+        }
         return Calendar::Day(month / last);
     }
     if (facts.relativeDay)

@@ -126,6 +126,8 @@ private Q_SLOTS:
         row(u"x on the 31st"_s, "2026-03-31T01:00:00Z");
         row(u"x 3月1日"_s, "2027-03-01T01:00:00Z");
         row(u"x in 12 months"_s, "2027-03-04T01:00:00Z");
+        row(u"五月底 交报告"_s, "2026-05-31T01:00:00Z");
+        row(u"二月底下午3点 交报告"_s, "2027-02-28T07:00:00Z");
         row(u"x at midnight"_s, "2026-03-04T16:00:00Z");
         row(u"Friday party at midnight"_s, "2026-03-06T16:00:00Z"); // the midnight that ends it
     }

@@ -40,7 +40,7 @@ DateWords dates()
                 {u"明年 <monthnumber> 月 <day> 日|号|號?"},
                 {u"<monthnumber> 月 <day> 日|号|號"},
                 {u"<monthnumber> / <day>", {}, WithNeighbour},
-                {u"<monthnumber> 月 底|末", {.monthEnd = 1}, WithNeighbour},
+                {u"<monthnumber> 月 底|末", {.monthEnd = 1}},
                 {u"下个月|下月 <day> 日|号|號", {.monthsAhead = 1}},
                 {u"这个月|本月 <day> 日|号|號", {.monthsAhead = 0}},
                 {u"<day> 号|號"},
