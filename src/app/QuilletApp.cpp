@@ -21,6 +21,7 @@ QuilletApp::QuilletApp(Start start)
     , m_delegate(m_notifications, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);
+    m_notes.setEmbeddingProvider(&m_embeddings);
     connect(&m_notifications, &DesktopNotificationCenter::authorizationChanged, &m_reminders,
         &ReminderStore::refreshAuthorizationStatus);
 

@@ -10,6 +10,7 @@
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "reminders/DateDetector.h"
+#include "search/ConceptEmbeddingProvider.h"
 
 #include <QObject>
 
@@ -30,6 +31,7 @@ private:
     SystemClock m_clock;
     DateDetector m_dateDetector;
     PageTitleFetcher m_titles;
+    ConceptEmbeddingProvider m_embeddings;
     DesktopNotificationCenter m_notifications;
     // What is owned
     ReminderStore m_reminders;

@@ -1,11 +1,14 @@
 #include "foundation/Characters.h"
 
 #include <unicode/brkiter.h>
+#include <unicode/uchar.h>
+#include <unicode/utf16.h>
 
 #include <algorithm>
 #include <memory>
 
-TextRange Characters::at(QStringView text, qsizetype position)
+namespace {
+icu::BreakIterator &boundaries()
 {
     static const std::unique_ptr<icu::BreakIterator> iterator = [] {
         UErrorCode status = U_ZERO_ERROR;
@@ -13,14 +16,54 @@ TextRange Characters::at(QStringView text, qsizetype position)
         Q_ASSERT(U_SUCCESS(status));
         return std::unique_ptr<icu::BreakIterator>(made);
     }();
+    return *iterator;
+}
+} // namespace
+
+TextRange Characters::at(QStringView text, qsizetype position)
+{
     constexpr qsizetype longest = 256; // no character that people write is longer
     const qsizetype from = std::max<qsizetype>(0, position - longest);
     const QStringView window = text.sliced(from, std::min(text.size(), position + longest) - from);
     const icu::UnicodeString source(
         false, reinterpret_cast<const char16_t *>(window.utf16()), int32_t(window.size()));
-    iterator->setText(source);
-    const int32_t end = iterator->following(int32_t(position - from));
-    return {from + iterator->previous(), from + end};
+    boundaries().setText(source);
+    const int32_t end = boundaries().following(int32_t(position - from));
+    return {from + boundaries().previous(), from + end};
+}
+
+QList<TextRange> Characters::all(QStringView text)
+{
+    const icu::UnicodeString source(
+        false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()));
+    boundaries().setText(source);
+    QList<TextRange> ranges;
+    int32_t start = boundaries().first();
+    for (int32_t end = boundaries().next(); end != icu::BreakIterator::DONE; end = boundaries().next()) {
+        ranges.append({start, end});
+        start = end;
+    }
+    return ranges;
+}
+
+bool Characters::areSingleCodePoints(QStringView text)
+{
+    const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
+    for (qsizetype i = 0; i < text.size();) {
+        UChar32 codePoint = 0;
+        U16_NEXT(units, i, text.size(), codePoint);
+        if (codePoint < 0x300 && codePoint != 0xAD && codePoint != u'\r')
+            continue;
+        switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
+        case U_GCB_OTHER:
+        case U_GCB_LV:
+        case U_GCB_LVT:
+            continue;
+        default:
+            return false;
+        }
+    }
+    return true;
 }
 
 QStringView Characters::trimmedOfBlanks(QStringView text)

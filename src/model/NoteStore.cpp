@@ -1,6 +1,5 @@
 #include "model/NoteStore.h"
 
-#include "foundation/CaseFolding.h"
 #include "foundation/Characters.h"
 #include "foundation/Log.h"
 #include "model/AppPaths.h"
@@ -55,6 +54,12 @@ void NoteStore::setReminderStore(ReminderStore *store)
     m_reminderStore = store;
 }
 
+void NoteStore::setEmbeddingProvider(SentenceEmbeddingProviding *provider)
+{
+    m_embeddingProvider = provider;
+    m_search.forgetVectorless();
+}
+
 void NoteStore::load()
 {
     m_files.recover();
@@ -74,6 +79,7 @@ void NoteStore::load()
 void NoteStore::publishAndSave()
 {
     m_tagSummaries.reset();
+    m_isIndexUpToDate = false;
     Q_EMIT notesChanged();
     const auto encoded = [](const QList<Note> &notes) -> ByteSource {
         return [&notes](const ByteSink &sink) { noteEncoder::encode(notes, sink); };
@@ -85,7 +91,15 @@ void NoteStore::publishAndSave()
 
 void NoteStore::dropDerived(QUuid id)
 {
-    m_foldedTexts.drop(id);
+    m_search.dropText(id);
+    m_search.dropVector(id);
+}
+
+void NoteStore::tagDidChange(const QList<Note> &list, QUuid id)
+{
+    m_search.dropText(id);
+    if (&list == &m_notes)
+        m_search.dropVector(id); // a note in the trash keeps the one it had
 }
 
 std::optional<Note> NoteStore::note(QUuid id) const
@@ -244,7 +258,7 @@ void NoteStore::renameTag(const QString &from, const QString &to)
             if (TagEditing::occurrences(from, note.text) == 0)
                 continue;
             note.text = TagEditing::replacingTag(note.text, from, name);
-            dropDerived(note.id);
+            tagDidChange(*list, note.id);
             hasChanged = true;
         }
     }
@@ -263,7 +277,7 @@ void NoteStore::removeTag(const QString &tag)
             const bool holdsTag = TagEditing::occurrences(tag, note.text) > 0;
             if (holdsTag) {
                 note.text = TagEditing::removingTag(note.text, tag);
-                dropDerived(note.id);
+                tagDidChange(notes, note.id);
                 hasChanged = true;
             }
             (holdsTag && note.text.isEmpty() ? emptied : kept).append(note);
@@ -306,12 +320,18 @@ QList<DaySection> NoteStore::daySections(const QString &query) const
     const QString trimmed = query.trimmed();
     if (trimmed.isEmpty())
         return groupByDay(m_notes, m_clock.calendar());
-    const QString folded = CaseFolding::folded(trimmed);
+    bringIndexUpToDate();
     QList<Note> found;
-    for (const Note &note : m_notes) {
-        if (m_foldedTexts.contains(note.id, note.text, folded))
-            found.append(note);
-    }
+    for (const qsizetype place : m_search.texts.containing(trimmed))
+        found.append(m_notes[place]);
+    return groupByDay(found, m_clock.calendar());
+}
+
+QList<DaySection> NoteStore::daySections(const QList<SemanticHit> &hits) const
+{
+    QList<Note> found;
+    for (const SemanticHit &hit : hits)
+        found.append(hit.note);
     return groupByDay(found, m_clock.calendar());
 }
 
@@ -324,4 +344,73 @@ QList<DaySection> NoteStore::groupTrashByDay(QList<Note> trash, const Calendar &
 QList<DaySection> NoteStore::trashDaySections() const
 {
     return groupTrashByDay(m_trash, m_clock.calendar());
+}
+
+QList<SemanticCandidate> NoteStore::candidates() const
+{
+    QList<SemanticCandidate> texts;
+    texts.reserve(m_notes.size());
+    for (const Note &note : m_notes)
+        texts.append({note.id, note.text});
+    return texts;
+}
+
+void NoteStore::bringIndexUpToDate() const
+{
+    if (!m_isIndexUpToDate)
+        m_search.setOrder(candidates());
+    m_isIndexUpToDate = true;
+}
+
+std::optional<SemanticSearch::Vector> NoteStore::vector(const Note &note) const
+{
+    if (m_embeddingProvider)
+        m_search.makeVector({note.id, note.text}, *m_embeddingProvider);
+    return m_search.vectors.vector(note.id);
+}
+
+QList<SemanticHit> NoteStore::semanticMatches(const QString &query, qsizetype limit) const
+{
+    const QString trimmed = query.trimmed();
+    if (trimmed.isEmpty())
+        return {};
+    bringIndexUpToDate();
+    QList<SemanticHit> found;
+    for (const qsizetype place : m_search.texts.containing(trimmed))
+        found.append({m_notes[place], SemanticHitKind::Substring});
+    if (!found.isEmpty())
+        return found.first(std::clamp<qsizetype>(limit, 0, found.size()));
+    const auto search = beginRankedSearch(trimmed, limit);
+    search->advance();
+    return hits(*search);
+}
+
+std::unique_ptr<RankedSearch> NoteStore::beginRankedSearch(const QString &query, qsizetype limit) const
+{
+    bringIndexUpToDate();
+    constexpr qsizetype semanticOnlyCap = 2;
+    return std::make_unique<RankedSearch>(m_search, m_embeddingProvider, candidates(),
+        RankedSearch::Request{query,
+            m_embeddingProvider ? m_embeddingProvider->sentenceVector(query.trimmed()) : std::nullopt, limit,
+            semanticOnlyCap, {}});
+}
+
+QList<SemanticHit> NoteStore::hits(const RankedSearch &search) const
+{
+    QList<SemanticHit> found;
+    for (const RankedSearch::Match &match : search.matches())
+        found.append({m_notes[match.place], match.score.kind});
+    return found;
+}
+
+QList<Note> NoteStore::relatedNotes(const Note &note, qsizetype limit) const
+{
+    bringIndexUpToDate();
+    RankedSearch search(m_search, m_embeddingProvider, candidates(),
+        {note.text, vector(note), limit, 0, note.id});
+    search.advance();
+    QList<Note> related;
+    for (const RankedSearch::Match &match : search.matches())
+        related.append(m_notes[match.place]);
+    return related;
 }

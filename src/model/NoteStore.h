@@ -4,15 +4,17 @@
 #include "model/DataFiles.h"
 #include "model/DaySection.h"
 #include "model/Note.h"
+#include "model/SemanticHit.h"
 #include "model/TagSummary.h"
 #include "reminders/ParsedReminder.h"
-#include "search/FoldedTextIndex.h"
+#include "search/RankedSearch.h"
 
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QUuid>
 
+#include <memory>
 #include <optional>
 
 class ReminderStore;
@@ -33,6 +35,8 @@ public:
     [[nodiscard]] static QString defaultFilePath();
     /// Without one, reminder work is skipped.
     void setReminderStore(ReminderStore *store);
+    /// Without one, notes are related by their words alone. It must outlive the store.
+    void setEmbeddingProvider(SentenceEmbeddingProviding *provider);
 
     [[nodiscard]] const QList<Note> &notes() const { return m_notes; } ///< newest first
     [[nodiscard]] const QList<Note> &trash() const { return m_trash; } ///< the last deleted first
@@ -68,7 +72,21 @@ public:
     [[nodiscard]] static QList<DaySection> groupTrashByDay(QList<Note> trash, const Calendar &calendar);
     /// The live notes that contain the query, case aside; all of them when it is blank.
     [[nodiscard]] QList<DaySection> daySections(const QString &query) const;
+    /// By the day of the notes, in the order of the hits.
+    [[nodiscard]] QList<DaySection> daySections(const QList<SemanticHit> &hits) const;
     [[nodiscard]] QList<DaySection> trashDaySections() const;
+
+    /// The live notes that contain the query, the newest first; where there are none, those that resemble it,
+    /// the best first.
+    [[nodiscard]] QList<SemanticHit> semanticMatches(const QString &query, qsizetype limit) const;
+    /// The second half of semanticMatches(), to be worked out in slices. It ends with the next change of the
+    /// notes.
+    [[nodiscard]] std::unique_ptr<RankedSearch> beginRankedSearch(const QString &query, qsizetype limit) const;
+    [[nodiscard]] QList<SemanticHit> hits(const RankedSearch &search) const;
+    /// The other live notes that share words or pairs of characters with this one, the best first.
+    [[nodiscard]] QList<Note> relatedNotes(const Note &note, qsizetype limit) const;
+    /// The notes whose sentence vector is kept.
+    [[nodiscard]] QList<QUuid> cachedVectors() const { return m_search.vectors.ids(); }
 
 Q_SIGNALS:
     void notesChanged(); ///< notes or trash have changed and are about to be saved
@@ -76,13 +94,19 @@ Q_SIGNALS:
 private:
     void load();
     void publishAndSave();
-    void dropDerived(QUuid id); ///< what is kept about a note's text
+    void dropDerived(QUuid id); ///< what is kept about a note's text, its vector included
+    void tagDidChange(const QList<Note> &list, QUuid id);
+    [[nodiscard]] QList<SemanticCandidate> candidates() const;
+    void bringIndexUpToDate() const;
+    [[nodiscard]] std::optional<SemanticSearch::Vector> vector(const Note &note) const;
 
     DataFiles m_files;
     const Clock &m_clock;
     QPointer<ReminderStore> m_reminderStore;
     QList<Note> m_notes;
     QList<Note> m_trash;
-    mutable FoldedTextIndex m_foldedTexts;
+    SentenceEmbeddingProviding *m_embeddingProvider = nullptr;
+    mutable SearchIndex m_search;
+    mutable bool m_isIndexUpToDate = false;
     mutable std::optional<QList<TagSummary>> m_tagSummaries; ///< nothing when to be counted anew
 };

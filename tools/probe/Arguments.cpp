@@ -74,6 +74,19 @@ QJsonValue Answer::orNull(const std::optional<QString> &text)
     return text ? QJsonValue(*text) : QJsonValue();
 }
 
+QString Answer::kindName(SemanticHitKind kind)
+{
+    switch (kind) {
+    case SemanticHitKind::Substring:
+        return QStringLiteral("substring");
+    case SemanticHitKind::Lexical:
+        return QStringLiteral("lexical");
+    case SemanticHitKind::SemanticOnly:
+        return QStringLiteral("semanticOnly");
+    }
+    return {};
+}
+
 QString Answer::languageName(ReminderLanguage language)
 {
     return QString::fromLatin1(languageNames[size_t(language)]);
@@ -179,6 +192,28 @@ ReminderLanguage Arguments::language()
     }
     fail(QStringLiteral("\"language\" is none of the thirteen"));
     return ReminderLanguage::English;
+}
+
+QList<double> Arguments::numbers(const QString &key)
+{
+    QList<double> numbers;
+    for (const QJsonValue &element : array(key)) {
+        if (!element.isDouble())
+            fail(QStringLiteral("\"%1\" must be an array of numbers").arg(key));
+        numbers.append(element.toDouble());
+    }
+    return numbers;
+}
+
+QHash<QString, QList<double>> Arguments::numbersByName(const QString &key)
+{
+    QHash<QString, QList<double>> lists;
+    Arguments of(object(key));
+    for (const QString &name : of.m_object.keys())
+        lists.insert(name, of.numbers(name));
+    if (!of.isGood())
+        fail(of.error());
+    return lists;
 }
 
 QList<Note> Arguments::notes()

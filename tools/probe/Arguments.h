@@ -4,7 +4,9 @@
 #include "foundation/Instant.h"
 #include "model/Note.h"
 #include "reminders/ReminderLanguage.h"
+#include "search/SemanticSearch.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
@@ -41,6 +43,8 @@ public:
     [[nodiscard]] bool hasLanguage() const { return has(QStringLiteral("language")); }
     QList<Note> notes();
     QStringList texts(const QString &key);
+    QList<double> numbers(const QString &key);
+    QHash<QString, QList<double>> numbersByName(const QString &key); ///< from an object of arrays
 
     Instant now(); ///< the real time when absent
     Calendar calendar();
@@ -62,6 +66,7 @@ namespace Answer {
 [[nodiscard]] QJsonArray notes(const QList<Note> &notes);
 [[nodiscard]] QJsonValue orNull(const std::optional<QString> &text);
 [[nodiscard]] QString languageName(ReminderLanguage language);
+[[nodiscard]] QString kindName(SemanticHitKind kind);
 } // namespace Answer
 
 /// "2026-03-02T02:00:00Z", also with a fraction of a second.

@@ -51,6 +51,19 @@ private:
     const Clock &m_clock;
 };
 
+/// Knows the vectors of the texts that it is told.
+class ProbeEmbeddings final : public SentenceEmbeddingProviding
+{
+public:
+    std::optional<QList<double>> sentenceVector(const QString &text) override
+    {
+        const auto found = vectors.constFind(text);
+        return found == vectors.cend() ? std::nullopt : std::optional(*found);
+    }
+
+    QHash<QString, QList<double>> vectors;
+};
+
 QJsonObject answer(const Reminder &reminder)
 {
     return {{u"id"_s, Answer::uuid(reminder.id)}, {u"noteID"_s, Answer::uuid(reminder.noteID)},
@@ -116,6 +129,10 @@ public:
             {u"noteCount"_s, &StoreSession::noteCount},
             {u"renameTag"_s, &StoreSession::renameTag},
             {u"removeTag"_s, &StoreSession::removeTag},
+            {u"semanticMatches"_s, &StoreSession::semanticMatches},
+            {u"relatedNotes"_s, &StoreSession::relatedNotes},
+            {u"setVectors"_s, &StoreSession::setVectors},
+            {u"cachedVectors"_s, &StoreSession::cachedVectors},
             {u"schedule"_s, &StoreSession::schedule},
             {u"cancel"_s, &StoreSession::cancel},
             {u"cancelNote"_s, &StoreSession::cancelNote},
@@ -153,6 +170,7 @@ private:
         m_reminders = std::make_unique<ReminderStore>(m_folder + u"/reminders.json"_s, m_scheduler, m_clock);
         m_notes = std::make_unique<NoteStore>(m_folder + u"/notes.json"_s, m_clock);
         m_notes->setReminderStore(m_reminders.get());
+        m_notes->setEmbeddingProvider(m_embeddings.get());
     }
 
     QUuid id(Arguments &step, const QString &key = u"id"_s)
@@ -264,6 +282,50 @@ private:
             m_notes->removeTag(tag);
         return {};
     }
+    QJsonValue semanticMatches(Arguments &step)
+    {
+        const QString query = step.text(u"query"_s);
+        const qsizetype limit = step.integer(u"limit"_s);
+        QJsonArray answers;
+        if (!step.isGood())
+            return {};
+        for (const SemanticHit &hit : m_notes->semanticMatches(query, limit)) {
+            answers.append(
+                QJsonObject{{u"id"_s, Answer::uuid(hit.note.id)}, {u"kind"_s, Answer::kindName(hit.kind)}});
+        }
+        return answers;
+    }
+    QJsonValue relatedNotes(Arguments &step)
+    {
+        const auto note = anyNote(id(step));
+        const qsizetype limit = step.integer(u"limit"_s);
+        if (!note)
+            step.fail(u"\"id\" names no note"_s);
+        if (!step.isGood())
+            return {};
+        QJsonArray answers;
+        for (const Note &related : m_notes->relatedNotes(*note, limit))
+            answers.append(Answer::uuid(related.id));
+        return answers;
+    }
+    QJsonValue setVectors(Arguments &step)
+    {
+        const auto vectors = step.numbersByName(u"vectors"_s);
+        if (!step.isGood())
+            return {};
+        m_embeddings = std::make_unique<ProbeEmbeddings>();
+        m_embeddings->vectors = vectors;
+        m_notes->setEmbeddingProvider(m_embeddings.get());
+        return {};
+    }
+    QJsonValue cachedVectors(Arguments &)
+    {
+        QStringList ids;
+        for (const QUuid id : m_notes->cachedVectors())
+            ids.append(Answer::uuid(id));
+        ids.sort();
+        return QJsonArray::fromStringList(ids);
+    }
     QJsonValue schedule(Arguments &step)
     {
         const QUuid noteID = id(step, u"noteID"_s);
@@ -324,6 +386,7 @@ private:
     QString m_folder;
     FixedClock m_clock;
     ProbeScheduler m_scheduler;
+    std::unique_ptr<ProbeEmbeddings> m_embeddings;
     std::unique_ptr<ReminderStore> m_reminders;
     std::unique_ptr<NoteStore> m_notes;
     QHash<QString, QUuid> m_names;

@@ -37,6 +37,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QHash<QString, Operation> operations = reminderOperations();
     operations.insert(textOperations());
+    operations.insert(searchOperations());
     operations.insert(storeOperations());
 
     std::ios::sync_with_stdio(false);

@@ -1,0 +1,98 @@
+#include "search/VectorCache.h"
+
+#include <cmath>
+
+namespace {
+// Zeros add nothing to a sum of products, so that what is left out changes no bit of a result.
+double norm(const SemanticSearch::Vector &vector)
+{
+    double sum = 0;
+    for (const double value : vector)
+        sum += value * value;
+    return std::sqrt(sum);
+}
+} // namespace
+
+void VectorCache::insert(QUuid id, const Vector &vector)
+{
+    remove(id);
+    constexpr size_t littleWaste = 65536;
+    if (m_dead > littleWaste && m_dead > m_values.size() / 2)
+        dropDead();
+    Entry entry{m_values.size(), 0, quint32(vector.size()), norm(vector)};
+    for (qsizetype axis = 0; axis < vector.size(); ++axis) {
+        if (vector[axis] != 0.0) {
+            m_axes.push_back(quint32(axis));
+            m_values.push_back(vector[axis]);
+            ++entry.count;
+        }
+    }
+    m_entries.insert(id, entry);
+}
+
+void VectorCache::remove(QUuid id)
+{
+    const auto found = m_entries.constFind(id);
+    if (found == m_entries.cend())
+        return;
+    m_dead += found->count;
+    m_entries.erase(found);
+}
+
+void VectorCache::dropDead()
+{
+    std::vector<quint32> axes;
+    std::vector<double> values;
+    for (Entry &entry : m_entries) {
+        const auto begin = qsizetype(entry.begin);
+        entry.begin = values.size();
+        axes.insert(axes.end(), m_axes.begin() + begin, m_axes.begin() + begin + entry.count);
+        values.insert(values.end(), m_values.begin() + begin, m_values.begin() + begin + entry.count);
+    }
+    m_axes = std::move(axes);
+    m_values = std::move(values);
+    m_dead = 0;
+}
+
+std::optional<VectorCache::Vector> VectorCache::vector(QUuid id) const
+{
+    const auto sparse = find(id);
+    if (!sparse)
+        return std::nullopt;
+    Vector vector(sparse->dimension, 0.0);
+    for (size_t i = 0; i < sparse->axes.size(); ++i)
+        vector[sparse->axes[i]] = sparse->values[i];
+    return vector;
+}
+
+std::optional<SparseVector> VectorCache::find(QUuid id) const
+{
+    const auto found = m_entries.constFind(id);
+    if (found == m_entries.cend())
+        return std::nullopt;
+    return SparseVector{std::span(m_axes).subspan(found->begin, found->count),
+        std::span(m_values).subspan(found->begin, found->count), found->dimension, found->norm};
+}
+
+qsizetype VectorCache::memory() const
+{
+    return qsizetype(m_axes.capacity() * sizeof(quint32) + m_values.capacity() * sizeof(double)
+                     + size_t(m_entries.capacity()) * (sizeof(QUuid) + sizeof(Entry) + 1));
+}
+
+VectorQuery::VectorQuery(SemanticSearch::Vector vector)
+    : m_vector(std::move(vector))
+    , m_norm(norm(m_vector))
+{
+}
+
+std::optional<double> VectorQuery::cosine(const SparseVector &other) const
+{
+    const double norms = m_norm * other.norm;
+    if (m_vector.size() != other.dimension || !(norms > 0))
+        return std::nullopt;
+    double dot = 0;
+    for (size_t i = 0; i < other.axes.size(); ++i)
+        dot += m_vector[other.axes[i]] * other.values[i];
+    return dot / norms;
+}
