@@ -45,10 +45,13 @@ quint64 pairsAmong(quint64 count)
 
 MedianCosine::MedianCosine(const std::vector<SparseVector> &vectors)
 {
+    if (const auto common = commonCosine(vectors)) {
+        m_value = *common;
+        m_isDone = true;
+        return;
+    }
     QHash<size_t, std::vector<size_t>> groupsByHash;
     for (const SparseVector &vector : vectors) {
-        if (vector.dimension == 0)
-            continue;
         std::vector<size_t> &alike = groupsByHash[hash(vector)];
         const auto known = std::find_if(
             alike.begin(), alike.end(), [&](size_t group) { return isSame(m_groups[group].vector, vector); });
@@ -59,51 +62,45 @@ MedianCosine::MedianCosine(const std::vector<SparseVector> &vectors)
             m_groups.push_back({vector, 1});
         }
     }
-    if (const auto common = commonCosine()) {
-        m_value = *common;
-        m_isDone = true;
-    } else {
-        beginPass(likelyWindow());
-    }
+    beginPass(likelyWindow());
 }
 
-std::optional<double> MedianCosine::commonCosine() const
+std::optional<double> MedianCosine::commonCosine(const std::vector<SparseVector> &vectors)
 {
-    if (m_groups.empty())
+    if (vectors.size() < 2)
         return std::nullopt;
-    const SparseVector &first = m_groups.front().vector;
-    quint64 total = 0;
-    QHash<quint32, quint64> countOfAxis;
-    for (const Group &group : m_groups) {
-        if (group.vector.dimension != first.dimension || group.vector.norm != first.norm)
-            return std::nullopt;
-        total += group.count;
-        for (const quint32 axis : group.vector.axes)
-            countOfAxis[axis] += group.count;
-    }
+    const SparseVector &first = vectors.front();
     const double norms = first.norm * first.norm;
     if (!(norms > 0))
         return std::nullopt;
-
-    // The cosine of two vectors that share only the axes which all have.
-    double dot = 0;
-    for (size_t i = 0; i < first.axes.size(); ++i) {
-        if (countOfAxis.value(first.axes[i]) != total)
-            continue;
-        for (const Group &group : m_groups) {
-            const auto place = std::ranges::lower_bound(group.vector.axes, first.axes[i]);
-            if (group.vector.values[size_t(place - group.vector.axes.begin())] != first.values[i])
-                return std::nullopt;
+    std::vector<quint64> countOfAxis(size_t(first.dimension));
+    std::vector<bool> isAlike(size_t(first.dimension), true); ///< all that have the axis have the first's value
+    std::vector<double> firstValues(size_t(first.dimension));
+    for (size_t i = 0; i < first.axes.size(); ++i)
+        firstValues[first.axes[i]] = first.values[i];
+    for (const SparseVector &vector : vectors) {
+        if (vector.dimension != first.dimension || vector.norm != first.norm)
+            return std::nullopt;
+        for (size_t i = 0; i < vector.axes.size(); ++i) {
+            const quint32 axis = vector.axes[i];
+            ++countOfAxis[axis];
+            if (vector.values[i] != firstValues[axis])
+                isAlike[axis] = false;
         }
-        dot += first.values[i] * first.values[i];
-        countOfAxis.remove(first.axes[i]);
     }
-    // Pairs that share several axes are counted several times here, so that there are at most so many.
+
+    // The cosine of two vectors that share only the axes which all have, and how many pairs share another
+    // one: at most so many, since a pair that shares several is counted several times.
+    double dot = 0;
     quint64 others = 0;
-    for (const quint64 count : countOfAxis)
-        others += pairsAmong(count);
-    const quint64 pairs = pairsAmong(total);
-    return pairs >= 1 && others < pairs && pairs - others >= pairs / 2 + 1 ? std::optional(dot / norms) : std::nullopt;
+    for (size_t axis = 0; axis < countOfAxis.size(); ++axis) {
+        if (countOfAxis[axis] == vectors.size() && isAlike[axis])
+            dot += firstValues[axis] * firstValues[axis];
+        else if (countOfAxis[axis] > 0)
+            others += pairsAmong(countOfAxis[axis]);
+    }
+    const quint64 pairs = pairsAmong(vectors.size());
+    return others < pairs && pairs - others >= pairs / 2 + 1 ? std::optional(dot / norms) : std::nullopt;
 }
 
 MedianCosine::Window MedianCosine::likelyWindow() const

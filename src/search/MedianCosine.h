@@ -34,7 +34,7 @@ private:
         double high;
     };
 
-    [[nodiscard]] std::optional<double> commonCosine() const;
+    [[nodiscard]] static std::optional<double> commonCosine(const std::vector<SparseVector> &vectors);
     [[nodiscard]] Window likelyWindow() const;
     void beginPass(Window window);
     void compareWithBlock(size_t other);

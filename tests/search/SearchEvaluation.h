@@ -1,0 +1,134 @@
+#pragma once
+
+#include "search/ConceptEmbeddingProvider.h"
+#include "search/RankedSearch.h"
+#include "support/TestFiles.h"
+
+#include <QStringList>
+
+/// How well a note is found by a query that means the same and shares no word and no pair of characters with
+/// it: each among 199 ordinary notes. The queries and notes are those under data/search/.
+namespace SearchEvaluation {
+struct Pair {
+    QString query;
+    QString note;
+};
+
+struct Score {
+    int pairs = 0;
+    int first = 0;       ///< no other note is as near to the query
+    int amongFive = 0;   ///< at most four are
+    int shown = 0;       ///< by the rules of the search
+    QStringList missed;  ///< queries whose note is not among the five
+};
+
+/// Two thirds of the pairs could be looked at while the concepts were written; the rest were kept for the end.
+enum class Part { Open, KeptBack, Later };
+
+inline QStringList lines(const QString &file)
+{
+    return QString::fromUtf8(readFile(QStringLiteral(SEARCH_DATA "/") + file)).split(u'\n', Qt::SkipEmptyParts);
+}
+
+inline QStringList scopes()
+{
+    return QStringLiteral("chinese english chinese-english languages").split(u' ');
+}
+
+inline QList<Pair> pairs(const QString &scope, Part part)
+{
+    const QStringList all = lines((part == Part::Later ? QStringLiteral("later-") : QStringLiteral("pairs-")) + scope + QStringLiteral(".txt"));
+    QList<Pair> chosen;
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        if (part == Part::Later || (i % 3 == 2) == (part == Part::KeptBack))
+            chosen.append({all[i].section(QStringLiteral(" | "), 0, 0), all[i].section(QStringLiteral(" | "), 1)});
+    }
+    return chosen;
+}
+
+/// From all over the file, which begins in Chinese and ends in other languages.
+inline QStringList haystack(qsizetype count)
+{
+    const QStringList all = lines(QStringLiteral("haystack.txt"));
+    QStringList chosen;
+    for (qsizetype i = 0; i < count; ++i)
+        chosen.append(all[i * all.size() / count]);
+    return chosen;
+}
+
+inline SentenceEmbeddingProviding &provider()
+{
+    static ConceptEmbeddingProvider provider;
+    return provider;
+}
+
+/// What the timeline would show: the notes by their places.
+inline std::vector<RankedSearch::Match> shown(SearchIndex &index, const QList<SemanticCandidate> &notes, const QString &query)
+{
+    if (!index.texts.containing(query).isEmpty())
+        return {};
+    RankedSearch search(index, &provider(), notes, {query, provider().sentenceVector(query), 20, 2, {}});
+    search.advance();
+    return search.matches();
+}
+
+inline QList<SemanticCandidate> candidates(const QStringList &texts)
+{
+    QList<SemanticCandidate> candidates;
+    for (const QString &text : texts)
+        candidates.append({QUuid::createUuid(), text});
+    return candidates;
+}
+
+inline Score evaluate(const QString &scope, Part part)
+{
+    const QList<SemanticCandidate> others = candidates(haystack(199));
+    SearchIndex index;
+    Score score;
+    for (const Pair &pair : pairs(scope, part)) {
+        ++score.pairs;
+        QList<SemanticCandidate> notes = others;
+        const qsizetype place = score.pairs * 71 % 200; // anywhere
+        const SemanticCandidate target{QUuid::createUuid(), pair.note};
+        notes.insert(place, target);
+        index.setOrder(notes);
+        for (const RankedSearch::Match &match : shown(index, notes, pair.query))
+            score.shown += match.place == place;
+
+        const auto query = provider().sentenceVector(pair.query);
+        int asNear = 0;
+        const auto cosine = [&](QUuid id) -> double {
+            const auto vector = index.vectors.find(id);
+            return query && vector ? VectorQuery(*query).cosine(*vector).value_or(0) : 0;
+        };
+        const double near = cosine(target.id);
+        for (const SemanticCandidate &other : others)
+            asNear += cosine(other.id) >= near;
+        score.first += asNear < 1;
+        score.amongFive += asNear < 5;
+        if (asNear >= 5)
+            score.missed.append(pair.query + QStringLiteral(" | ") + pair.note);
+        index.dropText(target.id);
+        index.dropVector(target.id);
+    }
+    return score;
+}
+
+/// The queries about nothing in the haystack for which a note is shown for its meaning.
+inline QStringList falseAlarms()
+{
+    const QList<SemanticCandidate> notes = candidates(haystack(200));
+    SearchIndex index;
+    index.setOrder(notes);
+    QStringList alarms;
+    for (const QString &query : lines(QStringLiteral("unrelated.txt"))) {
+        const auto matches = shown(index, notes, query);
+        const bool isMeant = std::any_of(matches.begin(), matches.end(), [](const RankedSearch::Match &match) {
+            return match.score.kind == SemanticHitKind::SemanticOnly;
+        });
+        if (isMeant)
+            alarms.append(query);
+    }
+    return alarms;
+}
+} // namespace SearchEvaluation
