@@ -19,6 +19,7 @@ inline constexpr int topBarHeight = 36;
 inline constexpr int headerHeight = 28;
 inline constexpr int timeColumn = 44;
 inline constexpr int rowPadding = 6;
+inline constexpr int markerHeight = 16; ///< a remark below a note's text
 inline constexpr int symbolSize = 14;
 inline constexpr int fieldHeight = 32;
 inline constexpr int barHeight = 28;

@@ -6,6 +6,7 @@
 #include "ui/Design.h"
 #include "ui/NoteRowView.h"
 #include "ui/PanelState.h"
+#include "ui/RelatedNotesView.h"
 #include "ui/SlimScrollBar.h"
 #include "ui/TimelineModel.h"
 
@@ -110,11 +111,19 @@ void NoteListView::contextMenuEvent(QContextMenuEvent *event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
     menu->addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
-    if (m_reminders.hasReminder(note.id)) {
-        menu->addSeparator();
+    menu->addSeparator();
+    if (m_reminders.hasReminder(note.id))
         menu->addAction(L10n::text("取消提醒"), this, [this, note] { m_reminders.cancelForNote(note.id); });
-    }
+    menu->addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
     menu->popup(event->globalPos());
+}
+
+void NoteListView::showRelated(const Note &note)
+{
+    const QRect row = visualRect(m_timeline.indexOf(note.id));
+    auto *related = new RelatedNotesView(m_notes, note, this);
+    connect(related, &RelatedNotesView::selected, this, [this](QUuid id) { scrollAndFlash(id, false); });
+    related->popUp({viewport()->mapToGlobal(row.topLeft()), row.size()});
 }
 
 // Jumps

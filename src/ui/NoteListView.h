@@ -11,6 +11,7 @@ class NoteStore;
 class PanelState;
 class QVariantAnimation;
 class ReminderStore;
+struct Note;
 class TimelineModel;
 
 /// The timeline: rows of differing height, measured when they come into view and estimated before.
@@ -51,6 +52,7 @@ protected:
 private:
     void queryDidChange();
     void beginEditing(QUuid noteID);
+    void showRelated(const Note &note);
     void jumpToExternalTarget();
     void setFlashID(std::optional<QUuid> id);
 

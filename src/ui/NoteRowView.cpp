@@ -6,7 +6,6 @@
 #include "text/NoteFormatting.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
-#include "ui/RowLayout.h"
 #include "ui/Symbol.h"
 #include "ui/TimelineModel.h"
 
@@ -24,12 +23,14 @@ NoteRowView::NoteRowView(const TimelineModel &model, QObject *parent)
 
 NoteRowView::~NoteRowView() = default;
 
-const RowLayout &NoteRowView::layout(const Note &note, int width, const QPalette &palette) const
+const RowLayout &NoteRowView::layout(const TimelineRow &row, int width, const QPalette &palette) const
 {
-    const LayoutKey key{note.id, note.text, m_model.query(), width, NoteStyle::isDark(palette)};
+    const LayoutKey key{row.note->id,
+        {row.note->text, m_model.query(), row.isSemanticOnly ? L10n::text("仅供参考") : QString()}, width,
+        NoteStyle::isDark(palette)};
     if (const RowLayout *kept = m_layouts.object(key))
         return *kept;
-    auto *made = new RowLayout(note.text, m_model.query(), width, palette);
+    auto *made = new RowLayout(key.content, width, palette);
     m_layouts.insert(key, made); // which takes it, and drops one not used for long
     return *made;
 }
@@ -40,7 +41,7 @@ QSize NoteRowView::sizeHint(const QStyleOptionViewItem &option, const QModelInde
     const int width = option.rect.width();
     if (!row.note)
         return {width, Design::headerHeight};
-    return {width, layout(*row.note, width, option.palette).height()};
+    return {width, layout(row, width, option.palette).height()};
 }
 
 void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -52,8 +53,7 @@ void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, c
         painter->setFont(NoteStyle::headerFont());
         painter->setPen(NoteStyle::metaColor(palette));
         painter->drawText(option.rect.adjusted(Design::edge, 0, -Design::edge, 0),
-            Qt::AlignVCenter | Qt::TextSingleLine,
-            NoteFormatting::dayTitle(row.day, m_model.clock().now(), calendar));
+            Qt::AlignVCenter | Qt::TextSingleLine, index.data().toString());
         return;
     }
 
@@ -62,12 +62,14 @@ void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, c
         painter->fillRect(
             option.rect, note.id == m_flashID ? NoteStyle::flash(palette) : NoteStyle::editing(palette));
     }
-    const RowLayout &parts = layout(note, option.rect.width(), palette);
+    const RowLayout &parts = layout(row, option.rect.width(), palette);
     const QPoint origin = option.rect.topLeft();
     painter->setFont(NoteStyle::quoteFont());
     painter->setPen(NoteStyle::metaColor(palette));
     painter->drawText(parts.timeRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
         NoteFormatting::timeString(note.createdAt, calendar));
+    painter->drawText(parts.markerRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
+        parts.content().marker);
     if (row.hasReminder) {
         Symbol::paint(*painter, parts.symbolRect().translated(origin), QStringLiteral("bell"),
             NoteStyle::metaColor(palette));

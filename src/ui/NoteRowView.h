@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/RowLayout.h"
+
 #include <QCache>
 #include <QPalette>
 #include <QStyledItemDelegate>
@@ -7,9 +9,8 @@
 
 #include <optional>
 
-class RowLayout;
 class TimelineModel;
-struct Note;
+struct TimelineRow;
 
 /// Paints the rows of the timeline: day headers and notes.
 class NoteRowView final : public QStyledItemDelegate
@@ -35,17 +36,16 @@ private:
     /// What a note's layout follows from.
     struct LayoutKey {
         QUuid note;
-        QString text;
-        QString query;
+        RowContent content;
         int width = 0;
         bool isDark = false;
         bool operator==(const LayoutKey &) const = default;
     };
     friend size_t qHash(const LayoutKey &key, size_t seed = 0)
     {
-        return qHashMulti(seed, key.note, key.query, key.width);
+        return qHashMulti(seed, key.note, key.content.query, key.width);
     }
-    [[nodiscard]] const RowLayout &layout(const Note &note, int width, const QPalette &palette) const;
+    [[nodiscard]] const RowLayout &layout(const TimelineRow &row, int width, const QPalette &palette) const;
 
     const TimelineModel &m_model;
     /// Of the rows in view and near it: breaking a text into lines takes longer than painting it.

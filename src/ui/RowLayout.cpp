@@ -28,9 +28,10 @@ QList<QTextLayout::FormatRange> colours(const QString &text, const QString &quer
 }
 } // namespace
 
-RowLayout::RowLayout(const QString &text, const QString &query, int width, const QPalette &palette)
+RowLayout::RowLayout(const RowContent &content, int width, const QPalette &palette)
+    : m_content(content)
     // A text that came from elsewhere may have lines of its own.
-    : m_text(QString(text).replace(u'\n', QChar::LineSeparator), NoteStyle::font())
+    , m_text(QString(content.text).replace(u'\n', QChar::LineSeparator), NoteStyle::font())
 {
     const int textLeft = Design::edge + Design::timeColumn;
     const int textWidth = std::max(1, width - textLeft - Design::edge - Design::symbolSize - Design::grid);
@@ -38,7 +39,7 @@ RowLayout::RowLayout(const QString &text, const QString &query, int width, const
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_text.setTextOption(option);
-    m_text.setFormats(colours(text, query, palette));
+    m_text.setFormats(colours(content.text, content.query, palette));
     m_text.beginLayout();
     qreal y = Design::rowPadding;
     int firstLine = 0;
@@ -51,6 +52,10 @@ RowLayout::RowLayout(const QString &text, const QString &query, int width, const
     }
     m_text.endLayout();
 
+    if (!content.marker.isEmpty()) {
+        m_markerRect = {textLeft, int(y), textWidth, Design::markerHeight};
+        y += Design::markerHeight;
+    }
     m_height = int(y) + Design::rowPadding;
     m_timeRect = {Design::edge, Design::rowPadding, Design::timeColumn, firstLine};
     m_symbolRect = {width - Design::edge - Design::symbolSize,

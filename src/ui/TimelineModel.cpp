@@ -3,6 +3,7 @@
 #include "foundation/Clock.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
+#include "text/L10n.h"
 #include "text/NoteFormatting.h"
 
 #include <QSet>
@@ -10,10 +11,17 @@
 #include <algorithm>
 
 namespace {
+using namespace std::chrono_literals;
+constexpr auto untilTheFrameIsShown = 20ms;
+constexpr auto slice = 4ms; ///< of a frame of 16
+constexpr qsizetype mostHits = 20;
+
 /// The same header or note, whatever has become of its content.
 bool isSameRow(const TimelineRow &a, const TimelineRow &b)
 {
-    return a.note && b.note ? a.note->id == b.note->id : !a.note && !b.note && a.day == b.day;
+    if (a.kind != b.kind)
+        return false;
+    return a.note ? a.note->id == b.note->id : a.day == b.day;
 }
 } // namespace
 
@@ -22,11 +30,15 @@ TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const C
     , m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
-    , m_rows(currentRows())
+    , m_rows(rowsOf(notes.daySections(QString()), false))
 {
+    m_searchTimer.setSingleShot(true);
+    connect(&m_searchTimer, &QTimer::timeout, this, &TimelineModel::continueSearch);
     connect(&m_notes, &NoteStore::notesChanged, this, &TimelineModel::refresh);
     connect(&m_reminders, &ReminderStore::remindersChanged, this, &TimelineModel::refresh);
 }
+
+TimelineModel::~TimelineModel() = default;
 
 void TimelineModel::setQuery(const QString &query)
 {
@@ -34,25 +46,53 @@ void TimelineModel::setQuery(const QString &query)
     refresh();
 }
 
-QList<TimelineRow> TimelineModel::currentRows() const
+QList<TimelineRow> TimelineModel::rowsOf(const QList<DaySection> &sections, bool isSemanticOnly) const
 {
     QSet<QUuid> reminded;
     for (const Reminder &reminder : m_reminders.reminders())
         reminded.insert(reminder.noteID);
 
     QList<TimelineRow> rows;
-    for (const DaySection &section : m_notes.daySections(m_query)) {
-        rows.append({section.day, std::nullopt});
+    if (isSemanticOnly && !sections.isEmpty())
+        rows.append({TimelineRow::Kind::Title, {}, {}, false, true});
+    for (const DaySection &section : sections) {
+        rows.append({TimelineRow::Kind::Day, section.day, {}, false, isSemanticOnly});
         for (const Note &note : section.notes)
-            rows.append({section.day, note, reminded.contains(note.id)});
+            rows.append(
+                {TimelineRow::Kind::Note, section.day, note, reminded.contains(note.id), isSemanticOnly});
     }
     return rows;
 }
 
 void TimelineModel::refresh()
 {
+    m_search.reset();
+    m_searchTimer.stop();
+    const QList<DaySection> sections = m_notes.daySections(m_query);
+    const bool needsSearch = sections.isEmpty() && !m_notes.notes().isEmpty();
+    // Until it is known what resembles this query, what resembled the last one stays.
+    if (!needsSearch || m_rows.isEmpty() || !m_rows.front().isSemanticOnly)
+        show(rowsOf(sections, false));
+    if (needsSearch)
+        m_searchTimer.start(untilTheFrameIsShown);
+}
+
+void TimelineModel::continueSearch()
+{
+    if (!m_search)
+        m_search = m_notes.beginRankedSearch(m_query, mostHits);
+    if (!m_search->advance(QDeadlineTimer(slice))) {
+        m_searchTimer.start(0ms);
+        return;
+    }
+    const QList<SemanticHit> hits = m_notes.hits(*m_search);
+    m_search.reset();
+    show(rowsOf(m_notes.daySections(hits), true));
+}
+
+void TimelineModel::show(const QList<TimelineRow> &rows)
+{
     // What stands before and behind the place of a change stays; what lies between comes and goes.
-    const QList<TimelineRow> rows = currentRows();
     const auto [oldFront, newFront] =
         std::mismatch(m_rows.cbegin(), m_rows.cend(), rows.cbegin(), rows.cend(), isSameRow);
     const auto [oldBack, newBack] =
@@ -90,7 +130,15 @@ QVariant TimelineModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     const TimelineRow &row = m_rows[index.row()];
-    return row.note ? row.note->text : NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+    switch (row.kind) {
+    case TimelineRow::Kind::Title:
+        return L10n::text("语义相关");
+    case TimelineRow::Kind::Day:
+        return NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+    case TimelineRow::Kind::Note:
+        return row.note->text;
+    }
+    return {};
 }
 
 QModelIndex TimelineModel::indexOf(QUuid noteID) const

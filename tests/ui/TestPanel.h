@@ -12,10 +12,15 @@
 #include "ui/ContentView.h"
 #include "ui/NoteListView.h"
 #include "ui/PanelWindow.h"
+#include "ui/RelatedNotesView.h"
 #include "ui/ReminderBar.h"
 
 #include <QAbstractItemModel>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
@@ -66,6 +71,19 @@ public:
     {
         const QPoint where = list().visualRect(list().model()->index(row, 0)).center();
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
+    }
+    /// An entry of the row's context menu.
+    void choose(int row, const QString &entry)
+    {
+        const QPoint where = list().visualRect(list().model()->index(row, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, where, list().viewport()->mapToGlobal(where));
+        QCoreApplication::sendEvent(list().viewport(), &event);
+        QMenu *menu = list().findChildren<QMenu *>().last();
+        for (QAction *action : menu->actions()) {
+            if (action->text() == entry)
+                action->trigger();
+        }
+        delete menu;
     }
     QList<Note> savedNotes() const
     {

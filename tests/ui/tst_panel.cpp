@@ -210,6 +210,28 @@ private Q_SLOTS:
         QTRY_VERIFY(!panel.list().flashID());
     }
 
+    void related_notes_are_one_click_away()
+    {
+        TestPanel panel;
+        const Note older = *panel.notes.add(u"周末去看电影"_s);
+        panel.notes.add(u"qwzx"_s);
+        panel.notes.add(u"电影票根夹在本子里"_s);
+
+        const auto related = [&panel](int row) {
+            panel.choose(row, u"相关笔记"_s);
+            return panel.list().findChildren<RelatedNotesView *>().last();
+        };
+        QCOMPARE(related(2)->findChildren<QPushButton *>().size(), 0);
+        QCOMPARE(related(2)->findChildren<QLabel *>().last()->text(), u"暂无相关笔记"_s);
+        QPointer<RelatedNotesView> popover = related(1);
+        const auto buttons = popover->findChildren<QPushButton *>();
+        QCOMPARE(buttons.size(), 1);
+        QCOMPARE(buttons.first()->accessibleName(), older.text);
+        buttons.first()->click();
+        QTRY_COMPARE(panel.list().flashID(), older.id);
+        QTRY_VERIFY(!popover);
+    }
+
     void an_older_flash_does_not_put_out_a_newer_one()
     {
         TestPanel panel;

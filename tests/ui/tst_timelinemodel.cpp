@@ -1,6 +1,7 @@
 // now is Monday 2026-03-02 10:00 in Asia/Shanghai
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
+#include "search/ConceptEmbeddingProvider.h"
 #include "support/RecordingScheduler.h"
 #include "support/TestClock.h"
 #include "ui/TimelineModel.h"
@@ -74,6 +75,40 @@ private Q_SLOTS:
         QCOMPARE(places(removed), (QList<int>{0, 1}));
         QCOMPARE(model.indexOf(middle.id), QModelIndex());
         QCOMPARE(model.indexOf(oldest.id).row(), 1);
+    }
+
+    void what_resembles_the_query_is_shown_where_nothing_contains_it()
+    {
+        const QTemporaryDir folder;
+        TestClock clock("2026-03-02T02:00:00Z");
+        RecordingScheduler scheduler;
+        ConceptEmbeddingProvider embeddings;
+        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
+        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
+        notes.setEmbeddingProvider(&embeddings);
+        TimelineModel model(notes, reminders, clock);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        for (const QString &text : {u"口腔科补洞"_s, u"整理书架"_s, u"看电影"_s, u"买牛奶"_s, u"牙线买细的"_s})
+            notes.add(text);
+
+        model.setQuery(u"牙医"_s);
+        QCOMPARE(rows(model), QStringList()); // at first, since typing does not wait for it
+        const QStringList resembling{u"语义相关"_s, u"今天 · 3月2日 星期一"_s, u"口腔科补洞"_s};
+        QTRY_COMPARE(rows(model), resembling);
+        QVERIFY(model.row(2).isSemanticOnly);
+
+        model.setQuery(u"牙医们"_s);
+        QCOMPARE(rows(model), resembling); // which stays until the next is known
+        notes.add(u"约了牙医们"_s);
+        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"约了牙医们"_s}));
+        QTest::qWait(100);
+        QCOMPARE(rows(model).size(), 2); // the search that was under way is over
+
+        model.setQuery(u"qwzx"_s);
+        QTest::qWait(100);
+        QCOMPARE(rows(model), QStringList());
+        model.setQuery(QString());
+        QCOMPARE(rows(model).size(), 7);
     }
 };
 
