@@ -15,11 +15,11 @@
 namespace {
 // How well
 
-void meaning(benchmark::State &state, const QString &scope, SearchEvaluation::Part part)
+void meaning(benchmark::State &state, const QString &scope, SearchEvaluation::Batch batch)
 {
     SearchEvaluation::Score score;
     for (auto _ : state)
-        score = SearchEvaluation::evaluate(scope, part);
+        score = SearchEvaluation::evaluate(scope, batch);
     const auto percent = [&score](int count) { return 100.0 * count / score.pairs; };
     state.counters["pairs"] = score.pairs;
     state.counters["recall_at_1_%"] = percent(score.first);
@@ -38,13 +38,13 @@ void unrelated(benchmark::State &state)
 BENCHMARK(unrelated)->Name("search/meaning/unrelated")->Iterations(1)->Unit(benchmark::kMillisecond);
 
 const bool registered = [] {
-    using SearchEvaluation::Part;
-    const std::pair<const char *, Part> parts[] = {
-        {"open", Part::Open}, {"kept_back", Part::KeptBack}, {"later", Part::Later}};
-    for (const auto &[name, part] : parts) {
+    using SearchEvaluation::Batch;
+    const std::pair<const char *, Batch> batches[] = {{"open", Batch::Open}, {"kept_back", Batch::KeptBack},
+        {"second", Batch::Second}, {"third", Batch::Third}, {"fourth", Batch::Fourth}};
+    for (const auto &[name, batch] : batches) {
         for (const QString &scope : SearchEvaluation::scopes()) {
             benchmark::RegisterBenchmark(("search/meaning/" + scope.toStdString() + "/" + name).c_str(),
-                [scope = scope, part = part](benchmark::State &state) { meaning(state, scope, part); })
+                [scope = scope, batch = batch](benchmark::State &state) { meaning(state, scope, batch); })
                 ->Iterations(1)
                 ->Unit(benchmark::kMillisecond);
         }
@@ -59,7 +59,11 @@ void sentenceVector(benchmark::State &state)
     for (auto _ : state)
         benchmark::DoNotOptimize(SearchEvaluation::provider().sentenceVector(texts[qsizetype(next++ % 300)]));
 }
-BENCHMARK(sentenceVector)->Name("search/sentence_vector")->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+BENCHMARK(sentenceVector)
+    ->Name("search/sentence_vector")
+    ->Unit(benchmark::kMicrosecond)
+    ->Repetitions(5)
+    ->ReportAggregatesOnly();
 
 // How fast
 
@@ -75,7 +79,8 @@ public:
         QList<Note> made = manyNotes(count);
         for (int i = 0; i < count; ++i) {
             const QString &second = texts[(i / 300 * 7 + i * 3) % 300];
-            made[i].text = texts[i % 300] + (i % 4 == 0 ? QStringLiteral("，%1").arg(second) : QString()) + QStringLiteral(" %1").arg(i % 1000);
+            made[i].text = texts[i % 300] + (i % 4 == 0 ? QStringLiteral("，%1").arg(second) : QString())
+                           + QStringLiteral(" %1").arg(i % 1000);
         }
         notes.importNotes(made);
         notes.setEmbeddingProvider(&SearchEvaluation::provider());
@@ -108,7 +113,8 @@ void plainScan(benchmark::State &state)
         all += note.text.toCaseFolded().toUtf8() + '\n';
     const QByteArray query = noNoteHas.toUtf8();
     for (auto _ : state)
-        benchmark::DoNotOptimize(memmem(all.constData(), size_t(all.size()), query.constData(), size_t(query.size())));
+        benchmark::DoNotOptimize(
+            memmem(all.constData(), size_t(all.size()), query.constData(), size_t(query.size())));
 }
 
 void substringPass(benchmark::State &state)
@@ -163,14 +169,18 @@ void afterChange(benchmark::State &state)
 /// All notes speak of one subject, so that no cosine holds the majority.
 void oneSubject(benchmark::State &state)
 {
-    const QStringList subjects = QStringLiteral("牙医 药 医院 感冒 体检 发烧 手术 过敏 眼镜 血压 疫苗 胃").split(u' ');
+    const QStringList subjects =
+        QStringLiteral("牙医 药 医院 感冒 体检 发烧 手术 过敏 眼镜 血压 疫苗 胃").split(u' ');
     QList<SemanticCandidate> notes;
     for (int i = 0; i < int(state.range(0)); ++i) {
-        notes.append({QUuid::createUuid(), subjects[i % 12] + u' ' + subjects[i / 12 % 12] + u' ' + subjects[i / 144 % 12] + u' ' + SearchEvaluation::haystack(300)[i * 7 % 300]});
+        notes.append({QUuid::createUuid(), subjects[i % 12] + u' ' + subjects[i / 12 % 12] + u' '
+                                               + subjects[i / 144 % 12] + u' '
+                                               + SearchEvaluation::haystack(300)[i * 7 % 300]});
     }
     SearchIndex index;
     index.setOrder(notes);
-    const RankedSearch::Request request{noNoteHas, SearchEvaluation::provider().sentenceVector(noNoteHas), 20, 2, {}};
+    const RankedSearch::Request request{
+        noNoteHas, SearchEvaluation::provider().sentenceVector(noNoteHas), 20, 2, {}};
     RankedSearch(index, &SearchEvaluation::provider(), notes, request).advance();
     for (auto _ : state) {
         index.baseline.reset();
@@ -195,8 +205,13 @@ void memory(benchmark::State &state)
     state.counters["of_notes.json"] = held / file;
 }
 
-#define QUILLET_GROWTH(function, name) \
-    BENCHMARK(function)->Name("search/" name)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)
+#define QUILLET_GROWTH(function, name)                                                                       \
+    BENCHMARK(function)                                                                                      \
+        ->Name("search/" name)                                                                               \
+        ->Arg(1'000)                                                                                         \
+        ->Arg(10'000)                                                                                        \
+        ->Arg(100'000)                                                                                       \
+        ->Unit(benchmark::kMillisecond)
 QUILLET_GROWTH(plainScan, "plain_scan")->Repetitions(5)->ReportAggregatesOnly();
 QUILLET_GROWTH(substringPass, "substring_pass")->Repetitions(5)->ReportAggregatesOnly();
 QUILLET_GROWTH(withoutLiteralMatch, "no_literal_match")->Repetitions(5)->ReportAggregatesOnly();
@@ -204,5 +219,10 @@ QUILLET_GROWTH(relatedNotes, "related_notes")->Repetitions(5)->ReportAggregatesO
 QUILLET_GROWTH(afterChange, "after_a_change")->Iterations(10);
 QUILLET_GROWTH(firstUse, "first_use")->Iterations(3);
 QUILLET_GROWTH(memory, "memory")->Iterations(1);
-BENCHMARK(oneSubject)->Name("search/one_subject")->Arg(1'000)->Arg(10'000)->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(oneSubject)
+    ->Name("search/one_subject")
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
 } // namespace

@@ -406,8 +406,8 @@ QList<SemanticHit> NoteStore::hits(const RankedSearch &search) const
 QList<Note> NoteStore::relatedNotes(const Note &note, qsizetype limit) const
 {
     bringIndexUpToDate();
-    RankedSearch search(m_search, m_embeddingProvider, candidates(),
-        {note.text, vector(note), limit, 0, note.id});
+    RankedSearch search(
+        m_search, m_embeddingProvider, candidates(), {note.text, vector(note), limit, 0, note.id});
     search.advance();
     QList<Note> related;
     for (const RankedSearch::Match &match : search.matches())

@@ -81,7 +81,8 @@ public:
     [[nodiscard]] QList<SemanticHit> semanticMatches(const QString &query, qsizetype limit) const;
     /// The second half of semanticMatches(), to be worked out in slices. It ends with the next change of the
     /// notes.
-    [[nodiscard]] std::unique_ptr<RankedSearch> beginRankedSearch(const QString &query, qsizetype limit) const;
+    [[nodiscard]] std::unique_ptr<RankedSearch> beginRankedSearch(
+        const QString &query, qsizetype limit) const;
     [[nodiscard]] QList<SemanticHit> hits(const RankedSearch &search) const;
     /// The other live notes that share words or pairs of characters with this one, the best first.
     [[nodiscard]] QList<Note> relatedNotes(const Note &note, qsizetype limit) const;

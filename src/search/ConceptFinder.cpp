@@ -3,6 +3,7 @@
 #include "foundation/CaseFolding.h"
 
 #include <QMap>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -10,7 +11,8 @@
 namespace {
 bool isHan(QChar character)
 {
-    return (character >= u'\u4E00' && character <= u'\u9FFF') || (character >= u'\u3400' && character <= u'\u4DBF');
+    return (character >= u'\u4E00' && character <= u'\u9FFF')
+           || (character >= u'\u3400' && character <= u'\u4DBF');
 }
 
 bool isHiragana(QChar character)
@@ -44,7 +46,9 @@ QChar withoutAccent(QChar letter)
         for (char16_t unit = first; unit <= last; ++unit) {
             const QString parts = QChar(unit).decomposition();
             const bool isAccented = QChar(unit).decompositionTag() == QChar::Canonical && !parts.isEmpty();
-            letters[unit - first] = isAccented ? QString(parts.front()).normalized(QString::NormalizationForm_D)[0].unicode() : unit;
+            letters[unit - first] =
+                isAccented ? QString(parts.front()).normalized(QString::NormalizationForm_D)[0].unicode()
+                           : unit;
         }
         return letters;
     }();
@@ -55,9 +59,9 @@ QChar withoutAccent(QChar letter)
 QStringView stem(QStringView word)
 {
     // The longest first. One rule for nine languages: it has only to make the forms of a word alike.
-    static constexpr QStringView endings[] = {u"ungen", u"arna", u"erna", u"orna", u"ando", u"endo", u"ing", u"ene",
-        u"ern", u"ers", u"ies", u"ed", u"es", u"en", u"er", u"em", u"ar", u"or", u"as", u"os", u"is", u"s", u"e", u"n",
-        u"a", u"o", u"i", u"y"};
+    static constexpr QStringView endings[] = {u"ungen", u"arna", u"erna", u"orna", u"ando", u"endo", u"ing",
+        u"ene", u"ern", u"ers", u"ies", u"ed", u"es", u"en", u"er", u"em", u"ar", u"or", u"as", u"os", u"is",
+        u"s", u"e", u"n", u"a", u"o", u"i", u"y"};
     for (const QStringView ending : endings) {
         const qsizetype shortest = ending == u"s" ? 3 : 4;
         if (word.size() >= ending.size() + shortest && word.endsWith(ending))
@@ -87,14 +91,17 @@ ConceptFinder::ConceptFinder(const ConceptLexicon &lexicon)
         Meanings &meanings = whole[text];
         note(meanings, term.meaning);
         meanings.isKnownToChinese |= term.language == QStringLiteral("zh");
-        meanings.weight = std::max(meanings.weight, lexicon.concepts[size_t(term.meaning)].isVague ? 0.5 : 1.0);
+        meanings.weight =
+            std::max(meanings.weight, lexicon.concepts[size_t(term.meaning)].isVague ? 0.5 : 1.0);
         if (text.size() >= 4 && isOneWord(text)) {
             Meanings &stemmed = stems[stem(text).toString()];
             note(stemmed, term.meaning);
             stemmed.weight = std::max(stemmed.weight, meanings.weight);
         }
     }
-    const auto all = [](QStringView text, bool (*is)(QChar)) { return std::all_of(text.begin(), text.end(), is); };
+    const auto all = [](QStringView text, bool (*is)(QChar)) {
+        return std::all_of(text.begin(), text.end(), is);
+    };
     for (auto [text, meanings] : whole.asKeyValueRange()) {
         if (text.size() == 1 && isHan(text.front())) {
             meanings.weight *= 0.6; // one character is often a part of another word
@@ -127,26 +134,72 @@ ConceptFinder::Table ConceptFinder::table(const QMap<QString, Meanings> &meaning
 
 QString ConceptFinder::normalized(QStringView text)
 {
-    const QString folded = CaseFolding::folded(text);
+    const QString folded = CaseFolding::folded(text).normalized(QString::NormalizationForm_C);
     QString result;
     result.reserve(folded.size());
+    qsizetype wordStart = 0;
+    const auto endWord = [&] {
+        // In a short word an accent tells it from another: "thé" is not "the".
+        constexpr qsizetype shortWord = 3;
+        if (result.size() - wordStart > shortWord) {
+            for (qsizetype i = wordStart; i < result.size(); ++i)
+                result[i] = withoutAccent(result[i]);
+        }
+    };
     for (QChar character : folded) {
         if (character >= u'\uFF01' && character <= u'\uFF5E')
             character = QChar(character.unicode() - 0xFEE0).toLower();
-        if (character >= u'\u0300' && character <= u'\u036F')
+        if (isWordLetter(character)) {
+            result.append(character);
             continue;
+        }
+        endWord();
         const bool isGap = character.isSpace() || QStringView(u"-'’‐_").contains(character);
         if (!isGap)
-            result.append(withoutAccent(character));
+            result.append(character);
         else if (!result.endsWith(u' '))
             result.append(u' ');
+        wordStart = result.size();
     }
+    endWord();
     return result;
+}
+
+bool ConceptFinder::isStopWord(QStringView word)
+{
+    static const QSet<QString> words = [] {
+        const QStringList list = QStringLiteral(
+            "the and for with not but all any are was were has have had his her its our your they them this "
+            "that these those from into "
+            "over then than when what who how why can could will would should may might must about just some "
+            "more most very too also only "
+            "out off one two get got let make made take took want need still well back here there which "
+            "while been being does did done "
+            "der die das den dem des ein eine einen einem einer und oder aber nicht ist sind war hat haben "
+            "mit von bei aus auf für zum zur "
+            "ich du er sie wir ihr mein dein noch nur schon auch wie was wenn dann doch mal man bis nach vor "
+            "über unter "
+            "les des une est sont dans sur pour par avec pas plus que qui aux mes tes ses nos vos son sans "
+            "mais donc ils elle nous vous "
+            "los las una con por para del sus mis que más pero como muy son hay está este esta esto ese todo "
+            "det der som til med har kan skal vil var ikke men når hvor hvad jeg mig dig han hun vi os dem "
+            "sin sit "
+            "att och för inte från till med som den hon han vad när där var mig dig sig min din "
+            "het een van voor met niet dat die dit maar ook nog wel naar bij uit aan was zijn heeft mijn "
+            "haar "
+            "che con per non del della dei sono alla nel una gli suo mio come più ma anche questo quello "
+            "não com uma para por dos das que mais mas como seu sua meu minha foi são está isso")
+                                     .split(u' ');
+        return QSet<QString>(list.begin(), list.end());
+    }();
+    return words.contains(word.toString());
 }
 
 ConceptFinder::Hit ConceptFinder::longestAt(QStringView text, qsizetype position) const
 {
-    const auto at = [&](qsizetype index) { return index >= 0 && index < text.size() ? text[index] : QChar(u' '); };
+    const auto at = [&](qsizetype index) {
+        return index >= 0 && index < text.size() ? text[index] : QChar(u' ');
+    };
     const QChar before = at(position - 1);
     Hit longest;
     m_whole.tree.prefixesOf(text.sliced(position), [&](qsizetype length, int number) {
@@ -243,6 +296,8 @@ std::vector<ConceptFinder::Found> ConceptFinder::find(QStringView original) cons
         const QStringView unknown = QStringView(text).sliced(start, position - start);
         constexpr qsizetype longestWord = 40; // beyond that it is no word, and its parts are many
         if (unknown.size() > longestWord)
+            continue;
+        if (isStopWord(unknown))
             continue;
         if (const Term *term = word(unknown))
             add(*term, found);

@@ -16,7 +16,7 @@ public:
     explicit ConceptFinder(const ConceptLexicon &lexicon);
 
     struct Found {
-        int meaning = 0;    ///< index of the concept
+        int meaning = 0;   ///< index of the concept
         double weight = 0; ///< 1 for a term that tells all by itself
     };
     /// In the order of the text; a concept once for each term.
@@ -24,6 +24,8 @@ public:
 
     /// The form in which terms and texts are compared.
     [[nodiscard]] static QString normalized(QStringView text);
+    /// Whether a word stands in every text of one of the languages, so that in another it is no term either.
+    [[nodiscard]] static bool isStopWord(QStringView word);
 
 private:
     /// Where a term may stand.

@@ -27,7 +27,7 @@ struct ConceptLexicon {
     struct Term {
         QString text;
         QString language; ///< "zh", "en" ...
-        int meaning = 0; ///< index into concepts
+        int meaning = 0;  ///< index into concepts
     };
 
     QStringList themes;

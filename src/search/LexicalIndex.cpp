@@ -102,7 +102,8 @@ QList<qsizetype> LexicalIndex::containing(QStringView query) const
     const char *const end = begin + m_folded.size();
     auto document = m_documents.begin();
     for (const char *from = begin; from < end;) {
-        const auto *hit = static_cast<const char *>(memmem(from, size_t(end - from), wanted.data(), size_t(wanted.size())));
+        const auto *hit =
+            static_cast<const char *>(memmem(from, size_t(end - from), wanted.data(), size_t(wanted.size())));
         if (!hit)
             break;
         // The document that the hit lies in: mostly near the last one, so in steps that double.

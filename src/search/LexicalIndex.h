@@ -20,8 +20,9 @@ class LexicalIndex
 public:
     /// What of a text takes part in its lexical score.
     struct Lexis {
-        QByteArrayView lower;          ///< UTF-8, in lower case
-        std::span<const quint8> words; ///< for each word the bytes before it and its length, seven bits a byte
+        QByteArrayView lower; ///< UTF-8, in lower case
+        std::span<const quint8>
+            words; ///< for each word the bytes before it and its length, seven bits a byte
         bool isSingleCodePoints = false;
     };
 
@@ -52,14 +53,18 @@ private:
         bool isLive = true;
         bool isSingleCodePoints = false;
     };
-    [[nodiscard]] const Document &document(qsizetype place) const { return m_documents[m_order[size_t(place)]]; }
+    [[nodiscard]] const Document &document(qsizetype place) const
+    {
+        return m_documents[m_order[size_t(place)]];
+    }
     quint32 add(const QString &text);
     void dropDead();
 
     std::vector<char> m_folded;
     std::vector<quint8> m_words;
-    std::vector<Document> m_documents;      ///< as they stand in m_folded
-    QHash<quint32, QByteArray> m_lowered;   ///< by the document's number; where lower case is not the folded form
+    std::vector<Document> m_documents; ///< as they stand in m_folded
+    QHash<quint32, QByteArray>
+        m_lowered; ///< by the document's number; where lower case is not the folded form
     QHash<QUuid, quint32> m_numbers;
     std::vector<quint32> m_order;
     size_t m_deadBytes = 0;

@@ -11,7 +11,8 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 
 bool isSame(const SparseVector &a, const SparseVector &b)
 {
-    return a.dimension == b.dimension && std::ranges::equal(a.axes, b.axes) && std::ranges::equal(a.values, b.values);
+    return a.dimension == b.dimension && std::ranges::equal(a.axes, b.axes)
+           && std::ranges::equal(a.values, b.values);
 }
 
 size_t hash(const SparseVector &vector)
@@ -74,7 +75,8 @@ std::optional<double> MedianCosine::commonCosine(const std::vector<SparseVector>
     if (!(norms > 0))
         return std::nullopt;
     std::vector<quint64> countOfAxis(size_t(first.dimension));
-    std::vector<bool> isAlike(size_t(first.dimension), true); ///< all that have the axis have the first's value
+    std::vector<bool> isAlike(
+        size_t(first.dimension), true); ///< all that have the axis have the first's value
     std::vector<double> firstValues(size_t(first.dimension));
     for (size_t i = 0; i < first.axes.size(); ++i)
         firstValues[first.axes[i]] = first.values[i];

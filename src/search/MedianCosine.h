@@ -10,9 +10,9 @@
 /// The baseline of SemanticSearch, exact, without a cosine for each pair where that can be: worked out in
 /// slices, so that a key press need not wait for it.
 ///
-/// Where more than half of the pairs are sure to have one and the same cosine, that is the median: the vectors
-/// agree in the axes that all have, and most pairs share no other. Otherwise the pairs are gone through,
-/// equal vectors together and many at a time; only those near the median are kept apart.
+/// Where more than half of the pairs are sure to have one and the same cosine, that is the median: the
+/// vectors agree in the axes that all have, and most pairs share no other. Otherwise the pairs are gone
+/// through, equal vectors together and many at a time; only those near the median are kept apart.
 class MedianCosine
 {
 public:

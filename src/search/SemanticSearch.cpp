@@ -33,16 +33,19 @@ double norm(const SemanticSearch::Vector &vector)
 qsizetype overlap(const QSet<QString> &a, const QSet<QString> &b)
 {
     const auto &[smaller, larger] = a.size() < b.size() ? std::tie(a, b) : std::tie(b, a);
-    return std::count_if(
-        smaller.begin(), smaller.end(), [&larger = larger](const QString &each) { return larger.contains(each); });
+    return std::count_if(smaller.begin(), smaller.end(),
+        [&larger = larger](const QString &each) { return larger.contains(each); });
 }
 } // namespace
 
 bool SemanticSearch::isToken(QStringView word)
 {
     return std::none_of(word.begin(), word.end(), [](QChar character) { return character.isSpace(); })
-           && (Characters::areSingleCodePoints(word) ? word.size() - qsizetype(std::count_if(word.begin(), word.end(), [](QChar unit) { return unit.isLowSurrogate(); }))
-                                                     : Characters::all(word).size())
+           && (Characters::areSingleCodePoints(word)
+                      ? word.size()
+                            - qsizetype(std::count_if(
+                                word.begin(), word.end(), [](QChar unit) { return unit.isLowSurrogate(); }))
+                      : Characters::all(word).size())
                   >= 2;
 }
 
@@ -107,9 +110,9 @@ bool SemanticSearch::isBetter(const ScoredMatch &a, const ScoredMatch &b)
     return a.relativeScore.value_or(none) > b.relativeScore.value_or(none);
 }
 
-QList<ScoredMatch> SemanticSearch::rankMatches(const QString &query, const QList<SemanticCandidate> &candidates,
-    const std::optional<Vector> &queryVector, const QHash<QUuid, Vector> &vectors, qsizetype limit,
-    qsizetype semanticOnlyCap)
+QList<ScoredMatch> SemanticSearch::rankMatches(const QString &query,
+    const QList<SemanticCandidate> &candidates, const std::optional<Vector> &queryVector,
+    const QHash<QUuid, Vector> &vectors, qsizetype limit, qsizetype semanticOnlyCap)
 {
     const QString trimmed = query.trimmed();
     if (trimmed.isEmpty() || candidates.isEmpty())

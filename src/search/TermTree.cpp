@@ -52,7 +52,7 @@ const TermTree::Node *TermTree::child(const Node &node, char16_t unit) const
 {
     const auto first = m_nodes.begin() + node.firstChild;
     const auto end = first + node.childCount;
-    const auto found =
-        std::lower_bound(first, end, unit, [](const Node &each, char16_t wanted) { return each.unit < wanted; });
+    const auto found = std::lower_bound(
+        first, end, unit, [](const Node &each, char16_t wanted) { return each.unit < wanted; });
     return found != end && found->unit == unit ? &*found : nullptr;
 }

@@ -68,8 +68,8 @@ void NoteRowView::paint(QPainter *painter, const QStyleOptionViewItem &option, c
     painter->setPen(NoteStyle::metaColor(palette));
     painter->drawText(parts.timeRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
         NoteFormatting::timeString(note.createdAt, calendar));
-    painter->drawText(parts.markerRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine,
-        parts.content().marker);
+    painter->drawText(
+        parts.markerRect().translated(origin), Qt::AlignVCenter | Qt::TextSingleLine, parts.content().marker);
     if (row.hasReminder) {
         Symbol::paint(*painter, parts.symbolRect().translated(origin), QStringLiteral("bell"),
             NoteStyle::metaColor(palette));

@@ -72,7 +72,8 @@ RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWi
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid);
     layout->setSpacing(0);
-    layout->addWidget(label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
+    layout->addWidget(
+        label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
     const QList<Note> related = store.relatedNotes(note, mostRelated);
     if (related.isEmpty()) {
         layout->addWidget(

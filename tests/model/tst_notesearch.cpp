@@ -55,7 +55,8 @@ struct PlainSearch {
         }
         if (!hits.isEmpty())
             return hits.first(std::min(limit, hits.size()));
-        return ranked(notes, query, provider ? provider->sentenceVector(query.trimmed()) : std::nullopt, limit, 2);
+        return ranked(
+            notes, query, provider ? provider->sentenceVector(query.trimmed()) : std::nullopt, limit, 2);
     }
     QList<Note> relatedNotes(const QList<Note> &notes, const Note &note, qsizetype limit)
     {
@@ -72,8 +73,8 @@ struct PlainSearch {
     }
 
 private:
-    QList<SemanticHit> ranked(const QList<Note> &notes, const QString &query, const std::optional<Vector> &queryVector,
-        qsizetype limit, qsizetype cap)
+    QList<SemanticHit> ranked(const QList<Note> &notes, const QString &query,
+        const std::optional<Vector> &queryVector, qsizetype limit, qsizetype cap)
     {
         QList<SemanticCandidate> candidates;
         QHash<QUuid, Note> byID;
@@ -83,7 +84,8 @@ private:
             (void)vector(note);
         }
         QList<SemanticHit> hits;
-        for (const ScoredMatch &match : SemanticSearch::rankMatches(query, candidates, queryVector, cache, limit, cap))
+        for (const ScoredMatch &match :
+            SemanticSearch::rankMatches(query, candidates, queryVector, cache, limit, cap))
             hits.append({byID.value(match.id), match.kind});
         return hits;
     }
@@ -129,16 +131,19 @@ private Q_SLOTS:
 
         std::mt19937 random(seed);
         const auto below = [&random](qsizetype end) { return qsizetype(random() % size_t(end)); };
-        const QStringList words = QStringLiteral(
-            "牙医 茶 买菜 #家 #work Straße STRASSE ΣΑΣ σας İstanbul e\u0301te\u0301 été 👍🏽 rent the The a 1 12 房租 猫粮 dog 🙂 각 미용실 x")
-                                      .split(u' ');
+        const QStringList words =
+            QStringLiteral("牙医 茶 买菜 #家 #work Straße STRASSE ΣΑΣ σας İstanbul e\u0301te\u0301 été 👍🏽 "
+                           "rent the The a 1 12 房租 猫粮 dog 🙂 각 미용실 x")
+                .split(u' ');
         const auto text = [&] {
             QString made;
             for (qsizetype i = 1 + below(5); i > 0; --i)
                 made += words[below(words.size())] + (below(4) == 0 ? QString() : QStringLiteral(" "));
             return made;
         };
-        const auto anyOf = [&](const QList<Note> &notes) { return notes.isEmpty() ? Note() : notes[below(notes.size())]; };
+        const auto anyOf = [&](const QList<Note> &notes) {
+            return notes.isEmpty() ? Note() : notes[below(notes.size())];
+        };
 
         for (int step = 0; step < 120; ++step) {
             clock.advance(std::chrono::seconds(below(3)));
@@ -182,7 +187,8 @@ private Q_SLOTS:
             }
             const QString query = below(3) == 0 ? words[below(words.size())] : text();
             if (below(2) == 0)
-                QCOMPARE(told(store.semanticMatches(query, 4)), told(plain.semanticMatches(store.notes(), query, 4)));
+                QCOMPARE(told(store.semanticMatches(query, 4)),
+                    told(plain.semanticMatches(store.notes(), query, 4)));
             const Note about = anyOf(below(4) == 0 ? store.trash() : store.notes());
             if (!about.id.isNull() && below(2) == 0)
                 QCOMPARE(store.relatedNotes(about, 5), plain.relatedNotes(store.notes(), about, 5));

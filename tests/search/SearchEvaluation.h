@@ -16,18 +16,21 @@ struct Pair {
 
 struct Score {
     int pairs = 0;
-    int first = 0;       ///< no other note is as near to the query
-    int amongFive = 0;   ///< at most four are
-    int shown = 0;       ///< by the rules of the search
-    QStringList missed;  ///< queries whose note is not among the five
+    int first = 0;      ///< no other note is as near to the query
+    int amongFive = 0;  ///< at most four are
+    int shown = 0;      ///< by the rules of the search
+    QStringList missed; ///< queries whose note is not among the five
 };
 
-/// Two thirds of the pairs could be looked at while the concepts were written; the rest were kept for the end.
-enum class Part { Open, KeptBack, Later };
+/// The first batch was written before the concepts, and a third of it not looked at while they were worked
+/// on; the others after them. Each has been a reason to write more concepts, but for the fourth.
+enum class Batch { Open, KeptBack, Second, Third, Fourth };
+inline constexpr Batch batches[] = {Batch::Open, Batch::KeptBack, Batch::Second, Batch::Third, Batch::Fourth};
 
 inline QStringList lines(const QString &file)
 {
-    return QString::fromUtf8(readFile(QStringLiteral(SEARCH_DATA "/") + file)).split(u'\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(readFile(QStringLiteral(SEARCH_DATA "/") + file))
+        .split(u'\n', Qt::SkipEmptyParts);
 }
 
 inline QStringList scopes()
@@ -35,13 +38,18 @@ inline QStringList scopes()
     return QStringLiteral("chinese english chinese-english languages").split(u' ');
 }
 
-inline QList<Pair> pairs(const QString &scope, Part part)
+inline QList<Pair> pairs(const QString &scope, Batch batch)
 {
-    const QStringList all = lines((part == Part::Later ? QStringLiteral("later-") : QStringLiteral("pairs-")) + scope + QStringLiteral(".txt"));
+    const char *const files[] = {"first", "first", "second", "third", "fourth"};
+    const QStringList all =
+        lines(QStringLiteral("%1-%2.txt").arg(QLatin1StringView(files[int(batch)]), scope));
     QList<Pair> chosen;
     for (qsizetype i = 0; i < all.size(); ++i) {
-        if (part == Part::Later || (i % 3 == 2) == (part == Part::KeptBack))
-            chosen.append({all[i].section(QStringLiteral(" | "), 0, 0), all[i].section(QStringLiteral(" | "), 1)});
+        const bool isKeptBack = i % 3 == 2;
+        if ((batch == Batch::Open && isKeptBack) || (batch == Batch::KeptBack && !isKeptBack))
+            continue;
+        chosen.append(
+            {all[i].section(QStringLiteral(" | "), 0, 0), all[i].section(QStringLiteral(" | "), 1)});
     }
     return chosen;
 }
@@ -63,7 +71,8 @@ inline SentenceEmbeddingProviding &provider()
 }
 
 /// What the timeline would show: the notes by their places.
-inline std::vector<RankedSearch::Match> shown(SearchIndex &index, const QList<SemanticCandidate> &notes, const QString &query)
+inline std::vector<RankedSearch::Match> shown(
+    SearchIndex &index, const QList<SemanticCandidate> &notes, const QString &query)
 {
     if (!index.texts.containing(query).isEmpty())
         return {};
@@ -80,12 +89,12 @@ inline QList<SemanticCandidate> candidates(const QStringList &texts)
     return candidates;
 }
 
-inline Score evaluate(const QString &scope, Part part)
+inline Score evaluate(const QString &scope, Batch batch)
 {
     const QList<SemanticCandidate> others = candidates(haystack(199));
     SearchIndex index;
     Score score;
-    for (const Pair &pair : pairs(scope, part)) {
+    for (const Pair &pair : pairs(scope, batch)) {
         ++score.pairs;
         QList<SemanticCandidate> notes = others;
         const qsizetype place = score.pairs * 71 % 200; // anywhere
@@ -123,9 +132,10 @@ inline QStringList falseAlarms()
     QStringList alarms;
     for (const QString &query : lines(QStringLiteral("unrelated.txt"))) {
         const auto matches = shown(index, notes, query);
-        const bool isMeant = std::any_of(matches.begin(), matches.end(), [](const RankedSearch::Match &match) {
-            return match.score.kind == SemanticHitKind::SemanticOnly;
-        });
+        const bool isMeant =
+            std::any_of(matches.begin(), matches.end(), [](const RankedSearch::Match &match) {
+                return match.score.kind == SemanticHitKind::SemanticOnly;
+            });
         if (isMeant)
             alarms.append(query);
     }

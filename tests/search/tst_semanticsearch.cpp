@@ -47,7 +47,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("words");
         QTest::addColumn<QString>("pairs");
         const auto row = [](const char *text, const char *words, const char *pairs) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(words) << QString::fromUtf8(pairs);
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(words)
+                                << QString::fromUtf8(pairs);
         };
         row("", "", "");
         row("a", "", "");
@@ -83,12 +84,14 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("texts");
         QTest::addColumn<QString>("matches"); // place, lexical score and kind
         const auto row = [](const char *name, const char *query, const char *texts, const char *matches) {
-            QTest::newRow(name) << QString::fromUtf8(query) << QString::fromUtf8(texts).split(u'|') << QString::fromUtf8(matches);
+            QTest::newRow(name) << QString::fromUtf8(query) << QString::fromUtf8(texts).split(u'|')
+                                << QString::fromUtf8(matches);
         };
         row("an empty query has none", "  ", "a", "");
         row("case does not count", "MILK", "buy milk|MILK", "0:106:substring 1:106:substring");
         row("ß holds ss for the kind alone", "STRASSE", "straße", "0:3:substring");
-        row("equal scores keep their order", "milk tea", "green tea|oat milk|tea", "1:6:lexical 0:5:lexical 2:5:lexical");
+        row("equal scores keep their order", "milk tea", "green tea|oat milk|tea",
+            "1:6:lexical 0:5:lexical 2:5:lexical");
         row("one letter shares no word and no pair", "茶", "喝茶|茶水|水", "0:100:substring 1:100:substring");
         row("pairs count across blanks", "买 菜", "买菜|菜买", "0:1:lexical");
     }
@@ -122,8 +125,8 @@ private Q_SLOTS:
             }
             const Vector query(vectors.front().size(), 0.0);
             QStringList told;
-            for (const ScoredMatch &match : SemanticSearch::rankMatches(QStringLiteral("query"), candidates,
-                     Vector{1} + query.sliced(1), byID, 20, cap))
+            for (const ScoredMatch &match : SemanticSearch::rankMatches(
+                     QStringLiteral("query"), candidates, Vector{1} + query.sliced(1), byID, 20, cap))
                 told.append(QString::number(match.id.data1 - 1));
             return told.join(u' ');
         };
@@ -132,7 +135,10 @@ private Q_SLOTS:
         QCOMPARE(ranked({{3, 99, 13, 4, 2, 1}}, 2), u"");  // 0.03 is not enough
         QCOMPARE(ranked({{4, 99, 13, 3, 2, 1}}, 2), u"0"); // 0.04 is
         // The median of these is 0; the cap is filled by the first two, which are then put in order.
-        QCOMPARE(ranked({{3, 4, 0, 0}, {4, 0, 3, 0}, {1, 0, 0, 0}, {0, 0, 0, 1}, {0, 0, 0, 1}, {0, 1, 0, 0}, {0, 0, 1, 0}}, 2), u"1 0");
+        QCOMPARE(ranked({{3, 4, 0, 0}, {4, 0, 3, 0}, {1, 0, 0, 0}, {0, 0, 0, 1}, {0, 0, 0, 1}, {0, 1, 0, 0},
+                            {0, 0, 1, 0}},
+                     2),
+            u"1 0");
     }
 
     void the_median_in_slices_is_the_median_data()
@@ -166,15 +172,19 @@ private Q_SLOTS:
         make("half share another", 120, [&] { return sparse(2); });
         make("one subject", 150, [&] { return sparse(1); });
         make("dense", 150, [&] { return dense(7); });
-        make("few values", 90, [&] { return Vector{double(number(3)), double(number(3)) - 1, double(number(2))}; });
+        make("few values", 90, [&] {
+            return Vector{double(number(3)), double(number(3)) - 1, double(number(2))};
+        });
         make("lengths that differ", 90, [&] { return dense(1 + number(3)); });
         make("more pairs than are kept apart", 1500, [&] { return dense(3); });
     }
     void the_median_in_slices_is_the_median()
     {
         QFETCH(QList<Vector>, vectors);
-        QCOMPARE(medianInSlices(vectors), SemanticSearch::baseline(vectors)); // QCOMPARE is fuzzy for doubles ...
-        QVERIFY(medianInSlices(vectors) == SemanticSearch::baseline(vectors)); // ... and they agree to the last bit
+        QCOMPARE(
+            medianInSlices(vectors), SemanticSearch::baseline(vectors)); // QCOMPARE is fuzzy for doubles ...
+        QVERIFY(medianInSlices(vectors)
+                == SemanticSearch::baseline(vectors)); // ... and they agree to the last bit
     }
 };
 

@@ -88,7 +88,8 @@ private Q_SLOTS:
         notes.setEmbeddingProvider(&embeddings);
         TimelineModel model(notes, reminders, clock);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        for (const QString &text : {u"口腔科补洞"_s, u"整理书架"_s, u"看电影"_s, u"买牛奶"_s, u"牙线买细的"_s})
+        for (const QString &text :
+            {u"口腔科补洞"_s, u"整理书架"_s, u"看电影"_s, u"买牛奶"_s, u"牙线买细的"_s})
             notes.add(text);
 
         model.setQuery(u"牙医"_s);

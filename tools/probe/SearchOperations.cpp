@@ -12,8 +12,9 @@ namespace {
 QJsonArray sorted(const QSet<QString> &texts)
 {
     QStringList list(texts.begin(), texts.end());
-    std::sort(list.begin(), list.end(),
-        [](const QString &a, const QString &b) { return std::ranges::lexicographical_compare(a.toUcs4(), b.toUcs4()); });
+    std::sort(list.begin(), list.end(), [](const QString &a, const QString &b) {
+        return std::ranges::lexicographical_compare(a.toUcs4(), b.toUcs4());
+    });
     return QJsonArray::fromStringList(list);
 }
 
@@ -37,7 +38,8 @@ QJsonValue characterBigrams(Arguments &arguments)
 
 QJsonValue cosineSimilarity(Arguments &arguments)
 {
-    const auto cosine = SemanticSearch::cosineSimilarity(arguments.numbers(u"a"_s), arguments.numbers(u"b"_s));
+    const auto cosine =
+        SemanticSearch::cosineSimilarity(arguments.numbers(u"a"_s), arguments.numbers(u"b"_s));
     return cosine ? QJsonValue(*cosine) : QJsonValue();
 }
 
@@ -76,8 +78,8 @@ QJsonValue rankMatches(Arguments &arguments)
         queryVector = arguments.numbers(u"queryVector"_s);
 
     QJsonArray answers;
-    for (const ScoredMatch &match : SemanticSearch::rankMatches(arguments.text(u"query"_s), candidates, queryVector,
-             vectors, arguments.integer(u"limit"_s), arguments.integer(u"semanticOnlyCap"_s))) {
+    for (const ScoredMatch &match : SemanticSearch::rankMatches(arguments.text(u"query"_s), candidates,
+             queryVector, vectors, arguments.integer(u"limit"_s), arguments.integer(u"semanticOnlyCap"_s))) {
         answers.append(QJsonObject{{u"id"_s, Answer::uuid(match.id)}, {u"lexicalScore"_s, match.lexicalScore},
             {u"relativeScore"_s, match.relativeScore ? QJsonValue(*match.relativeScore) : QJsonValue()},
             {u"kind"_s, Answer::kindName(match.kind)}});
