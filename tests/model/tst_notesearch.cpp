@@ -131,10 +131,10 @@ private Q_SLOTS:
 
         std::mt19937 random(seed);
         const auto below = [&random](qsizetype end) { return qsizetype(random() % size_t(end)); };
-        const QStringList words =
-            QStringLiteral("牙医 茶 买菜 #家 #work Straße STRASSE ΣΑΣ σας İstanbul e\u0301te\u0301 été 👍🏽 "
-                           "rent the The a 1 12 房租 猫粮 dog 🙂 각 미용실 x")
-                .split(u' ');
+        const QStringList words = QStringLiteral("牙医 茶 买菜 #家 #work Straße STRASSE ΣΑΣ σας İstanbul "
+                                                 "e\u0301te\u0301 été 👍🏽 "
+                                                 "rent the The a 1 12 房租 猫粮 dog 🙂 각 미용실 x")
+                                      .split(u' ');
         const auto text = [&] {
             QString made;
             for (qsizetype i = 1 + below(5); i > 0; --i)
