@@ -405,6 +405,10 @@ QList<SemanticHit> NoteStore::hits(const RankedSearch &search) const
 
 QList<Note> NoteStore::relatedNotes(const Note &note, qsizetype limit) const
 {
+    const bool hasOthers = std::any_of(
+        m_notes.begin(), m_notes.end(), [&note](const Note &other) { return other.id != note.id; });
+    if (!hasOthers)
+        return {};
     bringIndexUpToDate();
     RankedSearch search(
         m_search, m_embeddingProvider, candidates(), {note.text, vector(note), limit, 0, note.id});

@@ -1,5 +1,7 @@
 #include "search/ConceptEmbeddingProvider.h"
 
+#include "search/SemanticSearch.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,21 +22,13 @@ struct ConceptEmbeddingProvider::Model {
 };
 
 namespace {
-double squaredLength(const QList<double> &vector)
-{
-    double sum = 0;
-    for (const double value : vector)
-        sum += value * value;
-    return sum;
-}
-
 /// Makes the length exactly 1 by turning the last bits of one value, so that vectors which share nothing but
 /// the common axis have one and the same cosine.
 void makeLengthExact(QList<double> &vector, double &adjusted)
 {
     constexpr int enough = 200;
     for (int i = 0; i < enough; ++i) {
-        const double length = std::sqrt(squaredLength(vector));
+        const double length = SemanticSearch::norm(vector);
         if (length == 1.0)
             return;
         adjusted = std::nextafter(adjusted, length > 1.0 ? 0.0 : 1.0);
@@ -63,7 +57,7 @@ std::optional<QList<double>> ConceptEmbeddingProvider::sentenceVector(const QStr
         value += added;
         themes[m_model->themeOf[size_t(each.meaning)]] += added * themeWeight;
     }
-    const double scale = std::sqrt((1 - commonShare) / squaredLength(vector));
+    const double scale = std::sqrt(1 - commonShare) / SemanticSearch::norm(vector);
     for (double &value : vector)
         value *= scale;
     vector.front() = std::sqrt(commonShare);

@@ -14,6 +14,7 @@ class LexicalQuery
 public:
     explicit LexicalQuery(const QString &query);
 
+    [[nodiscard]] bool isEmpty() const { return m_lower.isEmpty(); }
     /// The lexical score of SemanticSearch::rankMatches.
     [[nodiscard]] double score(const LexicalIndex::Lexis &text);
 

@@ -18,8 +18,6 @@ RankedSearch::RankedSearch(SearchIndex &index, SentenceEmbeddingProviding *provi
         m_vector.emplace(*request.queryVector);
     for (const qsizetype place : m_index.texts.containing(request.query.trimmed()))
         m_contains[size_t(place)] = true;
-    if (request.query.trimmed().isEmpty())
-        m_stage = Stage::Done;
 }
 
 bool RankedSearch::advance(const QDeadlineTimer &deadline)
@@ -38,6 +36,10 @@ bool RankedSearch::advance(const QDeadlineTimer &deadline)
     if (m_stage == Stage::Reading) {
         if (!eachPlace([this](qsizetype place) { read(place); }))
             return false;
+        if (m_query.isEmpty()) {
+            m_stage = Stage::Done;
+            return true;
+        }
         prepareBaseline();
         m_stage = Stage::Baseline;
     }

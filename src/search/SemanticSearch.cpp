@@ -21,14 +21,6 @@ char32_t firstCodePoint(QStringView character)
                : character.front().unicode();
 }
 
-double norm(const SemanticSearch::Vector &vector)
-{
-    double sum = 0;
-    for (const double value : vector)
-        sum += value * value;
-    return std::sqrt(sum);
-}
-
 /// How many of the smaller set's members are in the other.
 qsizetype overlap(const QSet<QString> &a, const QSet<QString> &b)
 {
@@ -73,6 +65,14 @@ QSet<QString> SemanticSearch::characterBigrams(const QString &text)
         previous = character;
     }
     return pairs;
+}
+
+double SemanticSearch::norm(const Vector &vector)
+{
+    double sum = 0;
+    for (const double value : vector)
+        sum += value * value;
+    return std::sqrt(sum);
 }
 
 std::optional<double> SemanticSearch::cosineSimilarity(const Vector &a, const Vector &b)

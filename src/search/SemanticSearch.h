@@ -45,6 +45,7 @@ inline constexpr double admission = 0.03;
 /// Letters and digits that follow each other, whatever else stands between them. Case counts.
 [[nodiscard]] QSet<QString> characterBigrams(const QString &text);
 
+[[nodiscard]] double norm(const Vector &vector);
 /// Nothing when a vector is empty or of length 0, or when they are of different dimensions.
 [[nodiscard]] std::optional<double> cosineSimilarity(const Vector &a, const Vector &b);
 /// The median of the cosines of all pairs; 0 when no pair has one.

@@ -1,26 +1,14 @@
 #include "search/VectorCache.h"
 
-#include <cmath>
-
-namespace {
-// Zeros add nothing to a sum of products, so that what is left out changes no bit of a result.
-double norm(const SemanticSearch::Vector &vector)
-{
-    double sum = 0;
-    for (const double value : vector)
-        sum += value * value;
-    return std::sqrt(sum);
-}
-} // namespace
-
 void VectorCache::insert(QUuid id, const Vector &vector)
 {
     remove(id);
     constexpr size_t littleWaste = 65536;
     if (m_dead > littleWaste && m_dead > m_values.size() / 2)
         dropDead();
-    Entry entry{m_values.size(), 0, quint32(vector.size()), norm(vector)};
+    Entry entry{m_values.size(), 0, quint32(vector.size()), SemanticSearch::norm(vector)};
     for (qsizetype axis = 0; axis < vector.size(); ++axis) {
+        // Zeros add nothing to a sum of products: what is left out changes no bit of a result.
         if (vector[axis] != 0.0) {
             m_axes.push_back(quint32(axis));
             m_values.push_back(vector[axis]);
@@ -82,7 +70,7 @@ qsizetype VectorCache::memory() const
 
 VectorQuery::VectorQuery(SemanticSearch::Vector vector)
     : m_vector(std::move(vector))
-    , m_norm(norm(m_vector))
+    , m_norm(SemanticSearch::norm(m_vector))
 {
 }
 

@@ -65,6 +65,8 @@ struct PlainSearch {
             if (other.id != note.id)
                 others.append(other);
         }
+        if (others.isEmpty())
+            return {};
         QList<Note> related;
         const auto queryVector = vector(note);
         for (const SemanticHit &hit : ranked(others, note.text, queryVector, limit, 0))
