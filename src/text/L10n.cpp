@@ -81,7 +81,13 @@ QString L10n::text(const char *key, const QString &languageCode)
     return translated.isEmpty() ? QString::fromUtf8(key) : translated;
 }
 
-QString L10n::text(const char *key, const QString &argument, const QString &languageCode)
+QString L10n::text(const char *key, const QStringList &arguments, const QString &languageCode)
 {
-    return text(key, languageCode).replace(QLatin1String("%@"), argument);
+    // Piece by piece: an argument may hold a "%@" of its own.
+    const QStringList pieces = text(key, languageCode).split(QLatin1String("%@"));
+    Q_ASSERT(pieces.size() == arguments.size() + 1);
+    QString filled = pieces.front();
+    for (qsizetype i = 0; i < arguments.size(); ++i)
+        filled += arguments[i] + pieces[i + 1];
+    return filled;
 }

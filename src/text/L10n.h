@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 /// The interface language and its texts. Each text on screen is its own key, in Simplified Chinese.
 namespace L10n {
@@ -14,6 +15,7 @@ namespace L10n {
 /// The text in that language, or the key itself where there is no translation.
 [[nodiscard]] QString text(const char *key, const QString &languageCode = currentLanguage());
 
-/// The text with its one "%@" filled in.
-[[nodiscard]] QString text(const char *key, const QString &argument, const QString &languageCode);
+/// The text with each "%@" filled in, in their order.
+[[nodiscard]] QString text(
+    const char *key, const QStringList &arguments, const QString &languageCode = currentLanguage());
 } // namespace L10n

@@ -14,7 +14,7 @@ QString NoteFormatting::dayTitle(Instant date, Instant now, const Calendar &cale
 {
     const QString title = formatted(date, "dayTitle.format", calendar, language);
     if (calendar.day(date) == calendar.day(now))
-        return L10n::text("今天 · %@", title, language);
+        return L10n::text("今天 · %@", QStringList{title}, language);
     return title;
 }
 
@@ -43,5 +43,5 @@ QString NoteFormatting::reminderTimeString(
     default:
         return formatted(date, "reminderTime.format", calendar, language);
     }
-    return L10n::text(format, timeString(date, calendar, language), language);
+    return L10n::text(format, QStringList{timeString(date, calendar, language)}, language);
 }

@@ -12,6 +12,8 @@ public:
     using QLineEdit::QLineEdit;
 
     [[nodiscard]] bool isComposing() const { return m_isComposing; }
+    /// Puts this text in place of all; Ctrl+Z takes it back.
+    void replaceAll(const QString &text);
 
 protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
@@ -19,5 +21,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void pasteAsOneLine();
+
     bool m_isComposing = false;
 };

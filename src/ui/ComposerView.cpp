@@ -11,10 +11,13 @@
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
+#include "ui/QuoteBar.h"
 #include "ui/ReminderBar.h"
+#include "ui/SuggestionList.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QUrl>
@@ -30,6 +33,8 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     , m_detector(detector)
     , m_titles(titles)
     , m_clock(clock)
+    , m_suggestions(new SuggestionList(m_completion, this))
+    , m_quoteBar(new QuoteBar(this))
     , m_reminderBar(new ReminderBar(clock, this))
     , m_field(new ComposerField(this))
 {
@@ -48,6 +53,8 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, Design::edge);
     layout->setSpacing(0);
+    layout->addWidget(m_suggestions);
+    layout->addWidget(m_quoteBar);
     layout->addWidget(m_reminderBar);
     auto *capsule = new QHBoxLayout;
     capsule->setContentsMargins(2 * Design::edge, 0, 2 * Design::edge, 0);
@@ -56,7 +63,10 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     updatePlaceholder();
 
     connect(m_field, &QLineEdit::textChanged, &m_state, &PanelState::setDraft);
+    m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
+    connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
+    connect(m_quoteBar, &QuoteBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
     connect(m_reminderBar, &ReminderBar::dismissed, this, [this] {
         m_suppressReminder = true;
         updateReminderPreview();
@@ -66,21 +76,101 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
         updatePlaceholder();
         updateReminderPreview();
     });
+    connect(&m_state, &PanelState::quotingChanged, this, &ComposerView::updateQuoteBar);
+    connect(&m_state, &PanelState::modeChanged, this, [this] {
+        updatePlaceholder();
+        updateCompletion();
+        updateQuoteBar();
+        updateReminderPreview();
+    });
     connect(&m_state, &PanelState::panelDidToggle, m_field, qOverload<>(&QLineEdit::setFocus));
     connect(&m_state, &PanelState::focusComposer, this, &ComposerView::focusAtEnd);
     connect(&m_state, &PanelState::clearComposer, this, [this] { m_state.setDraft({}); });
+}
+
+bool ComposerView::isFilterOnly() const
+{
+    return m_state.mode() == PanelMode::Tags;
 }
 
 void ComposerView::draftDidChange()
 {
     const QString &draft = m_state.draft();
     if (m_field->text() != draft)
-        m_field->setText(draft);
+        m_field->replaceAll(draft);
     if (draft.isEmpty()) {
         m_state.setEditingID({});
         m_state.setQuoting({});
         m_suppressReminder = false;
     }
+    updateCompletion();
+    updateReminderPreview();
+}
+
+// Tags that are offered
+
+void ComposerView::updateCompletion()
+{
+    if (isFilterOnly())
+        m_completion.dismiss();
+    else
+        m_completion.update(m_state.draft(), m_field->cursorPosition(), m_store.tags());
+}
+
+void ComposerView::applyCandidate(const QString &candidate)
+{
+    const auto applied = m_completion.apply(candidate, m_state.draft());
+    if (!applied)
+        return;
+    m_state.setDraft(applied->text);
+    // The field takes the new draft first.
+    QTimer::singleShot(
+        0, m_field, [field = m_field, cursor = applied->cursor] { field->setCursorPosition(int(cursor)); });
+}
+
+bool ComposerView::eventFilter(QObject *watched, QEvent *event)
+{
+    // While an input method composes, the keys are its own.
+    if (event->type() == QEvent::KeyPress && !isComposing()
+        && handleKey(static_cast<QKeyEvent *>(event)->key()))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool ComposerView::handleKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!m_completion.isActive())
+            return false;
+        if (const auto candidate = m_completion.selectedCandidate())
+            applyCandidate(*candidate);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (m_completion.isActive())
+            m_completion.moveSelection(key == Qt::Key_Up ? -1 : 1);
+        else
+            Q_EMIT walkedAway();
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The bars
+
+void ComposerView::updateQuoteBar()
+{
+    const auto &quoting = m_state.quoting();
+    if (quoting)
+        m_quoteBar->setText(quoting->text);
+    m_quoteBar->setVisible(quoting && !isFilterOnly());
+}
+
+void ComposerView::timeDidPass()
+{
     updateReminderPreview();
 }
 
@@ -91,7 +181,7 @@ std::optional<ParsedReminder> ComposerView::detectedReminder() const
 
 void ComposerView::updateReminderPreview()
 {
-    const bool isOff = m_state.editingID() || m_suppressReminder;
+    const bool isOff = isFilterOnly() || m_state.editingID() || m_suppressReminder;
     m_reminderBar->setPreview(isOff ? std::nullopt : detectedReminder());
 }
 
@@ -102,6 +192,8 @@ bool ComposerView::isComposing() const
 
 void ComposerView::submit()
 {
+    if (isFilterOnly())
+        return;
     // The order of the cases is the order in which they win.
     const QString draft = m_state.draft();
     if (const auto editingID = m_state.editingID()) {
@@ -123,7 +215,8 @@ void ComposerView::submit()
         m_store.add(draft, {}, {}, reminder);
     }
     m_state.setQuoting({});
-    m_state.setDraft({});
+    m_field->setText({}); // and not to be taken back, since it is a note now
+    m_suppressReminder = false;
 }
 
 void ComposerView::addWebLink(const QString &draft, const QString &address)
@@ -144,8 +237,12 @@ void ComposerView::addFileLink(const QString &path)
 
 void ComposerView::updatePlaceholder()
 {
-    m_field->setPlaceholderText(
-        m_state.editingID() ? L10n::text("编辑中，回车保存修改") : L10n::text("输入即筛选，回车保存"));
+    if (isFilterOnly())
+        m_field->setPlaceholderText(L10n::text("输入即筛选标签"));
+    else if (m_state.editingID())
+        m_field->setPlaceholderText(L10n::text("编辑中，回车保存修改"));
+    else
+        m_field->setPlaceholderText(L10n::text("输入即筛选，回车保存"));
     m_field->setAccessibleName(m_field->placeholderText());
 }
 

@@ -19,10 +19,16 @@ inline constexpr int topBarHeight = 36;
 inline constexpr int headerHeight = 28;
 inline constexpr int timeColumn = 44;
 inline constexpr int rowPadding = 6;
-inline constexpr int markerHeight = 16; ///< a remark below a note's text
+inline constexpr int smallLineHeight = 16; ///< of a remark above or below a row's text
+inline constexpr int quoteHeight = 22;
+inline constexpr int rowRadius = 8;
 inline constexpr int symbolSize = 14;
+inline constexpr int smallSymbolSize = 12;
 inline constexpr int fieldHeight = 32;
 inline constexpr int barHeight = 28;
+inline constexpr int suggestionHeight = 28;
+inline constexpr int buttonSize = 28;
+inline constexpr int buttonSymbolSize = 16;
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};

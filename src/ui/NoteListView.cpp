@@ -4,118 +4,116 @@
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
 #include "ui/Design.h"
-#include "ui/NoteRowView.h"
+#include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
 #include "ui/RelatedNotesView.h"
-#include "ui/SlimScrollBar.h"
 #include "ui/TimelineModel.h"
 
 #include <QClipboard>
-#include <QContextMenuEvent>
-#include <QEasingCurve>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QPainter>
 #include <QScrollBar>
 #include <QTimer>
-#include <QVariantAnimation>
-
-#include <algorithm>
+#include <QUrl>
 
 NoteListView::NoteListView(
     NoteStore &notes, ReminderStore &reminders, PanelState &state, TimelineModel &timeline, QWidget *parent)
-    : QAbstractItemView(parent)
+    : RowListView(timeline, parent)
     , m_notes(notes)
     , m_reminders(reminders)
     , m_state(state)
     , m_timeline(timeline)
-    , m_rows(new NoteRowView(timeline, this))
-    , m_scrolling(new QVariantAnimation(this))
 {
     setObjectName(QStringLiteral("timeline"));
     setAccessibleName(L10n::text("笔记"));
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setEditTriggers(NoEditTriggers);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBar(new SlimScrollBar(this));
-    setVerticalScrollMode(ScrollPerPixel);
-    viewport()->setAutoFillBackground(false);
-    setItemDelegate(m_rows);
-    setModel(&m_timeline);
-
-    m_scrolling->setDuration(int(Design::scrollDuration.count()));
-    m_scrolling->setEasingCurve(QEasingCurve::OutCubic);
-    connect(m_scrolling, &QVariantAnimation::valueChanged, this,
-        [this](const QVariant &value) { verticalScrollBar()->setValue(value.toInt()); });
-
     connect(&m_state, &PanelState::draftChanged, this, &NoteListView::queryDidChange);
     connect(&m_state, &PanelState::jumpTargetIDChanged, this, &NoteListView::jumpToExternalTarget);
-    connect(&m_state, &PanelState::editingIDChanged, this, [this] {
-        m_rows->setEditingID(m_state.editingID());
-        viewport()->update();
-    });
+    connect(&m_state, &PanelState::editingIDChanged, viewport(), qOverload<>(&QWidget::update));
+    queryDidChange();
     jumpToExternalTarget();
 }
 
-void NoteListView::setModel(QAbstractItemModel *model)
-{
-    // Connected before the base class is: whatever it asks for when rows come or go, the heights are in step.
-    connect(model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first, int last) {
-        m_heights.insert(m_heights.begin() + first, size_t(last - first + 1), 0);
-        heightsDidChange();
-    });
-    connect(model, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex &, int first, int last) {
-        m_heights.erase(m_heights.begin() + first, m_heights.begin() + last + 1);
-        heightsDidChange();
-    });
-    connect(model, &QAbstractItemModel::modelReset, this, &NoteListView::forgetHeights);
-    QAbstractItemView::setModel(model);
-    forgetHeights();
-}
-
-// What the person does
-
 void NoteListView::queryDidChange()
 {
+    const bool isBlank = m_state.draft().trimmed().isEmpty();
+    setEmptyText(
+        isBlank ? L10n::text("还没有笔记，写下第一条吧") : L10n::text("没有匹配的笔记，回车保存为新笔记"));
+    if (m_timeline.query() == m_state.draft())
+        return;
     m_timeline.setQuery(m_state.draft());
+    forgetHeights(); // the hits in the rows that stay are others
     verticalScrollBar()->setValue(0);
-    viewport()->update(); // the hits in the rows that stay are others
 }
 
-void NoteListView::beginEditing(QUuid noteID)
+// What can be done with a note
+
+void NoteListView::activate(int row)
 {
-    const auto note = m_notes.note(noteID);
-    if (!note)
-        return;
-    m_state.setDraft(note->text);
-    m_state.setEditingID(noteID);
+    const Note note = *m_timeline.row(row).note;
+    m_state.setDraft(note.text);
+    m_state.setEditingID(note.id);
     m_state.setQuoting({});
     Q_EMIT m_state.focusComposer();
 }
 
-void NoteListView::mouseDoubleClickEvent(QMouseEvent *event)
+void NoteListView::quote(const Note &note)
 {
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (index.isValid() && m_timeline.row(index.row()).note)
-        beginEditing(m_timeline.row(index.row()).note->id);
+    m_state.setQuoting(note);
+    m_state.setEditingID({});
+    Q_EMIT m_state.focusComposer();
 }
 
-void NoteListView::contextMenuEvent(QContextMenuEvent *event)
+void NoteListView::copy(int row)
 {
-    const QModelIndex index = indexAt(event->pos());
-    if (!index.isValid() || !m_timeline.row(index.row()).note)
-        return;
-    const Note note = *m_timeline.row(index.row()).note;
-    auto *menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
-    menu->addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
-    menu->addSeparator();
+    QGuiApplication::clipboard()->setText(m_timeline.row(row).note->text);
+}
+
+void NoteListView::remove(int row)
+{
+    m_notes.remove(m_timeline.row(row).note->id);
+}
+
+void NoteListView::clickPart(int row, RowPart part)
+{
+    const Note note = *m_timeline.row(row).note;
+    switch (part.kind) {
+    case RowPart::Kind::Quote:
+        jumpToQuoted(note);
+        break;
+    case RowPart::Kind::Link:
+        QDesktopServices::openUrl(QUrl(*note.link));
+        break;
+    case RowPart::Kind::Symbol:
+        if (m_timeline.actions(row).value(part.symbol) == TimelineModel::Action::JumpToReply)
+            jumpToReply(note);
+        break;
+    case RowPart::Kind::Body:
+    case RowPart::Kind::None:
+        break;
+    }
+}
+
+void NoteListView::fillMenu(QMenu &menu, int row)
+{
+    const Note note = *m_timeline.row(row).note;
+    menu.addAction(L10n::text("引用"), this, [this, note] { quote(note); });
+    menu.addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
+    menu.addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
+    menu.addSeparator();
     if (m_reminders.hasReminder(note.id))
-        menu->addAction(L10n::text("取消提醒"), this, [this, note] { m_reminders.cancelForNote(note.id); });
-    menu->addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
-    menu->popup(event->globalPos());
+        menu.addAction(L10n::text("取消提醒"), this, [this, note] { m_reminders.cancelForNote(note.id); });
+    menu.addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
+}
+
+QColor NoteListView::groundOf(int row) const
+{
+    const auto &note = m_timeline.row(row).note;
+    if (!note)
+        return {};
+    if (note->id == m_flashID)
+        return NoteStyle::flash(palette());
+    return note->id == m_state.editingID() ? NoteStyle::editing(palette()) : QColor();
 }
 
 void NoteListView::showRelated(const Note &note)
@@ -132,6 +130,18 @@ void NoteListView::jumpToExternalTarget()
 {
     if (const auto target = m_state.jumpTargetID())
         scrollAndFlash(*target, true);
+}
+
+void NoteListView::jumpToQuoted(const Note &note)
+{
+    if (note.quoteID && m_notes.note(*note.quoteID))
+        scrollAndFlash(*note.quoteID, false);
+}
+
+void NoteListView::jumpToReply(const Note &note)
+{
+    if (const auto reply = m_notes.latestReply(note.id))
+        scrollAndFlash(reply->id, false);
 }
 
 void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
@@ -156,215 +166,8 @@ void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
     QTimer::singleShot(0, this, jump);
 }
 
-std::optional<QUuid> NoteListView::flashID() const
-{
-    return m_rows->flashID();
-}
-
 void NoteListView::setFlashID(std::optional<QUuid> id)
 {
-    m_rows->setFlashID(id);
+    m_flashID = id;
     viewport()->update();
-}
-
-void NoteListView::scrollTo(const QModelIndex &index, ScrollHint hint)
-{
-    if (!index.isValid())
-        return;
-    m_scrolling->stop();
-    if (hint == PositionAtCenter) {
-        const int target = centredOffset(index.row());
-        m_scrolling->setStartValue(verticalScrollBar()->value());
-        m_scrolling->setEndValue(target);
-        m_scrolling->start();
-        return;
-    }
-    const QRect rect = visualRect(index);
-    if (rect.top() < 0)
-        verticalScrollBar()->setValue(tops()[size_t(index.row())]);
-    else if (rect.bottom() >= viewport()->height())
-        verticalScrollBar()->setValue(tops()[size_t(index.row()) + 1] - viewport()->height());
-}
-
-// Where the rows are
-
-void NoteListView::forgetHeights()
-{
-    m_heights.assign(size_t(m_timeline.rowCount()), 0);
-    heightsDidChange();
-}
-
-void NoteListView::heightsDidChange()
-{
-    m_tops.clear();
-    updateGeometries();
-    viewport()->update();
-}
-
-int NoteListView::estimatedHeight(int row) const
-{
-    if (!m_timeline.row(row).note)
-        return Design::headerHeight;
-    constexpr int line = 20;
-    const qsizetype perLine = std::max(1, (viewport()->width() - 90) / Design::bodySize);
-    const qsizetype lines =
-        std::clamp<qsizetype>(m_timeline.row(row).note->text.size() / perLine + 1, 1, 1000);
-    return int(lines) * line + 2 * Design::rowPadding;
-}
-
-const std::vector<int> &NoteListView::tops() const
-{
-    if (m_tops.empty()) {
-        m_tops.reserve(m_heights.size() + 1);
-        int y = 0;
-        for (size_t row = 0; row < m_heights.size(); ++row) {
-            m_tops.push_back(y);
-            y += m_heights[row] > 0 ? m_heights[row] : estimatedHeight(int(row));
-        }
-        m_tops.push_back(y);
-    }
-    return m_tops;
-}
-
-int NoteListView::rowAt(int y) const
-{
-    const auto next = std::upper_bound(tops().begin(), tops().end(), y);
-    return std::clamp(int(next - tops().begin()) - 1, 0, std::max(0, int(m_heights.size()) - 1));
-}
-
-bool NoteListView::measure(int firstRow, int lastRow)
-{
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    option.rect = viewport()->rect();
-    bool hasChanged = false;
-    for (int row = firstRow; row <= lastRow && row < int(m_heights.size()); ++row) {
-        if (m_heights[size_t(row)] == 0) {
-            m_heights[size_t(row)] = m_rows->sizeHint(option, m_timeline.index(row)).height();
-            hasChanged = true;
-        }
-    }
-    if (hasChanged)
-        m_tops.clear();
-    return hasChanged;
-}
-
-void NoteListView::measureVisibleRows()
-{
-    // A measured row moves those below it, which may bring others into view.
-    while (measure(rowAt(verticalOffset()), rowAt(verticalOffset() + viewport()->height()))) {
-    }
-}
-
-int NoteListView::centredOffset(int row)
-{
-    // The rows around it are measured first, so that the end of the way is exact.
-    const int page = viewport()->height();
-    measure(rowAt(tops()[size_t(row)] - page), rowAt(tops()[size_t(row)] + page));
-    updateGeometries();
-    const int middle = (tops()[size_t(row)] + tops()[size_t(row) + 1]) / 2;
-    return std::clamp(middle - page / 2, 0, verticalScrollBar()->maximum());
-}
-
-void NoteListView::updateGeometries()
-{
-    QAbstractItemView::updateGeometries();
-    const int page = viewport()->height();
-    verticalScrollBar()->setPageStep(page);
-    verticalScrollBar()->setSingleStep(Design::headerHeight);
-    verticalScrollBar()->setRange(0, std::max(0, tops().back() - page));
-}
-
-int NoteListView::verticalOffset() const
-{
-    return verticalScrollBar()->value();
-}
-
-QRect NoteListView::visualRect(const QModelIndex &index) const
-{
-    if (!index.isValid() || size_t(index.row()) >= m_heights.size())
-        return {};
-    const int top = tops()[size_t(index.row())];
-    return {0, top - verticalOffset(), viewport()->width(), tops()[size_t(index.row()) + 1] - top};
-}
-
-QModelIndex NoteListView::indexAt(const QPoint &point) const
-{
-    const int y = point.y() + verticalOffset();
-    if (m_heights.empty() || y < 0 || y >= tops().back())
-        return {};
-    return m_timeline.index(rowAt(y));
-}
-
-// Qt's calls
-
-void NoteListView::dataChanged(
-    const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles)
-{
-    QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
-    std::fill(m_heights.begin() + topLeft.row(), m_heights.begin() + bottomRight.row() + 1, 0);
-    heightsDidChange();
-}
-
-void NoteListView::resizeEvent(QResizeEvent *event)
-{
-    QAbstractItemView::resizeEvent(event);
-    if (event->size().width() != event->oldSize().width())
-        forgetHeights();
-}
-
-void NoteListView::paintEvent(QPaintEvent *event)
-{
-    measureVisibleRows();
-    updateGeometries();
-    if (m_heights.empty())
-        return;
-    QPainter painter(viewport());
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    const int first = rowAt(verticalOffset() + event->rect().top());
-    const int last = rowAt(verticalOffset() + event->rect().bottom());
-    for (int row = first; row <= last; ++row) {
-        option.rect = visualRect(m_timeline.index(row));
-        m_rows->paint(&painter, option, m_timeline.index(row));
-    }
-}
-
-QModelIndex NoteListView::moveCursor(CursorAction action, Qt::KeyboardModifiers)
-{
-    const int last = m_timeline.rowCount() - 1;
-    const int current = currentIndex().isValid() ? currentIndex().row() : 0;
-    switch (action) {
-    case MoveUp:
-    case MoveLeft:
-    case MovePrevious:
-        return m_timeline.index(std::max(0, current - 1));
-    case MoveDown:
-    case MoveRight:
-    case MoveNext:
-        return m_timeline.index(std::min(last, current + 1));
-    case MoveHome:
-        return m_timeline.index(0);
-    case MoveEnd:
-        return m_timeline.index(last);
-    case MovePageUp:
-        return m_timeline.index(rowAt(verticalOffset() - viewport()->height()));
-    case MovePageDown:
-        return m_timeline.index(rowAt(verticalOffset() + 2 * viewport()->height()));
-    }
-    return currentIndex();
-}
-
-void NoteListView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
-{
-    const QModelIndex index = indexAt(rect.topLeft());
-    selectionModel()->select(QItemSelection(index, index), command);
-}
-
-QRegion NoteListView::visualRegionForSelection(const QItemSelection &selection) const
-{
-    QRegion region;
-    for (const QModelIndex &index : selection.indexes())
-        region += visualRect(index);
-    return region;
 }

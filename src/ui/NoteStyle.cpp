@@ -67,6 +67,16 @@ QColor NoteStyle::fieldColor(const QPalette &palette)
     return byAppearance(palette, QColor(0xff, 0xff, 0xff), QColor(0x30, 0x33, 0x38));
 }
 
+QColor NoteStyle::quoteGround(const QPalette &palette)
+{
+    return byAppearance(palette, QColor(0xf0, 0xf0, 0xed), QColor(0x30, 0x33, 0x38));
+}
+
+QColor NoteStyle::hover(const QPalette &palette)
+{
+    return byAppearance(palette, QColor(0xf1, 0xf1, 0xee), QColor(0x2b, 0x2e, 0x33));
+}
+
 QColor NoteStyle::hairline(const QPalette &palette)
 {
     return byAppearance(palette, QColor(0xd9, 0xd9, 0xd5), QColor(0x3d, 0x40, 0x46));

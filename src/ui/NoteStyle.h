@@ -19,7 +19,9 @@ namespace NoteStyle {
 [[nodiscard]] QColor color(const QPalette &palette);     ///< body text
 [[nodiscard]] QColor metaColor(const QPalette &palette); ///< times, headers, hints
 [[nodiscard]] QColor background(const QPalette &palette);
-[[nodiscard]] QColor fieldColor(const QPalette &palette); ///< the capsule that is written in
+[[nodiscard]] QColor fieldColor(const QPalette &palette);  ///< the capsule that is written in
+[[nodiscard]] QColor quoteGround(const QPalette &palette); ///< behind a quoted note
+[[nodiscard]] QColor hover(const QPalette &palette);       ///< behind what is pointed at
 [[nodiscard]] QColor hairline(const QPalette &palette);
 [[nodiscard]] QColor editing(const QPalette &palette); ///< behind the note that is being edited
 [[nodiscard]] QColor flash(const QPalette &palette);   ///< behind a note that was jumped to

@@ -31,3 +31,11 @@ void PanelState::setJumpTargetID(std::optional<QUuid> id)
     m_jumpTargetID = id;
     Q_EMIT jumpTargetIDChanged();
 }
+
+void PanelState::setMode(PanelMode mode)
+{
+    if (m_mode == mode)
+        return;
+    m_mode = mode;
+    Q_EMIT modeChanged();
+}

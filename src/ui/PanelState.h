@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Note.h"
+#include "ui/PanelMode.h"
 
 #include <QObject>
 #include <QString>
@@ -23,17 +24,20 @@ public:
     [[nodiscard]] std::optional<QUuid> editingID() const { return m_editingID; }
     [[nodiscard]] const std::optional<Note> &quoting() const { return m_quoting; }
     /// A note that the timeline is to scroll to and flash, once.
+    [[nodiscard]] PanelMode mode() const { return m_mode; }
     [[nodiscard]] std::optional<QUuid> jumpTargetID() const { return m_jumpTargetID; }
 
     void setDraft(const QString &draft);
     void setEditingID(std::optional<QUuid> id);
     void setQuoting(const std::optional<Note> &note);
+    void setMode(PanelMode mode);
     void setJumpTargetID(std::optional<QUuid> id);
 
 Q_SIGNALS:
     void draftChanged();
     void editingIDChanged();
     void quotingChanged();
+    void modeChanged();
     void jumpTargetIDChanged();
 
     // Posted, not kept.
@@ -46,5 +50,6 @@ private:
     QString m_draft;
     std::optional<QUuid> m_editingID;
     std::optional<Note> m_quoting;
+    PanelMode m_mode = PanelMode::Timeline;
     std::optional<QUuid> m_jumpTargetID;
 };

@@ -36,17 +36,9 @@ bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return false;
     const auto *widget = qobject_cast<QWidget *>(watched);
-    return widget && widget->window() == this && escape();
-}
-
-bool PanelWindow::escape()
-{
-    // One layer at a time, from the inside out.
-    if (m_content->isComposing())
+    if (!widget || widget->window() != this || m_content->isComposing())
         return false;
-    if (!m_content->state().draft().isEmpty())
-        Q_EMIT m_content->state().clearComposer();
-    else
+    if (!m_content->escape())
         Q_EMIT escaped();
     return true;
 }

@@ -28,7 +28,6 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    bool escape();
     void checkFocus();
 
     ContentView *m_content = nullptr;

@@ -1,39 +1,45 @@
 #pragma once
 
+#include "ui/RowContent.h"
+
 #include <QRect>
-#include <QString>
 #include <QTextLayout>
 
 class QPalette;
 
-/// What a note's row shows of it in lines.
-struct RowContent {
-    QString text;
-    QString query;  ///< whose hits in the text are coloured
-    QString marker; ///< a remark below the text; empty for none
-    bool operator==(const RowContent &) const = default;
-};
-
-/// Where the parts of a note's row stand, and its text broken into lines. The same for measuring and for
-/// painting.
+/// Where the parts of a row stand, and its text broken into lines. The same for measuring, painting and
+/// clicking.
 class RowLayout
 {
 public:
     /// The palette gives the colours.
-    RowLayout(const RowContent &content, int width, const QPalette &palette);
+    RowLayout(RowContent content, int width, const QPalette &palette);
 
     [[nodiscard]] const RowContent &content() const { return m_content; }
     [[nodiscard]] int height() const { return m_height; }
-    [[nodiscard]] QRect timeRect() const { return m_timeRect; }
-    [[nodiscard]] QRect symbolRect() const { return m_symbolRect; }
+
+    // In the row's own coordinates; empty where the row has no such part.
+    [[nodiscard]] QRect leadRect() const { return m_leadRect; }
+    [[nodiscard]] QRect aboveRect() const { return m_aboveRect; }
+    [[nodiscard]] QRect quoteRect() const { return m_quoteRect; }
+    [[nodiscard]] QRect linkRect() const { return m_linkRect; }
     [[nodiscard]] QRect markerRect() const { return m_markerRect; }
+    [[nodiscard]] QRect trailingRect() const { return m_trailingRect; }
+    [[nodiscard]] QRect symbolRect(qsizetype symbol) const;
+    [[nodiscard]] RowPart partAt(QPoint point) const;
+
     void drawText(QPainter &painter, QPoint rowOrigin) const;
 
 private:
     RowContent m_content;
     QTextLayout m_text;
-    QRect m_timeRect;
-    QRect m_symbolRect;
+    QRect m_leadRect;
+    QRect m_aboveRect;
+    QRect m_quoteRect;
+    QRect m_linkRect;
     QRect m_markerRect;
+    QRect m_trailingRect;
+    QPoint m_symbols; ///< the first symbol's corner
+    int m_width = 0;
     int m_height = 0;
 };

@@ -6,7 +6,7 @@
 #include "text/L10n.h"
 #include "text/NoteFormatting.h"
 
-#include <QSet>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -15,27 +15,35 @@ using namespace std::chrono_literals;
 constexpr auto untilTheFrameIsShown = 20ms;
 constexpr auto slice = 4ms; ///< of a frame of 16
 constexpr qsizetype mostHits = 20;
+} // namespace
 
-/// The same header or note, whatever has become of its content.
 bool isSameRow(const TimelineRow &a, const TimelineRow &b)
 {
     if (a.kind != b.kind)
         return false;
     return a.note ? a.note->id == b.note->id : a.day == b.day;
 }
-} // namespace
 
 TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent)
-    : QAbstractListModel(parent)
+    : RowsOf(parent)
     , m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
-    , m_rows(rowsOf(notes.daySections(QString()), false))
+    , m_today(clock.calendar().startOfDay(clock.now()))
 {
     m_searchTimer.setSingleShot(true);
     connect(&m_searchTimer, &QTimer::timeout, this, &TimelineModel::continueSearch);
-    connect(&m_notes, &NoteStore::notesChanged, this, &TimelineModel::refresh);
+    const auto findReplies = [this] {
+        m_repliedTo.clear();
+        for (const Note &note : m_notes.notes()) {
+            if (note.quoteID)
+                m_repliedTo.insert(*note.quoteID);
+        }
+        refresh();
+    };
+    connect(&m_notes, &NoteStore::notesChanged, this, findReplies);
     connect(&m_reminders, &ReminderStore::remindersChanged, this, &TimelineModel::refresh);
+    findReplies();
 }
 
 TimelineModel::~TimelineModel() = default;
@@ -46,6 +54,17 @@ void TimelineModel::setQuery(const QString &query)
     refresh();
 }
 
+void TimelineModel::timeDidPass()
+{
+    const Instant today = m_clock.calendar().startOfDay(m_clock.now());
+    if (today == m_today)
+        return;
+    m_today = today;
+    refresh(); // a change of the zone moves notes to other days
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
 QList<TimelineRow> TimelineModel::rowsOf(const QList<DaySection> &sections, bool isSemanticOnly) const
 {
     QSet<QUuid> reminded;
@@ -54,12 +73,13 @@ QList<TimelineRow> TimelineModel::rowsOf(const QList<DaySection> &sections, bool
 
     QList<TimelineRow> rows;
     if (isSemanticOnly && !sections.isEmpty())
-        rows.append({TimelineRow::Kind::Title, {}, {}, false, true});
+        rows.append({TimelineRow::Kind::Title, {}, {}, false, false, true});
     for (const DaySection &section : sections) {
-        rows.append({TimelineRow::Kind::Day, section.day, {}, false, isSemanticOnly});
-        for (const Note &note : section.notes)
-            rows.append(
-                {TimelineRow::Kind::Note, section.day, note, reminded.contains(note.id), isSemanticOnly});
+        rows.append({TimelineRow::Kind::Day, section.day, {}, false, false, isSemanticOnly});
+        for (const Note &note : section.notes) {
+            rows.append({TimelineRow::Kind::Note, section.day, note, reminded.contains(note.id),
+                m_repliedTo.contains(note.id), isSemanticOnly});
+        }
     }
     return rows;
 }
@@ -71,7 +91,7 @@ void TimelineModel::refresh()
     const QList<DaySection> sections = m_notes.daySections(m_query);
     const bool needsSearch = sections.isEmpty() && !m_notes.notes().isEmpty();
     // Until it is known what resembles this query, what resembled the last one stays.
-    if (!needsSearch || m_rows.isEmpty() || !m_rows.front().isSemanticOnly)
+    if (!needsSearch || rows().isEmpty() || !rows().front().isSemanticOnly)
         show(rowsOf(sections, false));
     if (needsSearch)
         m_searchTimer.start(untilTheFrameIsShown);
@@ -90,60 +110,64 @@ void TimelineModel::continueSearch()
     show(rowsOf(m_notes.daySections(hits), true));
 }
 
-void TimelineModel::show(const QList<TimelineRow> &rows)
+QList<TimelineModel::Action> TimelineModel::actions(int number) const
 {
-    // What stands before and behind the place of a change stays; what lies between comes and goes.
-    const auto [oldFront, newFront] =
-        std::mismatch(m_rows.cbegin(), m_rows.cend(), rows.cbegin(), rows.cend(), isSameRow);
-    const auto [oldBack, newBack] =
-        std::mismatch(std::make_reverse_iterator(m_rows.cend()), std::make_reverse_iterator(oldFront),
-            std::make_reverse_iterator(rows.cend()), std::make_reverse_iterator(newFront), isSameRow);
-    const int front = int(oldFront - m_rows.cbegin());
-    const int removed = int(oldBack.base() - oldFront);
-    const int inserted = int(newBack.base() - newFront);
-
-    if (removed > 0) {
-        beginRemoveRows({}, front, front + removed - 1);
-        m_rows.remove(front, removed);
-        endRemoveRows();
-    }
-    if (inserted > 0) {
-        beginInsertRows({}, front, front + inserted - 1);
-        m_rows = m_rows.first(front) + rows.sliced(front, inserted) + m_rows.sliced(front);
-        endInsertRows();
-    }
-    for (int number = 0; number < rows.size(); ++number) {
-        if (m_rows[number] != rows[number]) {
-            m_rows[number] = rows[number];
-            Q_EMIT dataChanged(index(number), index(number));
-        }
-    }
+    QList<Action> actions;
+    if (row(number).isRepliedTo)
+        actions.append(Action::JumpToReply);
+    if (row(number).hasReminder)
+        actions.append(Action::TellReminder);
+    return actions;
 }
 
-int TimelineModel::rowCount(const QModelIndex &parent) const
+RowContent TimelineModel::content(int number) const
 {
-    return parent.isValid() ? 0 : int(m_rows.size());
-}
-
-QVariant TimelineModel::data(const QModelIndex &index, int role) const
-{
-    if (!index.isValid() || role != Qt::DisplayRole)
-        return {};
-    const TimelineRow &row = m_rows[index.row()];
+    const TimelineRow &row = this->row(number);
+    RowContent content;
     switch (row.kind) {
     case TimelineRow::Kind::Title:
-        return L10n::text("语义相关");
+        content.header = L10n::text("语义相关");
+        return content;
     case TimelineRow::Kind::Day:
-        return NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+        content.header = NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+        return content;
     case TimelineRow::Kind::Note:
-        return row.note->text;
+        break;
     }
-    return {};
+    const Note &note = *row.note;
+    content.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
+    content.text = note.text;
+    content.query = m_query;
+    content.quote = note.quote.value_or(QString());
+    if (note.link) {
+        const QUrl url(*note.link);
+        content.link = url.isLocalFile() ? url.toLocalFile() : *note.link;
+        if (url.isLocalFile())
+            content.linkSymbol = QStringLiteral("folder");
+    }
+    if (row.isSemanticOnly)
+        content.marker = L10n::text("仅供参考");
+    for (const Action action : actions(number)) {
+        switch (action) {
+        case Action::JumpToReply:
+            content.symbols.append({QStringLiteral("reply"), L10n::text("跳转到最新回复"), true});
+            break;
+        case Action::TellReminder:
+            if (const auto reminder = m_reminders.reminder(note.id)) {
+                const QString when =
+                    NoteFormatting::reminderTimeString(reminder->fireAt, m_clock.now(), m_clock.calendar());
+                content.symbols.append(
+                    {QStringLiteral("bell"), L10n::text("%@ 提醒", QStringList{when}), false});
+            }
+            break;
+        }
+    }
+    return content;
 }
 
 QModelIndex TimelineModel::indexOf(QUuid noteID) const
 {
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
+    const auto found = std::find_if(rows().begin(), rows().end(),
         [noteID](const TimelineRow &row) { return row.note && row.note->id == noteID; });
-    return found == m_rows.end() ? QModelIndex() : index(int(found - m_rows.begin()));
+    return found == rows().end() ? QModelIndex() : index(int(found - rows().begin()));
 }

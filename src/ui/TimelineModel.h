@@ -1,10 +1,9 @@
 #pragma once
 
-#include "foundation/Instant.h"
 #include "model/DaySection.h"
+#include "ui/RowModel.h"
 
-#include <QAbstractListModel>
-#include <QList>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -23,15 +22,17 @@ struct TimelineRow {
     Instant day;              ///< not of a title
     std::optional<Note> note; ///< only of a note
     bool hasReminder = false;
+    bool isRepliedTo = false;
     bool isSemanticOnly = false; ///< found among the notes that resemble the query
     bool operator==(const TimelineRow &) const = default;
 };
+[[nodiscard]] bool isSameRow(const TimelineRow &a, const TimelineRow &b);
 
 /// The store's day sections as rows: those of the notes that contain the query, or, where there are none, of
 /// the notes that resemble it. Announces exactly the rows that came, went or changed.
 ///
 /// What resembles the query is looked for a little later and in slices, so that typing never waits for it.
-class TimelineModel final : public QAbstractListModel
+class TimelineModel final : public RowsOf<TimelineRow>
 {
     Q_OBJECT
 
@@ -41,27 +42,28 @@ public:
 
     void setQuery(const QString &query);
     [[nodiscard]] const QString &query() const { return m_query; }
+    void timeDidPass(); ///< a minute, midnight, or a change of the clock
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    /// The display role is the row's text, for tests and for those who listen to the screen.
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-
-    [[nodiscard]] const TimelineRow &row(int number) const { return m_rows[number]; }
+    [[nodiscard]] RowContent content(int row) const override;
+    [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
+    [[nodiscard]] qsizetype textLength(int number) const override { return row(number).note->text.size(); }
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
-    [[nodiscard]] const Clock &clock() const { return m_clock; }
-    [[nodiscard]] const ReminderStore &reminders() const { return m_reminders; }
+
+    /// What the symbols of a note's row are for, in their order.
+    enum class Action { JumpToReply, TellReminder };
+    [[nodiscard]] QList<Action> actions(int row) const;
 
 private:
     void refresh();
     void continueSearch();
-    void show(const QList<TimelineRow> &rows);
     [[nodiscard]] QList<TimelineRow> rowsOf(const QList<DaySection> &sections, bool isSemanticOnly) const;
 
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;
     QString m_query;
-    QList<TimelineRow> m_rows;
+    QSet<QUuid> m_repliedTo;
+    Instant m_today;                        ///< its start, as the headers tell it
     std::unique_ptr<RankedSearch> m_search; ///< under way
     QTimer m_searchTimer;
 };

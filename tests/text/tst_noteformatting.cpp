@@ -68,7 +68,7 @@ private Q_SLOTS:
     void a_text_without_a_translation_is_its_own_key()
     {
         QCOMPARE(L10n::text("导入"), u"导入"_s);
-        QCOMPARE(L10n::text("明天 %@", u"09:00"_s, u"xx"_s), u"明天 09:00"_s);
+        QCOMPARE(L10n::text("明天 %@", {u"09:00"_s}, u"xx"_s), u"明天 09:00"_s);
     }
 };
 

@@ -1,0 +1,4 @@
+#pragma once
+
+/// What the panel shows in its middle.
+enum class PanelMode { Timeline, Tags, Reminders, Trash };

@@ -1,0 +1,36 @@
+#include "ui/PermissionBanner.h"
+
+#include "text/L10n.h"
+#include "ui/Design.h"
+#include "ui/NoteStyle.h"
+#include "ui/Symbol.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+
+PermissionBanner::PermissionBanner(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("permissionBanner"));
+    auto *text =
+        new QLabel(L10n::text("通知权限未开启，到点不会弹通知。请到 系统设置 → 通知 → Quillet 开启。"), this);
+    text->setTextFormat(Qt::PlainText);
+    text->setFont(NoteStyle::quoteFont());
+    text->setWordWrap(true);
+    QPalette colors = text->palette();
+    colors.setColor(QPalette::WindowText, NoteStyle::destructiveColor(palette()));
+    text->setPalette(colors);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(
+        2 * Design::edge + Design::symbolSize, Design::grid, Design::edge, 2 * Design::grid);
+    layout->addWidget(text);
+}
+
+void PermissionBanner::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Symbol::paint(painter,
+        {Design::edge, (height() - Design::symbolSize) / 2, Design::symbolSize, Design::symbolSize},
+        QStringLiteral("bell.slash"), NoteStyle::destructiveColor(palette()));
+}

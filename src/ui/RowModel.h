@@ -1,0 +1,81 @@
+#pragma once
+
+#include "ui/RowContent.h"
+
+#include <QAbstractListModel>
+
+#include <algorithm>
+#include <iterator>
+
+/// Rows that tell what they show. For those who listen to the screen the display role is a row's text.
+class RowModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    [[nodiscard]] virtual RowContent content(int row) const = 0;
+    [[nodiscard]] virtual bool isHeader(int row) const = 0;
+    /// An estimate of the text's length in characters, for rows that are far from being shown.
+    [[nodiscard]] virtual qsizetype textLength(int row) const = 0;
+
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
+            return {};
+        const RowContent shown = content(index.row());
+        return shown.isHeader() ? shown.header : shown.text;
+    }
+};
+
+/// Rows of one type. What is new is compared with what is shown, and exactly what came, went or changed is
+/// announced. Two rows stand for the same thing, whatever has become of it, where isSameRow(a, b).
+template <typename Row>
+class RowsOf : public RowModel
+{
+public:
+    using RowModel::RowModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_rows.size());
+    }
+    [[nodiscard]] const Row &row(int number) const { return m_rows[number]; }
+    [[nodiscard]] const QList<Row> &rows() const { return m_rows; }
+
+protected:
+    void show(const QList<Row> &rows)
+    {
+        // What stands before and behind the place of a change stays; what lies between comes and goes.
+        const auto isSame = [](const Row &a, const Row &b) { return isSameRow(a, b); };
+        const auto [oldFront, newFront] =
+            std::mismatch(m_rows.cbegin(), m_rows.cend(), rows.cbegin(), rows.cend(), isSame);
+        const auto [oldBack, newBack] =
+            std::mismatch(std::make_reverse_iterator(m_rows.cend()), std::make_reverse_iterator(oldFront),
+                std::make_reverse_iterator(rows.cend()), std::make_reverse_iterator(newFront), isSame);
+        const int front = int(oldFront - m_rows.cbegin());
+        const int removed = int(oldBack.base() - oldFront);
+        const int inserted = int(newBack.base() - newFront);
+
+        if (removed > 0) {
+            beginRemoveRows({}, front, front + removed - 1);
+            m_rows.remove(front, removed);
+            endRemoveRows();
+        }
+        if (inserted > 0) {
+            beginInsertRows({}, front, front + inserted - 1);
+            m_rows = m_rows.first(front) + rows.sliced(front, inserted) + m_rows.sliced(front);
+            endInsertRows();
+        }
+        for (int number = 0; number < rows.size(); ++number) {
+            if (m_rows[number] != rows[number]) {
+                m_rows[number] = rows[number];
+                Q_EMIT dataChanged(index(number), index(number));
+            }
+        }
+    }
+
+private:
+    QList<Row> m_rows;
+};
