@@ -1,6 +1,7 @@
 #include "app/QuilletApp.h"
 
 #include "ui/ContentView.h"
+#include "ui/ImportExport.h"
 
 #include <QTimer>
 
@@ -26,6 +27,10 @@ QuilletApp::QuilletApp(Start start)
         &ReminderStore::refreshAuthorizationStatus);
 
     connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggle);
+    connect(&m_statusBar, &StatusBarMenu::importChosen, this,
+        [this] { ImportExport::importNotes(m_notes, m_clock); });
+    connect(&m_statusBar, &StatusBarMenu::exportChosen, this,
+        [this] { ImportExport::exportNotes(m_notes, m_clock); });
     connect(&m_statusBar, &StatusBarMenu::noTray, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);

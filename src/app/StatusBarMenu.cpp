@@ -25,6 +25,9 @@ void StatusBarMenu::install()
 void StatusBarMenu::makeIcon()
 {
     m_menu = std::make_unique<QMenu>();
+    m_menu->addAction(L10n::text("导入"), this, &StatusBarMenu::importChosen);
+    m_menu->addAction(L10n::text("导出"), this, &StatusBarMenu::exportChosen);
+    m_menu->addSeparator();
     m_menu->addAction(L10n::text("退出"), qApp, &QApplication::quit);
     // A tray tells nobody its colour; most are dark.
     m_icon = std::make_unique<QSystemTrayIcon>(

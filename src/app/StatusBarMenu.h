@@ -22,6 +22,8 @@ public:
 
 Q_SIGNALS:
     void clicked();
+    void importChosen();
+    void exportChosen();
     void shown();
     void noTray(); ///< none has come for a while
 

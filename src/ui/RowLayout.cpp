@@ -89,7 +89,9 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
         y += Design::smallLineHeight;
     }
     m_height = y + Design::rowPadding;
-    m_leadRect = {Design::edge, textTop, Design::timeColumn, firstLine};
+    const int leadHeight = m_content.quote.isEmpty() ? firstLine : Design::quoteHeight;
+    m_leadRect = {Design::edge, m_content.quote.isEmpty() ? textTop : m_quoteRect.top(), Design::timeColumn,
+        leadHeight};
     m_trailingRect = {right, textTop, trailing + Design::symbolSize + Design::grid, firstLine};
     m_symbols = {
         width - Design::edge - symbols + Design::grid, textTop + (firstLine - Design::symbolSize) / 2};

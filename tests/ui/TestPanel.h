@@ -14,6 +14,7 @@
 #include "ui/PanelWindow.h"
 #include "ui/RelatedNotesView.h"
 #include "ui/ReminderBar.h"
+#include "ui/RowDelegate.h"
 
 #include <QAbstractItemModel>
 #include <QContextMenuEvent>
@@ -60,12 +61,44 @@ public:
     }
     void press(Qt::Key key) { QTest::keyClick(field(), key); }
 
-    QStringList rows()
+    template <typename Widget>
+    Widget *find(const char *name)
+    {
+        auto *found = window.findChild<Widget *>(QString::fromUtf8(name));
+        if (!found)
+            qFatal("no widget named %s", name);
+        return found;
+    }
+    RecordingScheduler &scheduler() { return m_scheduler; }
+
+    static QStringList rowsOf(const QAbstractItemView &view)
     {
         QStringList rows;
-        for (int row = 0; row < list().model()->rowCount(); ++row)
-            rows.append(list().model()->index(row, 0).data().toString());
+        for (int row = 0; row < view.model()->rowCount(); ++row)
+            rows.append(view.model()->index(row, 0).data().toString());
         return rows;
+    }
+    QStringList rows() { return rowsOf(list()); }
+    void clickRow(QAbstractItemView &view, int row)
+    {
+        const QPoint where = view.visualRect(view.model()->index(row, 0)).center();
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, where);
+    }
+    /// Where the part is, by asking the row for it point by point.
+    void clickPart(int row, RowPart part)
+    {
+        const RowDelegate *rows = list().findChild<RowDelegate *>();
+        const QRect place = list().visualRect(list().model()->index(row, 0));
+        const RowLayout &layout = rows->layout(row, place.width(), list().palette());
+        for (int y = 0; y < place.height(); y += 2) {
+            for (int x = 0; x < place.width(); x += 2) {
+                if (layout.partAt({x, y}) == part) {
+                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place.topLeft() + QPoint(x, y));
+                    return;
+                }
+            }
+        }
+        qFatal("no such part in row %d", row);
     }
     void doubleClick(int row)
     {
@@ -73,12 +106,13 @@ public:
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
     }
     /// An entry of the row's context menu.
-    void choose(int row, const QString &entry)
+    void choose(int row, const QString &entry) { choose(list(), row, entry); }
+    static void choose(QAbstractItemView &view, int row, const QString &entry)
     {
-        const QPoint where = list().visualRect(list().model()->index(row, 0)).center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, where, list().viewport()->mapToGlobal(where));
-        QCoreApplication::sendEvent(list().viewport(), &event);
-        QMenu *menu = list().findChildren<QMenu *>().last();
+        const QPoint where = view.visualRect(view.model()->index(row, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, where, view.viewport()->mapToGlobal(where));
+        QCoreApplication::sendEvent(view.viewport(), &event);
+        QMenu *menu = view.findChildren<QMenu *>().last();
         for (QAction *action : menu->actions()) {
             if (action->text() == entry)
                 action->trigger();

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+/// The dialogs in which a file is chosen. A test answers in advance.
+namespace FileDialogs {
+enum class Format { Json, Markdown };
+[[nodiscard]] QString extension(Format format); ///< without its dot
+
+struct Target {
+    QString path; ///< as the person wrote it
+    Format format = Format::Json;
+};
+/// Nothing when the person thinks better of it. The name's extension follows the format that is chosen.
+[[nodiscard]] std::optional<Target> askForTarget(const QString &title, const QString &baseName);
+/// A JSON or Markdown file to be read.
+[[nodiscard]] std::optional<QString> askForSource(const QString &title);
+
+/// What the next dialog answers, without being shown; nothing is a dialog that was cancelled.
+void setNextTarget(const std::optional<Target> &target);
+void setNextSource(const std::optional<QString> &path);
+} // namespace FileDialogs

@@ -1,0 +1,291 @@
+// The panel's modes and what can be done in each. Now is Monday 2026-03-02 10:00 in Asia/Shanghai.
+#include "ui/FileDialogs.h"
+#include "ui/ImportExport.h"
+#include "ui/ModalQuestion.h"
+#include "ui/RowDelegate.h"
+#include "ui/SuggestionList.h"
+#include "ui/TagRenameState.h"
+#include "ui/TestPanel.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+class ModesTest final : public QObject
+{
+    Q_OBJECT
+
+    QUrl m_opened;
+
+private Q_SLOTS:
+    void openedUrl(const QUrl &url) { m_opened = url; }
+
+    void a_mode_button_leads_there_and_back()
+    {
+        TestPanel panel;
+        panel.notes.add(u"买菜 #家务"_s);
+        auto *tags = panel.find<QAbstractButton>("mode.number");
+        auto *trash = panel.find<QAbstractButton>("mode.trash");
+        tags->click();
+        QCOMPARE(panel.state().mode(), PanelMode::Tags);
+        QCOMPARE(panel.find<QLabel>("title")->text(), u"标签"_s);
+        QCOMPARE(tags->toolTip(), u"返回时间线"_s);
+        QCOMPARE(panel.field()->placeholderText(), u"输入即筛选标签"_s);
+        tags->click();
+        QCOMPARE(panel.state().mode(), PanelMode::Timeline);
+        QTRY_VERIFY(panel.field()->hasFocus());
+        trash->click();
+        QVERIFY(!panel.field()->isVisible());
+        QCOMPARE(tags->toolTip(), u"标签"_s);
+        QTest::keyClick(&panel.window, Qt::Key_2, Qt::ControlModifier);
+        QCOMPARE(panel.state().mode(), PanelMode::Tags);
+        QTRY_VERIFY(panel.field()->hasFocus());
+        panel.type(u"x"_s);
+        panel.press(Qt::Key_Return); // the field only filters here
+        QCOMPARE(panel.notes.notes().size(), 1);
+        QCOMPARE(panel.field()->text(), u"x"_s);
+    }
+
+    void tags_are_offered_while_one_is_typed()
+    {
+        TestPanel panel;
+        panel.notes.add(u"一 #家务"_s);
+        panel.notes.add(u"二 #家庭"_s);
+        panel.type(u"买菜 #家"_s);
+        auto *list = panel.window.findChild<SuggestionList *>();
+        QVERIFY(list->isVisible());
+        QCOMPARE(list->suggestions(), (QStringList{u"#家庭"_s, u"#家务"_s}));
+        panel.press(Qt::Key_Down);
+        panel.compose(u"x"_s);
+        panel.press(Qt::Key_Return); // the input method's
+        panel.compose({});
+        QCOMPARE(panel.field()->text(), u"买菜 #家"_s);
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.field()->text(), u"买菜 #家务"_s);
+        QVERIFY(!list->isVisible());
+        QCOMPARE(panel.notes.notes().size(), 2);
+        QTRY_COMPARE(panel.field()->cursorPosition(), panel.field()->text().size());
+        panel.press(Qt::Key_Return);
+        QCOMPARE(panel.savedNotes().size(), 3);
+        panel.type(u"#"_s);
+        QVERIFY(list->isVisible());
+        panel.press(Qt::Key_Escape); // the list first, the draft then
+        QVERIFY(!list->isVisible());
+        QCOMPARE(panel.field()->text(), u"#"_s);
+    }
+
+    void a_reply_quotes_a_note_and_each_leads_to_the_other()
+    {
+        TestPanel panel;
+        const Note quoted = *panel.notes.add(u"聚餐定在周五"_s);
+        panel.clock.advance(std::chrono::minutes(1));
+        panel.choose(1, u"引用"_s);
+        auto *bar = panel.find<QWidget>("quoteBar");
+        QVERIFY(bar->isVisible());
+        panel.type(u"明天下午3点 改到周六"_s);
+        QVERIFY(panel.reminderBar()->isVisible()); // although a reply makes no reminder
+        panel.press(Qt::Key_Return);
+        QVERIFY(!bar->isVisible());
+        const Note reply = panel.savedNotes().first();
+        QCOMPARE(reply.quoteID, quoted.id);
+        QVERIFY(panel.reminders.reminders().isEmpty());
+        panel.clickPart(2, {RowPart::Kind::Symbol, 0});
+        QTRY_COMPARE(panel.list().flashID(), reply.id);
+        panel.clickPart(1, {RowPart::Kind::Quote});
+        QTRY_COMPARE(panel.list().flashID(), quoted.id);
+
+        panel.choose(1, u"引用"_s);
+        panel.find<QAbstractButton>("dismissQuote")->click();
+        QVERIFY(!panel.state().quoting());
+    }
+
+    void a_link_is_opened_by_a_click()
+    {
+        TestPanel panel;
+        panel.notes.add(u"页面"_s, {}, u"https://example.com/a%20b"_s);
+        QDesktopServices::setUrlHandler(u"https"_s, this, "openedUrl");
+        panel.clickPart(1, {RowPart::Kind::Link});
+        QCOMPARE(m_opened, QUrl(u"https://example.com/a%20b"_s));
+        QDesktopServices::unsetUrlHandler(u"https"_s);
+    }
+
+    void the_keyboard_does_what_the_mouse_does()
+    {
+        TestPanel panel;
+        const Note older = *panel.notes.add(u"旧"_s);
+        panel.clock.advance(std::chrono::minutes(1));
+        panel.notes.add(u"新"_s);
+        panel.press(Qt::Key_Down);
+        QTRY_VERIFY(panel.list().hasFocus());
+        QCOMPARE(panel.list().currentIndex().row(), 1);
+        QTest::keyClick(&panel.list(), Qt::Key_Down);
+        QTest::keyClick(&panel.list(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"旧"_s);
+        QTest::keyClick(&panel.list(), Qt::Key_Escape);
+        QVERIFY(panel.field()->hasFocus());
+        panel.press(Qt::Key_Up);
+        QTest::keyClick(&panel.list(), Qt::Key_Delete);
+        QCOMPARE(panel.rows().last(), u"旧"_s);
+        panel.field()->setFocus();
+        panel.press(Qt::Key_Down);
+        QTest::keyClick(&panel.list(), Qt::Key_Return);
+        QCOMPARE(panel.state().editingID(), older.id);
+        QCOMPARE(panel.field()->text(), u"旧"_s);
+    }
+
+    void what_is_replaced_in_the_field_can_be_taken_back()
+    {
+        TestPanel panel;
+        panel.notes.add(u"旧"_s);
+        panel.type(u"写了一半"_s);
+        panel.list().scrollAndFlash(panel.notes.notes().first().id, false);
+        QCOMPARE(panel.field()->text(), QString());
+        QTest::keyClick(panel.field(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(panel.field()->text(), u"写了一半"_s);
+        QGuiApplication::clipboard()->setText(u"一\r\n二\n\n三"_s);
+        panel.press(Qt::Key_Escape);
+        QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(panel.field()->text(), u"一 二 三"_s);
+    }
+
+    void a_tag_is_picked_renamed_merged_and_deleted()
+    {
+        TestPanel panel;
+        panel.notes.add(u"甲 #a"_s);
+        panel.notes.add(u"乙 #b"_s);
+        panel.state().setMode(PanelMode::Tags);
+        auto *list = panel.find<QAbstractItemView>("tagList");
+        QCOMPARE(panel.rowsOf(*list), (QStringList{u"#b"_s, u"#a"_s}));
+        const auto rename = [&](int row, const QString &to) {
+            panel.choose(*list, row, u"重命名"_s);
+            auto *field = list->findChild<QLineEdit *>();
+            field->setText(to);
+            QTest::keyClick(field, Qt::Key_Return);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        for (const QString &refused : {u" b "_s, u"x@y"_s, u""_s, u"#c"_s})
+            rename(0, refused);
+        QCOMPARE(panel.rowsOf(*list), (QStringList{u"#b"_s, u"#a"_s}));
+        rename(0, u" c "_s);
+        QCOMPARE(panel.rowsOf(*list), (QStringList{u"#c"_s, u"#a"_s}));
+        ModalQuestion::setNextAnswer(false);
+        rename(0, u"a"_s);
+        QCOMPARE(ModalQuestion::lastTold(),
+            (ModalQuestion::Told{
+                u"合并标签？"_s, u"把「#c」改名为已存在的「#a」，涉及 1 条笔记，合并后无法再分开。"_s}));
+        QCOMPARE(panel.rowsOf(*list), (QStringList{u"#c"_s, u"#a"_s}));
+        ModalQuestion::setNextAnswer(true);
+        rename(0, u"a"_s);
+        QCOMPARE(panel.rowsOf(*list), QStringList{u"#a"_s});
+
+        panel.choose(*list, 0, u"重命名"_s);
+        QTest::keyClick(list->findChild<QLineEdit *>(), Qt::Key_Escape); // and no more than that
+        QVERIFY(!TagRenameState::active()->renaming());
+        QVERIFY(panel.window.isVisible());
+
+        ModalQuestion::setNextAnswer(true);
+        panel.choose(*list, 0, u"删除"_s);
+        QCOMPARE(ModalQuestion::lastTold().title, u"删除标签「#a」？"_s);
+        QCOMPARE(panel.rowsOf(*list), QStringList());
+
+        panel.notes.add(u"丙 #d"_s);
+        panel.clickRow(*list, 0);
+        QCOMPARE(panel.state().mode(), PanelMode::Timeline);
+        QCOMPARE(panel.field()->text(), u"#d"_s);
+    }
+
+    void reminders_are_upcoming_and_expired()
+    {
+        TestPanel panel;
+        const Note note = *panel.notes.add(u"明天交房租"_s);
+        panel.reminders.schedule(note.id, at("2026-03-02T02:30:00Z"), u"交房租"_s, note.text);
+        panel.reminders.schedule(note.id, at("2026-03-03T02:00:00Z"), u"交房租"_s, note.text);
+        panel.state().setMode(PanelMode::Reminders);
+        auto *list = panel.find<QAbstractItemView>("reminderList");
+        QCOMPARE(panel.rowsOf(*list).size(), 2);
+        QVERIFY(!panel.find<QWidget>("permissionBanner")->isVisible());
+        panel.clock.set("2026-03-02T02:30:00Z");
+        panel.window.hide();
+        panel.scheduler().status = AuthorizationStatus::Denied;
+        panel.reminders.refreshAuthorizationStatus();
+        panel.window.show(); // what has expired is kept while notifications are not allowed
+        QCOMPARE(panel.rowsOf(*list), (QStringList{u"明天交房租"_s, u"已过期"_s, u"明天交房租"_s}));
+        QVERIFY(panel.find<QWidget>("permissionBanner")->isVisible());
+        panel.choose(*list, 0, u"跳转到笔记"_s);
+        QTRY_COMPARE(panel.list().flashID(), note.id);
+        panel.state().setMode(PanelMode::Reminders);
+        panel.choose(*list, 0, u"取消提醒"_s);
+        QCOMPARE(panel.rowsOf(*list), QStringList());
+    }
+
+    void the_trash_gives_back_and_is_emptied()
+    {
+        TestPanel panel;
+        const Note note = *panel.notes.add(u"一"_s);
+        panel.notes.add(u"二"_s);
+        panel.state().setMode(PanelMode::Trash);
+        auto *empty = panel.find<QPushButton>("emptyTrash");
+        QVERIFY(!empty->isEnabled());
+        panel.notes.remove(note.id);
+        panel.notes.remove(panel.notes.notes().first().id);
+        auto *list = panel.find<QAbstractItemView>("trashList");
+        QCOMPARE(panel.rowsOf(*list).size(), 3);
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(panel.notes.notes().size(), 1);
+        empty->click();
+        QVERIFY(panel.notes.trash().isEmpty());
+        QVERIFY(!empty->isEnabled());
+    }
+
+    void midnight_moves_today()
+    {
+        TestPanel panel;
+        panel.notes.add(u"一"_s);
+        QCOMPARE(panel.rows().first(), u"今天 · 3月2日 星期一"_s);
+        panel.window.hide();
+        panel.clock.set("2026-03-02T16:00:00Z");
+        panel.window.show();
+        QCOMPARE(panel.rows().first(), u"3月2日 星期一"_s);
+    }
+
+    void notes_go_out_and_come_in()
+    {
+        TestPanel panel;
+        const QTemporaryDir folder;
+        panel.notes.add(u"一 #t"_s);
+        struct Case {
+            const char *name;
+            FileDialogs::Format format;
+            const char *written;
+        };
+        for (const Case &each : {Case{"a.MD", FileDialogs::Format::Json, "a.json"},
+                 Case{"b.markdown", FileDialogs::Format::Markdown, "b.md"},
+                 Case{"c.txt", FileDialogs::Format::Json, "c.txt.json"}}) {
+            FileDialogs::setNextTarget(
+                FileDialogs::Target{folder.filePath(QString::fromUtf8(each.name)), each.format});
+            ImportExport::exportNotes(panel.notes, panel.clock);
+            QVERIFY2(QFile::exists(folder.filePath(QString::fromUtf8(each.written))), each.written);
+        }
+        const auto import = [&](const QString &name) {
+            FileDialogs::setNextSource(folder.filePath(name));
+            ModalQuestion::setNextAnswer(true);
+            ImportExport::importNotes(panel.notes, panel.clock);
+            return ModalQuestion::lastTold();
+        };
+        QCOMPARE(
+            import(u"a.json"_s), (ModalQuestion::Told{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
+        QCOMPARE(import(u"b.md"_s), (ModalQuestion::Told{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
+        QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
+        FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, FileDialogs::Format::Json});
+        ModalQuestion::setNextAnswer(true);
+        ImportExport::exportNotes(panel.notes, panel.clock);
+        QCOMPARE(ModalQuestion::lastTold().title, u"导出失败"_s);
+    }
+};
+
+QTEST_MAIN(ModesTest)
+#include "tst_modes.moc"
