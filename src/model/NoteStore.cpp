@@ -12,6 +12,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 constexpr qsizetype notesFile = 0;
@@ -25,6 +26,25 @@ QStringList filePaths(const QString &notesPath)
 auto withID(QUuid id)
 {
     return [id](const Note &note) { return note.id == id; };
+}
+
+QList<qsizetype> allPlaces(const QList<Note> &notes)
+{
+    QList<qsizetype> places(notes.size());
+    std::iota(places.begin(), places.end(), 0);
+    return places;
+}
+
+QList<DaySection> sections(const QList<Note> &notes, const QList<NoteStore::DayPlaces> &days)
+{
+    QList<DaySection> sections;
+    for (const NoteStore::DayPlaces &day : days) {
+        DaySection section{day.day, {}};
+        for (const qsizetype place : day.places)
+            section.notes.append(notes[place]);
+        sections.append(section);
+    }
+    return sections;
 }
 
 void sortNewestFirst(QList<Note> &notes)
@@ -297,34 +317,48 @@ void NoteStore::removeTag(const QString &tag)
     publishAndSave();
 }
 
-QList<DaySection> NoteStore::groupByDay(const QList<Note> &notes, const Calendar &calendar)
+QList<NoteStore::DayPlaces> NoteStore::placesByDay(
+    const QList<Note> &notes, const QList<qsizetype> &places, const Calendar &calendar)
 {
-    QList<DaySection> sections;
+    QList<DayPlaces> sections;
     QHash<qint64, qsizetype> indexOfDay;
-    for (const Note &note : notes) {
-        const Instant day = calendar.startOfDay(note.createdAt);
-        const qint64 key = day.time_since_epoch().count();
-        const auto found = indexOfDay.constFind(key);
-        if (found != indexOfDay.cend()) {
-            sections[*found].notes.append(note);
-        } else {
-            indexOfDay.insert(key, sections.size());
-            sections.append({day, {note}});
+    // Notes that follow each other are mostly of one day, and to ask the calendar takes long.
+    qsizetype section = -1;
+    Instant dayEnd;
+    for (const qsizetype place : places) {
+        const Instant createdAt = notes[place].createdAt;
+        if (section < 0 || createdAt < sections[section].day || createdAt >= dayEnd) {
+            const Instant day = calendar.startOfDay(createdAt);
+            const qint64 key = day.time_since_epoch().count();
+            section = indexOfDay.value(key, sections.size());
+            if (section == sections.size()) {
+                indexOfDay.insert(key, section);
+                sections.append({day, {}});
+            }
+            dayEnd = calendar.startOfDay(day + std::chrono::hours(36));
         }
+        sections[section].places.append(place);
     }
     return sections;
 }
 
-QList<DaySection> NoteStore::daySections(const QString &query) const
+QList<DaySection> NoteStore::groupByDay(const QList<Note> &notes, const Calendar &calendar)
+{
+    return sections(notes, placesByDay(notes, allPlaces(notes), calendar));
+}
+
+QList<NoteStore::DayPlaces> NoteStore::dayPlaces(const QString &query) const
 {
     const QString trimmed = query.trimmed();
     if (trimmed.isEmpty())
-        return groupByDay(m_notes, m_clock.calendar());
+        return placesByDay(m_notes, allPlaces(m_notes), m_clock.calendar());
     bringIndexUpToDate();
-    QList<Note> found;
-    for (const qsizetype place : m_search.texts.containing(trimmed))
-        found.append(m_notes[place]);
-    return groupByDay(found, m_clock.calendar());
+    return placesByDay(m_notes, m_search.texts.containing(trimmed), m_clock.calendar());
+}
+
+QList<DaySection> NoteStore::daySections(const QString &query) const
+{
+    return sections(m_notes, dayPlaces(query));
 }
 
 QList<DaySection> NoteStore::daySections(const QList<SemanticHit> &hits) const
@@ -401,6 +435,14 @@ QList<SemanticHit> NoteStore::hits(const RankedSearch &search) const
     for (const RankedSearch::Match &match : search.matches())
         found.append({m_notes[match.place], match.score.kind});
     return found;
+}
+
+QList<NoteStore::DayPlaces> NoteStore::dayPlaces(const RankedSearch &search) const
+{
+    QList<qsizetype> places;
+    for (const RankedSearch::Match &match : search.matches())
+        places.append(match.place);
+    return placesByDay(m_notes, places, m_clock.calendar());
 }
 
 QList<Note> NoteStore::relatedNotes(const Note &note, qsizetype limit) const

@@ -66,6 +66,13 @@ public:
     /// Also in the trash. A live note left empty moves to the trash, a trashed one is gone.
     void removeTag(const QString &tag);
 
+    /// Notes of one day, by their places in notes().
+    struct DayPlaces {
+        Instant day;
+        QList<qsizetype> places;
+    };
+    /// The sections of daySections() without copying their notes: what a list asks for at each key press.
+    [[nodiscard]] QList<DayPlaces> dayPlaces(const QString &query) const;
     /// One section for each day, both in the order given.
     [[nodiscard]] static QList<DaySection> groupByDay(const QList<Note> &notes, const Calendar &calendar);
     /// By the day the notes were written, the newest first.
@@ -84,6 +91,8 @@ public:
     [[nodiscard]] std::unique_ptr<RankedSearch> beginRankedSearch(
         const QString &query, qsizetype limit) const;
     [[nodiscard]] QList<SemanticHit> hits(const RankedSearch &search) const;
+    [[nodiscard]] QList<DayPlaces> dayPlaces(
+        const RankedSearch &search) const; ///< of its hits, in their order
     /// The other live notes that share words or pairs of characters with this one, the best first.
     [[nodiscard]] QList<Note> relatedNotes(const Note &note, qsizetype limit) const;
     /// The notes whose sentence vector is kept.
@@ -93,6 +102,8 @@ Q_SIGNALS:
     void notesChanged(); ///< notes or trash have changed and are about to be saved
 
 private:
+    [[nodiscard]] static QList<DayPlaces> placesByDay(
+        const QList<Note> &notes, const QList<qsizetype> &places, const Calendar &calendar);
     void load();
     void publishAndSave();
     void dropDerived(QUuid id); ///< what is kept about a note's text, its vector included

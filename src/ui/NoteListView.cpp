@@ -50,7 +50,7 @@ void NoteListView::queryDidChange()
 
 void NoteListView::activate(int row)
 {
-    const Note note = *m_timeline.row(row).note;
+    const Note note = m_timeline.note(row);
     m_state.setDraft(note.text);
     m_state.setEditingID(note.id);
     m_state.setQuoting({});
@@ -66,17 +66,17 @@ void NoteListView::quote(const Note &note)
 
 void NoteListView::copy(int row)
 {
-    QGuiApplication::clipboard()->setText(m_timeline.row(row).note->text);
+    QGuiApplication::clipboard()->setText(m_timeline.row(row).text);
 }
 
 void NoteListView::remove(int row)
 {
-    m_notes.remove(m_timeline.row(row).note->id);
+    m_notes.remove(m_timeline.row(row).id);
 }
 
 void NoteListView::clickPart(int row, RowPart part)
 {
-    const Note note = *m_timeline.row(row).note;
+    const Note note = m_timeline.note(row);
     switch (part.kind) {
     case RowPart::Kind::Quote:
         jumpToQuoted(note);
@@ -96,7 +96,7 @@ void NoteListView::clickPart(int row, RowPart part)
 
 void NoteListView::fillMenu(QMenu &menu, int row)
 {
-    const Note note = *m_timeline.row(row).note;
+    const Note note = m_timeline.note(row);
     menu.addAction(L10n::text("引用"), this, [this, note] { quote(note); });
     menu.addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
     menu.addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
@@ -108,12 +108,12 @@ void NoteListView::fillMenu(QMenu &menu, int row)
 
 QColor NoteListView::groundOf(int row) const
 {
-    const auto &note = m_timeline.row(row).note;
-    if (!note)
+    if (m_timeline.isHeader(row))
         return {};
-    if (note->id == m_flashID)
+    const QUuid id = m_timeline.row(row).id;
+    if (id == m_flashID)
         return NoteStyle::flash(palette());
-    return note->id == m_state.editingID() ? NoteStyle::editing(palette()) : QColor();
+    return id == m_state.editingID() ? NoteStyle::editing(palette()) : QColor();
 }
 
 void NoteListView::showRelated(const Note &note)

@@ -55,12 +55,17 @@ void ReminderModel::timeDidPass()
         Q_EMIT dataChanged(index(0), index(rowCount() - 1)); // "today" and "tomorrow" move
 }
 
+QString ReminderModel::text(int number) const
+{
+    return row(number).reminder ? row(number).text : L10n::text("已过期");
+}
+
 RowContent ReminderModel::content(int number) const
 {
     const ReminderRow &row = this->row(number);
     RowContent content;
     if (!row.reminder) {
-        content.header = L10n::text("已过期");
+        content.header = text(number);
         return content;
     }
     const QString when =

@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).reminder; }
-    [[nodiscard]] qsizetype textLength(int number) const override { return row(number).text.size(); }
+    [[nodiscard]] QString text(int row) const override;
 
 private:
     void refresh();

@@ -281,7 +281,7 @@ int RowListView::estimatedHeight(int row) const
         return Design::headerHeight;
     constexpr int line = 20;
     const qsizetype perLine = std::max(1, (viewport()->width() - 90) / Design::bodySize);
-    const qsizetype lines = std::clamp<qsizetype>(m_rowModel.textLength(row) / perLine + 1, 1, 100);
+    const qsizetype lines = std::clamp<qsizetype>(m_rowModel.text(row).size() / perLine + 1, 1, 100);
     return int(lines) * line + 2 * Design::rowPadding;
 }
 

@@ -17,15 +17,12 @@ public:
 
     [[nodiscard]] virtual RowContent content(int row) const = 0;
     [[nodiscard]] virtual bool isHeader(int row) const = 0;
-    /// An estimate of the text's length in characters, for rows that are far from being shown.
-    [[nodiscard]] virtual qsizetype textLength(int row) const = 0;
-
+    [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
     {
         if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
             return {};
-        const RowContent shown = content(index.row());
-        return shown.isHeader() ? shown.header : shown.text;
+        return text(index.row());
     }
 };
 
@@ -58,6 +55,19 @@ protected:
         const int removed = int(oldBack.base() - oldFront);
         const int inserted = int(newBack.base() - newFront);
 
+        QList<int> changed;
+        for (int number = 0; number < rows.size(); ++number) {
+            const bool isInFront = number < front;
+            if ((isInFront || number >= front + inserted)
+                && m_rows[isInFront ? number : number - inserted + removed] != rows[number])
+                changed.append(number);
+        }
+
+        // The rows that stay are brought up to date first: whoever is told of the others may look at them.
+        for (int number = 0; number < front; ++number)
+            m_rows[number] = rows[number];
+        for (int back = 1; back <= rows.size() - front - inserted; ++back)
+            m_rows[m_rows.size() - back] = rows[rows.size() - back];
         if (removed > 0) {
             beginRemoveRows({}, front, front + removed - 1);
             m_rows.remove(front, removed);
@@ -65,15 +75,11 @@ protected:
         }
         if (inserted > 0) {
             beginInsertRows({}, front, front + inserted - 1);
-            m_rows = m_rows.first(front) + rows.sliced(front, inserted) + m_rows.sliced(front);
+            m_rows = rows;
             endInsertRows();
         }
-        for (int number = 0; number < rows.size(); ++number) {
-            if (m_rows[number] != rows[number]) {
-                m_rows[number] = rows[number];
-                Q_EMIT dataChanged(index(number), index(number));
-            }
-        }
+        for (const int number : changed)
+            Q_EMIT dataChanged(index(number), index(number));
     }
 
 private:

@@ -41,10 +41,15 @@ void TagModel::refresh()
     show(shown);
 }
 
+QString TagModel::text(int number) const
+{
+    return u'#' + row(number).name;
+}
+
 RowContent TagModel::content(int number) const
 {
     RowContent content;
-    content.text = u'#' + row(number).name;
+    content.text = text(number);
     content.query = m_query.trimmed();
     content.trailing = QString::number(row(number).count);
     return content;

@@ -21,7 +21,7 @@ public:
 
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int) const override { return false; }
-    [[nodiscard]] qsizetype textLength(int number) const override { return row(number).name.size(); }
+    [[nodiscard]] QString text(int row) const override;
     [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
 
 private:

@@ -19,9 +19,13 @@ constexpr qsizetype mostHits = 20;
 
 bool isSameRow(const TimelineRow &a, const TimelineRow &b)
 {
-    if (a.kind != b.kind)
-        return false;
-    return a.note ? a.note->id == b.note->id : a.day == b.day;
+    return a.kind == b.kind && a.id == b.id && a.day == b.day;
+}
+
+bool operator==(const TimelineRow &a, const TimelineRow &b)
+{
+    return isSameRow(a, b) && a.hasReminder == b.hasReminder && a.isRepliedTo == b.isRepliedTo
+           && a.isSemanticOnly == b.isSemanticOnly && a.text == b.text;
 }
 
 TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent)
@@ -34,16 +38,27 @@ TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const C
     m_searchTimer.setSingleShot(true);
     connect(&m_searchTimer, &QTimer::timeout, this, &TimelineModel::continueSearch);
     const auto findReplies = [this] {
-        m_repliedTo.clear();
+        QSet<QUuid> repliedTo;
         for (const Note &note : m_notes.notes()) {
             if (note.quoteID)
-                m_repliedTo.insert(*note.quoteID);
+                repliedTo.insert(*note.quoteID);
         }
+        m_notesDidChange = true; // and with them the places in the rows that are shown
+        m_isRepliedTo.clear();
+        for (const Note &note : m_notes.notes())
+            m_isRepliedTo.push_back(!repliedTo.isEmpty() && repliedTo.contains(note.id));
+        refresh();
+    };
+    const auto findReminded = [this] {
+        m_reminded.clear();
+        for (const Reminder &reminder : m_reminders.reminders())
+            m_reminded.insert(reminder.noteID);
         refresh();
     };
     connect(&m_notes, &NoteStore::notesChanged, this, findReplies);
-    connect(&m_reminders, &ReminderStore::remindersChanged, this, &TimelineModel::refresh);
+    connect(&m_reminders, &ReminderStore::remindersChanged, this, findReminded);
     findReplies();
+    findReminded();
 }
 
 TimelineModel::~TimelineModel() = default;
@@ -65,34 +80,31 @@ void TimelineModel::timeDidPass()
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
-QList<TimelineRow> TimelineModel::rowsOf(const QList<DaySection> &sections, bool isSemanticOnly) const
+void TimelineModel::appendNote(
+    QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const
 {
-    QSet<QUuid> reminded;
-    for (const Reminder &reminder : m_reminders.reminders())
-        reminded.insert(reminder.noteID);
-
-    QList<TimelineRow> rows;
-    if (isSemanticOnly && !sections.isEmpty())
-        rows.append({TimelineRow::Kind::Title, {}, {}, false, false, true});
-    for (const DaySection &section : sections) {
-        rows.append({TimelineRow::Kind::Day, section.day, {}, false, false, isSemanticOnly});
-        for (const Note &note : section.notes) {
-            rows.append({TimelineRow::Kind::Note, section.day, note, reminded.contains(note.id),
-                m_repliedTo.contains(note.id), isSemanticOnly});
-        }
-    }
-    return rows;
+    const Note &note = m_notes.notes()[place];
+    rows.append({TimelineRow::Kind::Note, day, note.id, note.text, place,
+        !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(place)], isSemanticOnly});
 }
 
 void TimelineModel::refresh()
 {
     m_search.reset();
     m_searchTimer.stop();
-    const QList<DaySection> sections = m_notes.daySections(m_query);
-    const bool needsSearch = sections.isEmpty() && !m_notes.notes().isEmpty();
+    QList<TimelineRow> found;
+    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(m_query)) {
+        found.append({.kind = TimelineRow::Kind::Day, .day = section.day});
+        for (const qsizetype place : section.places)
+            appendNote(found, section.day, place, false);
+    }
+    const bool needsSearch = found.isEmpty() && !m_notes.notes().isEmpty();
     // Until it is known what resembles this query, what resembled the last one stays.
-    if (!needsSearch || rows().isEmpty() || !rows().front().isSemanticOnly)
-        show(rowsOf(sections, false));
+    const bool keepsHits =
+        needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().front().isSemanticOnly;
+    if (!keepsHits)
+        show(found);
+    m_notesDidChange = false;
     if (needsSearch)
         m_searchTimer.start(untilTheFrameIsShown);
 }
@@ -105,9 +117,21 @@ void TimelineModel::continueSearch()
         m_searchTimer.start(0ms);
         return;
     }
-    const QList<SemanticHit> hits = m_notes.hits(*m_search);
-    m_search.reset();
-    show(rowsOf(m_notes.daySections(hits), true));
+    const auto search = std::move(m_search);
+    QList<TimelineRow> found;
+    if (!search->matches().empty())
+        found.append({.kind = TimelineRow::Kind::Title, .isSemanticOnly = true});
+    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(*search)) {
+        found.append({.kind = TimelineRow::Kind::Day, .day = section.day, .isSemanticOnly = true});
+        for (const qsizetype place : section.places)
+            appendNote(found, section.day, place, true);
+    }
+    show(found);
+}
+
+const Note &TimelineModel::note(int number) const
+{
+    return m_notes.notes()[row(number).place];
 }
 
 QList<TimelineModel::Action> TimelineModel::actions(int number) const
@@ -120,21 +144,28 @@ QList<TimelineModel::Action> TimelineModel::actions(int number) const
     return actions;
 }
 
+QString TimelineModel::text(int number) const
+{
+    switch (row(number).kind) {
+    case TimelineRow::Kind::Title:
+        return L10n::text("语义相关");
+    case TimelineRow::Kind::Day:
+        return NoteFormatting::dayTitle(row(number).day, m_clock.now(), m_clock.calendar());
+    case TimelineRow::Kind::Note:
+        return row(number).text;
+    }
+    Q_UNREACHABLE();
+}
+
 RowContent TimelineModel::content(int number) const
 {
     const TimelineRow &row = this->row(number);
     RowContent content;
-    switch (row.kind) {
-    case TimelineRow::Kind::Title:
-        content.header = L10n::text("语义相关");
+    if (!row.isNote()) {
+        content.header = text(number);
         return content;
-    case TimelineRow::Kind::Day:
-        content.header = NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
-        return content;
-    case TimelineRow::Kind::Note:
-        break;
     }
-    const Note &note = *row.note;
+    const Note &note = this->note(number);
     content.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
     content.text = note.text;
     content.query = m_query;
@@ -168,6 +199,6 @@ RowContent TimelineModel::content(int number) const
 QModelIndex TimelineModel::indexOf(QUuid noteID) const
 {
     const auto found = std::find_if(rows().begin(), rows().end(),
-        [noteID](const TimelineRow &row) { return row.note && row.note->id == noteID; });
+        [noteID](const TimelineRow &row) { return row.isNote() && row.id == noteID; });
     return found == rows().end() ? QModelIndex() : index(int(found - rows().begin()));
 }

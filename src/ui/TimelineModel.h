@@ -1,13 +1,13 @@
 #pragma once
 
-#include "model/DaySection.h"
+#include "model/Note.h"
 #include "ui/RowModel.h"
 
 #include <QSet>
 #include <QTimer>
 
 #include <memory>
-#include <optional>
+#include <vector>
 
 class Clock;
 class NoteStore;
@@ -19,14 +19,19 @@ class ReminderStore;
 struct TimelineRow {
     enum class Kind { Title, Day, Note };
     Kind kind = Kind::Day;
-    Instant day;              ///< not of a title
-    std::optional<Note> note; ///< only of a note
+    Instant day = {};    ///< not of a title
+    QUuid id = {};       ///< the rest is only of a note
+    QString text = {};   ///< the only thing about a note that changes
+    qsizetype place = 0; ///< of the note in the store, now
     bool hasReminder = false;
     bool isRepliedTo = false;
     bool isSemanticOnly = false; ///< found among the notes that resemble the query
-    bool operator==(const TimelineRow &) const = default;
+
+    [[nodiscard]] bool isNote() const { return kind == Kind::Note; }
 };
 [[nodiscard]] bool isSameRow(const TimelineRow &a, const TimelineRow &b);
+/// Whether the rows show the same.
+[[nodiscard]] bool operator==(const TimelineRow &a, const TimelineRow &b);
 
 /// The store's day sections as rows: those of the notes that contain the query, or, where there are none, of
 /// the notes that resemble it. Announces exactly the rows that came, went or changed.
@@ -45,8 +50,9 @@ public:
     void timeDidPass(); ///< a minute, midnight, or a change of the clock
 
     [[nodiscard]] RowContent content(int row) const override;
-    [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
-    [[nodiscard]] qsizetype textLength(int number) const override { return row(number).note->text.size(); }
+    [[nodiscard]] bool isHeader(int number) const override { return !row(number).isNote(); }
+    [[nodiscard]] QString text(int row) const override;
+    [[nodiscard]] const Note &note(int row) const;         ///< of a note's row; until the store changes
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
 
     /// What the symbols of a note's row are for, in their order.
@@ -56,13 +62,15 @@ public:
 private:
     void refresh();
     void continueSearch();
-    [[nodiscard]] QList<TimelineRow> rowsOf(const QList<DaySection> &sections, bool isSemanticOnly) const;
+    void appendNote(QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const;
 
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;
     QString m_query;
-    QSet<QUuid> m_repliedTo;
+    QSet<QUuid> m_reminded;
+    std::vector<bool> m_isRepliedTo; ///< by the place of the note
+    bool m_notesDidChange = false;
     Instant m_today;                        ///< its start, as the headers tell it
     std::unique_ptr<RankedSearch> m_search; ///< under way
     QTimer m_searchTimer;

@@ -34,12 +34,18 @@ void TrashModel::refresh()
     show(rows);
 }
 
+QString TrashModel::text(int number) const
+{
+    const TrashRow &row = this->row(number);
+    return row.note ? row.note->text : NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+}
+
 RowContent TrashModel::content(int number) const
 {
     const TrashRow &row = this->row(number);
     RowContent content;
     if (!row.note) {
-        content.header = NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
+        content.header = text(number);
         return content;
     }
     content.lead = NoteFormatting::timeString(row.note->createdAt, m_clock.calendar());

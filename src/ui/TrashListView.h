@@ -27,7 +27,7 @@ public:
 
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
-    [[nodiscard]] qsizetype textLength(int number) const override { return row(number).note->text.size(); }
+    [[nodiscard]] QString text(int row) const override;
 
 private:
     NoteStore &m_notes;

@@ -76,7 +76,7 @@ bool Road::isFlashing() const
     const QImage image = m_desktop.screen().screenshot(*place);
     int lit = 0;
     for (int y = 0; y < image.height(); ++y)
-        lit += (image.pixel(4, y) & RGB_MASK) == (flashColor & RGB_MASK);
+        lit += (image.pixel(8, y) & RGB_MASK) == (flashColor & RGB_MASK);
     return lit > 20;
 }
 
