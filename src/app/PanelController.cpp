@@ -4,6 +4,7 @@
 #include "ui/Design.h"
 #include "ui/PanelWindow.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
@@ -54,6 +55,10 @@ void PanelController::open()
     place();
     m_window->show();
     m_window->activateWindow();
+    // When it has been closed just now, Qt still takes it for the window with the focus and would not hear
+    // that it gets it again.
+    if (QGuiApplication::focusWindow() == m_window->windowHandle())
+        QApplication::setActiveWindow(m_window.get());
     Q_EMIT m_content->state().panelDidToggle();
 }
 

@@ -2,7 +2,9 @@
 
 #include "ui/ContentView.h"
 #include "ui/ImportExport.h"
+#include "ui/NoteStyle.h"
 
+#include <QApplication>
 #include <QTimer>
 
 namespace {
@@ -17,6 +19,8 @@ QuilletApp::QuilletApp(Start start)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
     , m_panel([this] {
         m_dateDetector.prepare();
+        m_notes.prepareSearch();
+        m_appearance.follow();
         return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
     })
     , m_delegate(m_notifications, m_panel)
@@ -35,6 +39,9 @@ QuilletApp::QuilletApp(Start start)
     connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
 
+    connect(&m_appearance, &Appearance::schemeChanged, this, &QuilletApp::applyAppearance);
+    applyAppearance();
+
     m_statusBar.install();
     m_delegate.didFinishLaunching();
     presentMissedReminders();
@@ -43,6 +50,16 @@ QuilletApp::QuilletApp(Start start)
         m_panel.open();
     else
         QTimer::singleShot(timeToSettle, &m_panel, &PanelController::prepare);
+}
+
+void QuilletApp::applyAppearance()
+{
+    // Without a preference it is as the desktop's own palette.
+    static const bool isDarkByPalette = NoteStyle::isDark(QGuiApplication::palette());
+    const bool isDark = m_appearance.scheme() == Appearance::Scheme::NoPreference
+                            ? isDarkByPalette
+                            : m_appearance.scheme() == Appearance::Scheme::Dark;
+    QApplication::setPalette(NoteStyle::palette(isDark));
 }
 
 void QuilletApp::presentMissedReminders()

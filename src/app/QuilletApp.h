@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/PanelController.h"
 #include "app/StatusBarMenu.h"
+#include "desktop/Appearance.h"
 #include "desktop/ApplicationService.h"
 #include "desktop/DesktopNotificationCenter.h"
 #include "desktop/PageTitleFetcher.h"
@@ -26,12 +27,14 @@ public:
 
 private:
     void presentMissedReminders();
+    void applyAppearance();
 
     // What the machine provides
     SystemClock m_clock;
     DateDetector m_dateDetector;
     PageTitleFetcher m_titles;
     ConceptEmbeddingProvider m_embeddings;
+    Appearance m_appearance;
     DesktopNotificationCenter m_notifications;
     // What is owned
     ReminderStore m_reminders;

@@ -3,8 +3,11 @@
 #include "desktop/ApplicationService.h"
 #include "desktop/SingleInstance.h"
 #include "model/AppPaths.h"
+#include "text/L10n.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
@@ -19,6 +22,11 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(ApplicationIdentity::id);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // Qt's own words, in the file dialogs and in the menu of the field, are in the interface language too.
+    QTranslator qtWords;
+    if (qtWords.load(QStringLiteral("qtbase_") + QString::fromLatin1(L10n::locale(L10n::currentLanguage())),
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&qtWords);
     const QuilletApp quillet(
         instance.isVeryFirstStart() ? QuilletApp::Start::VeryFirst : QuilletApp::Start::Quiet);
     return QApplication::exec();

@@ -95,6 +95,8 @@ public:
         const RankedSearch &search) const; ///< of its hits, in their order
     /// The other live notes that share words or pairs of characters with this one, the best first.
     [[nodiscard]] QList<Note> relatedNotes(const Note &note, qsizetype limit) const;
+    /// Reads the texts for the first search, which would else be done at the first key.
+    void prepareSearch() const { bringIndexUpToDate(); }
     /// The notes whose sentence vector is kept.
     [[nodiscard]] QList<QUuid> cachedVectors() const { return m_search.vectors.ids(); }
 

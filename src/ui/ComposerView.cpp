@@ -45,8 +45,6 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     m_field->setMaxLength(std::numeric_limits<int>::max()); // what was pasted is never cut silently
     QPalette colors = m_field->palette();
     colors.setColor(QPalette::Base, Qt::transparent);
-    colors.setColor(QPalette::Text, NoteStyle::color(palette()));
-    colors.setColor(QPalette::PlaceholderText, NoteStyle::metaColor(palette()));
     m_field->setPalette(colors);
     setFocusProxy(m_field);
 

@@ -56,9 +56,6 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setTextFormat(Qt::PlainText);
     m_title->setFont(NoteStyle::headerFont());
-    QPalette colors = m_title->palette();
-    colors.setColor(QPalette::WindowText, NoteStyle::color(palette()));
-    m_title->setPalette(colors);
 
     auto *bar = new QHBoxLayout;
     bar->setContentsMargins(Design::edge, Design::grid, 2 * Design::grid, Design::grid);
@@ -80,7 +77,7 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     layout->addLayout(m_stack, 1);
     layout->addSpacing(2 * Design::grid);
     layout->addWidget(m_composer);
-    layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
+    layout->addWidget(m_trashBar);
 
     connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
@@ -141,6 +138,12 @@ void ContentView::addTrash(NoteStore &notes)
 {
     m_trashModel = new TrashModel(notes, m_clock, this);
     m_stack->addWidget(new TrashListView(notes, *m_trashModel, this));
+    m_trashBar = new QWidget(this);
+    auto *layout = new QHBoxLayout(m_trashBar);
+    layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
+    layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
+    m_emptyTrash->setFixedHeight(Design::fieldHeight);
+    m_emptyTrash->setFont(NoteStyle::font());
     m_emptyTrash->setObjectName(QStringLiteral("emptyTrash"));
     connect(m_emptyTrash, &QPushButton::clicked, this, [&notes] { notes.emptyTrash(); });
     const auto tell = [this, &notes] { m_emptyTrash->setEnabled(!notes.trash().isEmpty()); };
@@ -188,7 +191,7 @@ void ContentView::modeDidChange()
     }
     m_stack->setCurrentIndex(int(mode));
     m_composer->setVisible(mode == PanelMode::Timeline || mode == PanelMode::Tags);
-    m_emptyTrash->setVisible(mode == PanelMode::Trash);
+    m_trashBar->setVisible(mode == PanelMode::Trash);
 }
 
 void ContentView::selectTag(const QString &tag)

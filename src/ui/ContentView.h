@@ -76,5 +76,6 @@ private:
     QList<ModeButton> m_modeButtons;
     QStackedLayout *m_stack = nullptr; ///< a page for each mode, in their order
     QPushButton *m_emptyTrash = nullptr;
+    QWidget *m_trashBar = nullptr; ///< below the trash, in place of the composer
     QTimer m_nextMinute;
 };

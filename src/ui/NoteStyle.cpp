@@ -23,6 +23,31 @@ bool NoteStyle::isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightnessF() < 0.5;
 }
 
+QPalette NoteStyle::palette(bool isDark)
+{
+    QPalette made;
+    made.setColor(QPalette::Window, isDark ? Qt::black : Qt::white); // by which the colours below are chosen
+    const QPalette appearance = made;
+    const QColor text = color(appearance);
+    const QColor faint = metaColor(appearance);
+    for (const auto role :
+        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        made.setColor(role, text);
+    made.setColor(QPalette::PlaceholderText, faint);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        made.setColor(QPalette::Disabled, role, faint);
+    made.setColor(QPalette::Window, background(appearance));
+    made.setColor(QPalette::Base, fieldColor(appearance));
+    made.setColor(QPalette::AlternateBase, hover(appearance));
+    made.setColor(QPalette::ToolTipBase, fieldColor(appearance));
+    made.setColor(QPalette::Button, quoteGround(appearance));
+    made.setColor(QPalette::Mid, hairline(appearance));
+    made.setColor(QPalette::Highlight, tagColor(appearance));
+    made.setColor(QPalette::HighlightedText, background(appearance));
+    made.setColor(QPalette::Link, tagColor(appearance));
+    return made;
+}
+
 QColor NoteStyle::numberColor(const QPalette &palette)
 {
     return byAppearance(
@@ -54,7 +79,7 @@ QColor NoteStyle::color(const QPalette &palette)
 
 QColor NoteStyle::metaColor(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0x6a, 0x6e, 0x76), QColor(0x9a, 0x9f, 0xa8));
+    return byAppearance(palette, QColor(0x60, 0x64, 0x6c), QColor(0xa6, 0xab, 0xb4));
 }
 
 QColor NoteStyle::background(const QPalette &palette)
@@ -84,12 +109,12 @@ QColor NoteStyle::hairline(const QPalette &palette)
 
 QColor NoteStyle::editing(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xe8, 0xef, 0xf7), QColor(0x2c, 0x36, 0x42));
+    return byAppearance(palette, QColor(0xec, 0xf2, 0xf9), QColor(0x2c, 0x36, 0x42));
 }
 
 QColor NoteStyle::flash(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xff, 0xe9, 0xb0), QColor(0x5a, 0x4c, 0x26));
+    return byAppearance(palette, QColor(0xff, 0xee, 0xc4), QColor(0x45, 0x3c, 0x22));
 }
 
 QColor NoteStyle::segmentColor(NoteHighlighting::SegmentKind kind, const QPalette &palette)

@@ -10,6 +10,8 @@
 /// told from the palette it is asked for.
 namespace NoteStyle {
 [[nodiscard]] bool isDark(const QPalette &palette);
+/// The palette of all that Qt paints itself: fields, menus, dialogs.
+[[nodiscard]] QPalette palette(bool isDark);
 
 [[nodiscard]] QColor numberColor(const QPalette &palette);
 [[nodiscard]] QColor tagColor(const QPalette &palette);

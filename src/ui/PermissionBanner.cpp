@@ -5,6 +5,7 @@
 #include "ui/NoteStyle.h"
 #include "ui/Symbol.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -13,18 +14,30 @@ PermissionBanner::PermissionBanner(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("permissionBanner"));
-    auto *text =
+    m_text =
         new QLabel(L10n::text("通知权限未开启，到点不会弹通知。请到 系统设置 → 通知 → Quillet 开启。"), this);
-    text->setTextFormat(Qt::PlainText);
-    text->setFont(NoteStyle::quoteFont());
-    text->setWordWrap(true);
-    QPalette colors = text->palette();
-    colors.setColor(QPalette::WindowText, NoteStyle::destructiveColor(palette()));
-    text->setPalette(colors);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setFont(NoteStyle::quoteFont());
+    m_text->setWordWrap(true);
+    colour();
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(
         2 * Design::edge + Design::symbolSize, Design::grid, Design::edge, 2 * Design::grid);
-    layout->addWidget(text);
+    layout->addWidget(m_text);
+}
+
+void PermissionBanner::colour()
+{
+    QPalette colors;
+    colors.setColor(QPalette::WindowText, NoteStyle::destructiveColor(palette()));
+    m_text->setPalette(colors);
+}
+
+void PermissionBanner::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_text)
+        colour();
 }
 
 void PermissionBanner::paintEvent(QPaintEvent *)

@@ -3,13 +3,13 @@
 #include "foundation/Clock.h"
 #include "text/L10n.h"
 #include "text/NoteFormatting.h"
+#include "ui/BarButton.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/Symbol.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QToolButton>
 
 ReminderBar::ReminderBar(const Clock &clock, QWidget *parent)
     : QWidget(parent)
@@ -19,14 +19,10 @@ ReminderBar::ReminderBar(const Clock &clock, QWidget *parent)
     setFixedHeight(Design::barHeight);
     setVisible(false);
 
-    auto *dismiss = new QToolButton(this);
+    auto *dismiss = new BarButton(QStringLiteral("xmark"), L10n::text("本次不创建提醒"), this);
     dismiss->setObjectName(QStringLiteral("dismissReminder"));
-    dismiss->setAutoRaise(true);
     dismiss->setFocusPolicy(Qt::NoFocus);
-    dismiss->setToolTip(L10n::text("本次不创建提醒"));
-    dismiss->setAccessibleName(dismiss->toolTip());
-    dismiss->setIcon(Symbol::icon(QStringLiteral("xmark"), NoteStyle::metaColor(palette()), {12, 24}));
-    connect(dismiss, &QToolButton::clicked, this, &ReminderBar::dismissed);
+    connect(dismiss, &BarButton::clicked, this, &ReminderBar::dismissed);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, Design::edge, 0);
@@ -56,8 +52,8 @@ void ReminderBar::paintEvent(QPaintEvent *)
         Design::symbolSize);
     Symbol::paint(painter, symbol, QStringLiteral("bell"), color);
 
-    constexpr int button = 32;
-    const QRect place = rect().adjusted(symbol.right() + 2 * Design::grid, 0, -Design::edge - button, 0);
+    const QRect place =
+        rect().adjusted(symbol.right() + 2 * Design::grid, 0, -Design::edge - Design::buttonSize, 0);
     painter.setFont(NoteStyle::quoteFont());
     painter.setPen(color);
     painter.drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,

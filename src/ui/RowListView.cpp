@@ -3,6 +3,7 @@
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/RowDelegate.h"
+#include "ui/RowListAccessible.h"
 #include "ui/RowModel.h"
 #include "ui/SlimScrollBar.h"
 
@@ -23,6 +24,7 @@ RowListView::RowListView(RowModel &model, QWidget *parent)
     , m_rows(new RowDelegate(model, this))
     , m_scrolling(new QVariantAnimation(this))
 {
+    RowListAccessible::install();
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setEditTriggers(NoEditTriggers);
@@ -78,6 +80,18 @@ bool RowListView::enter()
     return true;
 }
 
+void RowListView::activateRow(int row)
+{
+    if (!m_rowModel.isHeader(row))
+        activate(row);
+}
+
+void RowListView::showMenuOfRow(int row)
+{
+    if (!m_rowModel.isHeader(row))
+        popUpMenu(row, viewport()->mapToGlobal(visualRect(m_rowModel.index(row)).center()));
+}
+
 int RowListView::entryBeside(int row, int step) const
 {
     for (int next = row + step; next >= 0 && next < m_rowModel.rowCount(); next += step) {
@@ -107,7 +121,7 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         return;
     case Qt::Key_Menu:
         if (isEntry)
-            popUpMenu(row, viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+            showMenuOfRow(row);
         return;
     case Qt::Key_Up:
     case Qt::Key_Down: {

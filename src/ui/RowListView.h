@@ -27,6 +27,9 @@ public:
     [[nodiscard]] const QString &emptyText() const { return m_emptyText; }
     /// Puts the focus on the first entry in view; false when there is none.
     bool enter();
+    // What the keyboard and the mouse do, for those who listen to the screen. A header does nothing.
+    void activateRow(int row);
+    void showMenuOfRow(int row);
 
     void setModel(QAbstractItemModel *model) override;
     [[nodiscard]] QRect visualRect(const QModelIndex &index) const override;

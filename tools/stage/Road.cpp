@@ -10,7 +10,7 @@
 
 namespace {
 /// As ui/NoteStyle.cpp has it for a light appearance.
-constexpr QRgb flashColor = qRgb(0xff, 0xe9, 0xb0);
+constexpr QRgb flashColor = qRgb(0xff, 0xee, 0xc4);
 
 /// The title of the panel, and the class of panel and tray icon.
 const QString name = QStringLiteral("Quillet");

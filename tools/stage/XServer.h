@@ -58,6 +58,11 @@ namespace Keysym {
 constexpr std::uint32_t space = 0x20;
 constexpr std::uint32_t escape = 0xff1b;
 constexpr std::uint32_t enter = 0xff0d;
+constexpr std::uint32_t down = 0xff54;
+constexpr std::uint32_t digit1 = 0x31;
+constexpr std::uint32_t digit2 = 0x32;
+constexpr std::uint32_t digit3 = 0x33;
+constexpr std::uint32_t digit4 = 0x34;
 constexpr std::uint32_t numLock = 0xff7f;
 constexpr std::uint32_t shift = 0xffe1;
 constexpr std::uint32_t control = 0xffe3;

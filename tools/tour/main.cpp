@@ -39,6 +39,47 @@ private:
     bool m_hasFailed = false;
 };
 
+/// The modes and bars, with some more notes.
+void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
+{
+    const auto settle = [] { PrivateDesktop::waitUntil([] { return false; }, 300ms); };
+    XServer &screen = desktop.screen();
+    road.pressHotKey();
+    tour.step(QStringLiteral("opened to look around"), road.waitForPanel(true));
+    for (const QString &text : {QStringLiteral("口腔科补洞，约了李医生 #健康"),
+             QStringLiteral("看完《活着》，想写一段读后感 #读书"), QStringLiteral("周末聚餐 ¥320 #朋友")}) {
+        screen.type(text);
+        screen.press({Keysym::enter});
+    }
+    settle();
+    tour.step(QStringLiteral("four notes"), road.savedNotes().size() == 4);
+    const auto look = [&](const QString &what) {
+        settle();
+        tour.step(what, road.panel().has_value());
+    };
+    screen.type(QStringLiteral("买牛奶 #"));
+    look(QStringLiteral("tags are offered while one is typed"));
+    screen.press({Keysym::escape});
+    screen.press({Keysym::escape});
+    screen.type(QStringLiteral("牙医"));
+    look(QStringLiteral("no note holds it, but one means something like it"));
+    screen.press({Keysym::escape});
+    settle();
+    screen.press({Keysym::down});
+    look(QStringLiteral("the arrow keys walk the list"));
+    screen.press({Keysym::escape});
+    screen.press({Keysym::control, Keysym::digit2});
+    look(QStringLiteral("the tags"));
+    screen.press({Keysym::control, Keysym::digit3});
+    look(QStringLiteral("the reminders"));
+    screen.press({Keysym::control, Keysym::digit4});
+    look(QStringLiteral("the trash"));
+    screen.press({Keysym::control, Keysym::digit1});
+    settle();
+    screen.press({Keysym::escape});
+    tour.step(QStringLiteral("and closed again"), road.waitForPanel(false));
+}
+
 void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
 {
     const QString draft = QStringLiteral("明天下午3点 交房租 #家");
@@ -76,6 +117,8 @@ void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
     desktop.screen().press({Keysym::escape});
     tour.step(
         QStringLiteral("Escape empties the field, and again closes the panel"), road.waitForPanel(false));
+
+    lookAround(desktop, road, tour);
 
     road.stop();
     road.start(Road::shiftTo(three, 5s));

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDBusVariant>
+#include <QObject>
+
+/// Whether the desktop is light or dark, as its settings portal tells, and when that changes.
+class Appearance final : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Scheme { NoPreference, Dark, Light };
+
+    using QObject::QObject;
+
+    /// Asks, and listens from then on. Never blocks; without a portal there is no preference.
+    void follow();
+    [[nodiscard]] Scheme scheme() const { return m_scheme; }
+
+Q_SIGNALS:
+    void schemeChanged();
+
+private Q_SLOTS:
+    void onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+
+private:
+    void take(const QVariant &value);
+
+    Scheme m_scheme = Scheme::NoPreference;
+};

@@ -1,0 +1,90 @@
+// That everybody can read the panel, and have it read to them.
+#include "ui/NoteStyle.h"
+#include "ui/TestPanel.h"
+
+#include <QAccessible>
+#include <QMetaEnum>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+double luminance(QColor color)
+{
+    const auto linear = [](float part) {
+        return part <= 0.03928F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(QColor a, QColor b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+/// "role name" of all that is under it.
+QStringList told(QAccessibleInterface *interface)
+{
+    if (!interface)
+        return {};
+    static const QMetaEnum roles = QMetaEnum::fromType<QAccessible::Role>();
+    QStringList all{
+        QString::fromLatin1(roles.valueToKey(interface->role())) + u' ' + interface->text(QAccessible::Name)};
+    for (int i = 0; i < interface->childCount(); ++i)
+        all += told(interface->child(i));
+    return all;
+}
+} // namespace
+
+class LooksTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void text_stands_out_from_its_ground()
+    {
+        using Color = QColor (*)(const QPalette &);
+        const Color texts[] = {NoteStyle::color, NoteStyle::metaColor};
+        const Color highlights[] = {
+            NoteStyle::numberColor, NoteStyle::tagColor, NoteStyle::matchColor, NoteStyle::destructiveColor};
+        const Color grounds[] = {NoteStyle::background, NoteStyle::fieldColor, NoteStyle::editing,
+            NoteStyle::flash, NoteStyle::hover, NoteStyle::quoteGround};
+        QStringList faults;
+        for (const bool isDark : {false, true}) {
+            const QPalette palette = NoteStyle::palette(isDark);
+            QCOMPARE(NoteStyle::isDark(palette), isDark);
+            for (size_t ground = 0; ground < std::size(grounds); ++ground) {
+                const auto check = [&](Color color, double least) {
+                    const double found = contrast(color(palette), grounds[ground](palette));
+                    if (found < least) {
+                        faults.append(QStringLiteral("%1 on %2: %3")
+                                          .arg(color(palette).name(), grounds[ground](palette).name())
+                                          .arg(found));
+                    }
+                };
+                for (const Color text : texts)
+                    check(text, 4.5);
+                if (grounds[ground] != NoteStyle::flash) { // half a second
+                    for (const Color highlight : highlights)
+                        check(highlight, 3);
+                }
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    void those_who_listen_find_the_field_the_buttons_and_the_rows()
+    {
+        TestPanel panel;
+        panel.notes.add(u"买牛奶 #家"_s);
+        const QStringList all = told(QAccessible::queryAccessibleInterface(&panel.window));
+        for (const QString &expected : {u"EditableText 输入即筛选，回车保存"_s, u"CheckBox 标签"_s,
+                 u"CheckBox 提醒"_s, u"CheckBox 回收站"_s, u"List 笔记"_s, u"ListItem 买牛奶 #家"_s,
+                 u"ListItem 今天 · 3月2日 星期一"_s})
+            QVERIFY2(all.contains(expected), qUtf8Printable(expected + u" is not in\n"_s + all.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(LooksTest)
+#include "tst_looks.moc"
