@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 using namespace std::chrono_literals;
 
@@ -125,6 +126,68 @@ void report(const char *what, const char *unit, const QList<Sample> &peer, const
     std::printf("%-44s empty program %7.1f %s   Quillet %7.1f %s   ratio %.2f, difference %+.1f\n", what,
         base, unit, own, unit, own / base, own - base);
 }
+/// From a key event to the first changed pixel of the list, in ms.
+double keyToList(XServer &screen, QRect list, const std::function<void()> &press)
+{
+    const QImage before = screen.screenshot(list);
+    QElapsedTimer timer;
+    timer.start();
+    press();
+    while (screen.screenshot(list) == before) {
+        if (timer.elapsed() > 3000)
+            qFatal("the list does not change");
+    }
+    const double taken = double(timer.nsecsElapsed()) / 1e6;
+    QThread::msleep(120);
+    return taken;
+}
+
+void measurePanel(const QString &program, int noteCount, int rounds)
+{
+    PrivateDesktop desktop({.hasTray = true, .hasDunst = false});
+    writeNotes(desktop, noteCount);
+    XServer &screen = desktop.screen();
+    Road road(desktop, program);
+    road.start();
+    if (!road.waitForTrayIcon())
+        qFatal("no icon in the tray");
+    QThread::msleep(2000);
+    road.pressHotKey();
+    if (!road.waitForPanel(true))
+        qFatal("no panel");
+    QThread::msleep(500);
+    const QRect list(road.panel()->topLeft() + QPoint(12, 44), QSize(240, 120));
+
+    QList<double> keys;
+    QList<double> modes;
+    QList<double> pages;
+    screen.type(QStringLiteral("123"));
+    QThread::msleep(300);
+    screen.press({Keysym::escape});
+    QThread::msleep(300);
+    for (int round = 0; round < rounds; ++round) {
+        for (const auto digit : {Keysym::digit1, Keysym::digit2, Keysym::digit3})
+            keys.append(keyToList(screen, list, [&] { screen.press({digit}); }));
+        keys.append(keyToList(screen, list, [&] { screen.press({Keysym::escape}); }));
+        modes.append(keyToList(screen, list, [&] { screen.press({Keysym::control, Keysym::digit2}); }));
+        modes.append(keyToList(screen, list, [&] { screen.press({Keysym::control, Keysym::digit1}); }));
+        (void)keyToList(screen, list, [&] { screen.press({Keysym::down}); });
+        for (int page = 0; page < 3; ++page)
+            pages.append(keyToList(screen, list, [&] { screen.press({Keysym::pageDown}); }));
+        (void)keyToList(screen, list, [&] { screen.press({Keysym::home}); });
+        screen.press({Keysym::escape});
+        QThread::msleep(200);
+    }
+    road.stop();
+    const auto tell = [noteCount](const char *what, QList<double> values) {
+        std::sort(values.begin(), values.end());
+        std::printf("%7d notes: %-34s median %6.1f ms   99th percentile %6.1f ms   (%d)\n", noteCount, what,
+            values[values.size() / 2], values[values.size() * 99 / 100], int(values.size()));
+    };
+    tell("key typed to list repainted", keys);
+    tell("mode switched", modes);
+    tell("scrolled one page", pages);
+}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -155,5 +218,7 @@ int main(int argc, char *argv[])
     report("start to tray icon docked", "ms", ofPeer, ofQuillet, &Sample::startToTray);
     report("hot key pressed to pixels on the X server", "ms", ofPeer, ofQuillet, &Sample::keyToPixels);
     report("private anonymous memory, panel was open", "MB", ofPeer, ofQuillet, &Sample::privateBytes);
+    for (const int noteCount : {10'000, 100'000})
+        measurePanel(quillet, noteCount, rounds);
     return 0;
 }

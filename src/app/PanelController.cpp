@@ -1,5 +1,6 @@
 #include "app/PanelController.h"
 
+#include "desktop/Compositor.h"
 #include "ui/ContentView.h"
 #include "ui/Design.h"
 #include "ui/PanelWindow.h"
@@ -23,7 +24,18 @@ void PanelController::prepare()
     if (m_window)
         return;
     m_content = m_makeContent();
-    m_window = std::make_unique<PanelWindow>(m_content);
+    makeWindow();
+}
+
+void PanelController::makeWindow()
+{
+    using Surface = PanelWindow::Surface;
+    const Surface surface = Compositor::isActive() ? Surface::Translucent : Surface::Opaque;
+    if (m_window && m_window->surface() == surface)
+        return;
+    if (m_window)
+        m_window->releaseContent();
+    m_window = std::make_unique<PanelWindow>(m_content, surface);
     connect(m_window.get(), &PanelWindow::focusLost, this, &PanelController::close);
     connect(m_window.get(), &PanelWindow::escaped, this, [this] {
         close();
@@ -52,6 +64,7 @@ void PanelController::open()
         m_window->activateWindow();
         return;
     }
+    makeWindow(); // a compositor may have come or gone
     place();
     m_window->show();
     m_window->activateWindow();
@@ -86,7 +99,7 @@ void PanelController::place()
             screen = pointed;
     }
     const QRect available = screen->availableGeometry();
-    const QSize size = Design::panelSize;
-    m_window->move(available.right() - size.width() - Design::panelMargin,
-        available.bottom() - size.height() - Design::panelMargin);
+    const QSize size = Design::panelSize.grownBy(QMargins() + m_window->shadowMargin());
+    const int margin = Design::panelMargin - m_window->shadowMargin();
+    m_window->move(available.right() - size.width() - margin, available.bottom() - size.height() - margin);
 }

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] PanelState &state();
 
 private:
+    void makeWindow();
     void close();
     void place();
 

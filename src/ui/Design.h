@@ -8,7 +8,8 @@
 namespace Design {
 inline constexpr QSize panelSize{340, 480};
 inline constexpr int panelRadius = 12;
-inline constexpr int panelMargin = 12; ///< to the edge of the screen
+inline constexpr int shadowMargin = 20; ///< around the panel, where there is a compositor
+inline constexpr int panelMargin = 12;  ///< to the edge of the screen
 inline constexpr int grid = 4;
 inline constexpr int edge = 12; ///< from the panel's side to its content
 

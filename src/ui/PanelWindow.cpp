@@ -7,20 +7,40 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QKeyEvent>
+#include <QMargins>
 #include <QPainter>
 #include <QVBoxLayout>
 
-PanelWindow::PanelWindow(ContentView *content)
+namespace {
+/// Soft at its edge and a little lower than the panel, as if the light came from above.
+void paintShadow(QPainter &painter, const QRectF &panel)
+{
+    constexpr int lower = 3;
+    constexpr qreal darkest = 0.10;
+    painter.setPen(Qt::NoPen);
+    const int reach = Design::shadowMargin - lower;
+    for (int spread = reach; spread > 0; --spread) {
+        const qreal nearness = 1 - qreal(spread) / reach;
+        painter.setBrush(QColor::fromRgbF(0, 0, 0, float(darkest * nearness * nearness / 3)));
+        const qreal radius = Design::panelRadius + spread;
+        painter.drawRoundedRect(
+            panel.adjusted(-spread, -spread + lower, spread, spread + lower), radius, radius);
+    }
+}
+} // namespace
+
+PanelWindow::PanelWindow(ContentView *content, Surface surface)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     , m_content(content)
+    , m_surface(surface)
 {
     setWindowTitle(QStringLiteral("Quillet"));
     setObjectName(QStringLiteral("panel"));
-    setFixedSize(Design::panelSize);
+    setFixedSize(Design::panelSize.grownBy(QMargins() + shadowMargin()));
     setFocusProxy(m_content);
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(m_surface == Surface::Opaque ? Qt::WA_OpaquePaintEvent : Qt::WA_TranslucentBackground);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(QMargins() + shadowMargin());
     layout->addWidget(m_content);
     qApp->installEventFilter(this);
 
@@ -67,9 +87,22 @@ void PanelWindow::checkFocus()
         Q_EMIT focusLost();
 }
 
+int PanelWindow::shadowMargin() const
+{
+    return m_surface == Surface::Translucent ? Design::shadowMargin : 0;
+}
+
+void PanelWindow::releaseContent()
+{
+    layout()->removeWidget(m_content);
+    m_content->setParent(nullptr);
+}
+
 void PanelWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    if (m_surface == Surface::Translucent)
+        return;
     QBitmap outline(size());
     outline.fill(Qt::color0);
     QPainter painter(&outline);
@@ -83,9 +116,15 @@ void PanelWindow::resizeEvent(QResizeEvent *event)
 void PanelWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    m_frame.paint(painter, *this, NoteStyle::background(palette()), [this](QPainter &frame) {
+    const bool isOpaque = m_surface == Surface::Opaque;
+    const QColor ground = NoteStyle::background(palette());
+    m_frame.paint(painter, *this, isOpaque ? ground : QColor(Qt::transparent), [&](QPainter &frame) {
+        const QRectF outline = QRectF(panel()).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (!isOpaque) {
+            paintShadow(frame, outline);
+            frame.setBrush(ground);
+        }
         frame.setPen(NoteStyle::hairline(palette()));
-        frame.drawRoundedRect(
-            QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Design::panelRadius, Design::panelRadius);
+        frame.drawRoundedRect(outline, Design::panelRadius, Design::panelRadius);
     });
 }

@@ -13,8 +13,16 @@ class PanelWindow final : public QWidget
     Q_OBJECT
 
 public:
+    /// How the desktop shows the window: cut out of a rectangle, or with soft corners and a shadow.
+    enum class Surface { Opaque, Translucent };
+
     /// @p content is adopted.
-    explicit PanelWindow(ContentView *content);
+    explicit PanelWindow(ContentView *content, Surface surface = Surface::Opaque);
+    [[nodiscard]] Surface surface() const { return m_surface; }
+    /// How far the panel's edge is within the window's.
+    [[nodiscard]] int shadowMargin() const;
+    /// Gives the content back, for another window.
+    void releaseContent();
 
 Q_SIGNALS:
     void escaped();   ///< Escape, with nothing left to undo within the panel
@@ -30,7 +38,10 @@ protected:
 private:
     void checkFocus();
 
+    [[nodiscard]] QRect panel() const { return rect().marginsRemoved(QMargins() + shadowMargin()); }
+
     ContentView *m_content = nullptr;
+    Surface m_surface;
     QTimer m_focusCheck;
     StillPicture m_frame;
 };
