@@ -107,6 +107,7 @@ void X11HotKey::releaseKeyboard()
 {
     if (!m_connection)
         return;
+    m_hasReleased = true;
     xcb_ungrab_keyboard(m_connection, m_lastPress);
     xcb_flush(m_connection);
 }
@@ -127,8 +128,12 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
             break;
         // While the key is held the server sends pairs of release and press that bear one time.
         m_lastPress = key.time;
-        if (key.time != m_lastRelease)
+        if (key.time != m_lastRelease) {
+            m_hasReleased = false;
             Q_EMIT pressed();
+        } else if (m_hasReleased) {
+            releaseKeyboard(); // the repetition has taken it again, and with it the window's focus
+        }
         break;
     }
     case XCB_KEY_RELEASE: {

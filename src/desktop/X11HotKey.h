@@ -44,5 +44,6 @@ private:
     std::vector<std::uint8_t> m_keycodes; ///< grabbed now
     std::uint32_t m_lastPress = 0;        ///< in the X server's time
     std::uint32_t m_lastRelease = 0;
+    bool m_hasReleased = false; ///< the keyboard, since the key was pressed
     QTimer m_remapped;
 };
