@@ -193,7 +193,7 @@ void measurePanel(const QString &program, int noteCount, int rounds)
 int main(int argc, char *argv[])
 {
     if (argc < 3) {
-        std::fprintf(stderr, "usage: quillet-bench-desktop QUILLET PEER [ROUNDS]\n");
+        std::fprintf(stderr, "usage: quillet-bench-desktop QUILLET PEER [ROUNDS [NOTES]]\n");
         return 2;
     }
     const QCoreApplication application(argc, argv);
@@ -202,7 +202,7 @@ int main(int argc, char *argv[])
     const int rounds = argc > 3 ? std::max(1, atoi(argv[3])) : 9;
 
     PrivateDesktop desktop({.hasTray = true, .hasDunst = false});
-    constexpr int notes = 1000;
+    const int notes = argc > 4 ? atoi(argv[4]) : 1000;
     writeNotes(desktop, notes);
     QList<Sample> ofPeer;
     QList<Sample> ofQuillet;

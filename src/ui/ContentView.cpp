@@ -192,6 +192,8 @@ void ContentView::modeDidChange()
     m_stack->setCurrentIndex(int(mode));
     m_composer->setVisible(mode == PanelMode::Timeline || mode == PanelMode::Tags);
     m_trashBar->setVisible(mode == PanelMode::Trash);
+    if (isVisible())
+        timeDidPass();
 }
 
 void ContentView::selectTag(const QString &tag)
@@ -234,9 +236,20 @@ bool ContentView::escape()
 
 void ContentView::timeDidPass()
 {
-    m_model->timeDidPass();
-    m_reminderModel->timeDidPass();
-    m_trashModel->refresh();
+    // What is not seen waits until it is.
+    switch (m_state.mode()) {
+    case PanelMode::Timeline:
+        m_model->timeDidPass();
+        break;
+    case PanelMode::Reminders:
+        m_reminderModel->timeDidPass();
+        break;
+    case PanelMode::Trash:
+        m_trashModel->refresh();
+        break;
+    case PanelMode::Tags:
+        break;
+    }
     m_composer->timeDidPass();
     waitForNextMinute();
 }
