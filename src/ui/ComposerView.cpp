@@ -7,11 +7,11 @@
 #include "text/LocalFile.h"
 #include "text/PageTitleFetching.h"
 #include "text/WebLink.h"
+#include "ui/ComposerBar.h"
 #include "ui/ComposerField.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
-#include "ui/QuoteBar.h"
 #include "ui/ReminderBar.h"
 #include "ui/SuggestionList.h"
 
@@ -34,10 +34,11 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     , m_titles(titles)
     , m_clock(clock)
     , m_suggestions(new SuggestionList(m_completion, this))
-    , m_quoteBar(new QuoteBar(this))
+    , m_quoteBar(new ComposerBar(QStringLiteral("text.quote"), L10n::text("取消引用"), this))
     , m_reminderBar(new ReminderBar(clock, this))
     , m_field(new ComposerField(this))
 {
+    m_quoteBar->setObjectName(QStringLiteral("quoteBar"));
     m_field->setObjectName(QStringLiteral("composerField"));
     m_field->setFrame(false);
     m_field->setFont(NoteStyle::font());
@@ -64,7 +65,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
     connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
-    connect(m_quoteBar, &QuoteBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
+    connect(m_quoteBar, &ComposerBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
     connect(m_reminderBar, &ReminderBar::dismissed, this, [this] {
         m_suppressReminder = true;
         updateReminderPreview();

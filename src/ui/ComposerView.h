@@ -9,12 +9,12 @@
 #include <optional>
 
 class Clock;
+class ComposerBar;
 class ComposerField;
 class DateDetecting;
 class NoteStore;
 class PageTitleFetching;
 class PanelState;
-class QuoteBar;
 class ReminderBar;
 class SuggestionList;
 
@@ -64,7 +64,7 @@ private:
     const Clock &m_clock;
     TagCompletionState m_completion;
     SuggestionList *m_suggestions = nullptr;
-    QuoteBar *m_quoteBar = nullptr;
+    ComposerBar *m_quoteBar = nullptr;
     ReminderBar *m_reminderBar = nullptr;
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;

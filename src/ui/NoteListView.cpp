@@ -7,6 +7,7 @@
 #include "ui/NoteStyle.h"
 #include "ui/PanelState.h"
 #include "ui/RelatedNotesView.h"
+#include "ui/RowListAccessible.h"
 #include "ui/TimelineModel.h"
 
 #include <QClipboard>
@@ -25,6 +26,7 @@ NoteListView::NoteListView(
     , m_state(state)
     , m_timeline(timeline)
 {
+    RowListAccessible::install(); // for the panel's other lists too, which are made after this one
     setObjectName(QStringLiteral("timeline"));
     setAccessibleName(L10n::text("笔记"));
     connect(&m_state, &PanelState::draftChanged, this, &NoteListView::queryDidChange);

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "reminders/ParsedReminder.h"
-
-#include <QWidget>
+#include "ui/ComposerBar.h"
 
 #include <optional>
 
 class Clock;
 
 /// Tells above the field which reminder saving would create, and lets it be dismissed for this draft.
-class ReminderBar final : public QWidget
+class ReminderBar final : public ComposerBar
 {
     Q_OBJECT
 
@@ -18,15 +17,7 @@ public:
 
     /// Hidden when there is none.
     void setPreview(const std::optional<ParsedReminder> &preview);
-    [[nodiscard]] QString text() const { return m_text; }
-
-Q_SIGNALS:
-    void dismissed();
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     const Clock &m_clock;
-    QString m_text;
 };

@@ -3,7 +3,6 @@
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
 #include "ui/RowDelegate.h"
-#include "ui/RowListAccessible.h"
 #include "ui/RowModel.h"
 #include "ui/SlimScrollBar.h"
 
@@ -24,7 +23,6 @@ RowListView::RowListView(RowModel &model, QWidget *parent)
     , m_rows(new RowDelegate(model, this))
     , m_scrolling(new QVariantAnimation(this))
 {
-    RowListAccessible::install();
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setEditTriggers(NoEditTriggers);

@@ -12,28 +12,18 @@ class TagRenameState final : public QObject
     Q_OBJECT
 
 public:
-    explicit TagRenameState(QObject *parent = nullptr)
-        : QObject(parent)
-    {
-        s_active = this;
-    }
+    explicit TagRenameState(QObject *parent = nullptr);
     /// The one that was made last, while it exists.
     [[nodiscard]] static TagRenameState *active() { return s_active; }
 
     [[nodiscard]] const std::optional<QString> &renaming() const { return m_renaming; }
-    void setRenaming(const std::optional<QString> &tag)
-    {
-        if (m_renaming == tag)
-            return;
-        m_renaming = tag;
-        Q_EMIT changed();
-    }
+    void setRenaming(const std::optional<QString> &tag);
 
 Q_SIGNALS:
     void changed();
 
 private:
-    static inline QPointer<TagRenameState> s_active;
+    static QPointer<TagRenameState> s_active;
 
     std::optional<QString> m_renaming;
 };

@@ -98,7 +98,7 @@ private Q_SLOTS:
         QTRY_COMPARE(panel.list().flashID(), quoted.id);
 
         panel.choose(1, u"引用"_s);
-        panel.find<QAbstractButton>("dismissQuote")->click();
+        bar->findChild<QAbstractButton *>()->click();
         QVERIFY(!panel.state().quoting());
     }
 

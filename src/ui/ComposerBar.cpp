@@ -1,6 +1,5 @@
-#include "ui/QuoteBar.h"
+#include "ui/ComposerBar.h"
 
-#include "text/L10n.h"
 #include "ui/BarButton.h"
 #include "ui/Design.h"
 #include "ui/NoteStyle.h"
@@ -9,40 +8,40 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-QuoteBar::QuoteBar(QWidget *parent)
+ComposerBar::ComposerBar(const QString &symbol, const QString &dismissHelp, QWidget *parent)
     : QWidget(parent)
+    , m_symbol(symbol)
 {
-    setObjectName(QStringLiteral("quoteBar"));
     setFixedHeight(Design::barHeight);
     setVisible(false);
-    auto *dismiss = new BarButton(QStringLiteral("xmark"), L10n::text("取消引用"), this);
-    dismiss->setObjectName(QStringLiteral("dismissQuote"));
+    auto *dismiss = new BarButton(QStringLiteral("xmark"), dismissHelp, this);
+    dismiss->setObjectName(QStringLiteral("dismiss"));
     dismiss->setFocusPolicy(Qt::NoFocus);
-    connect(dismiss, &BarButton::clicked, this, &QuoteBar::dismissed);
+    connect(dismiss, &BarButton::clicked, this, &ComposerBar::dismissed);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, Design::edge, 0);
     layout->addStretch();
     layout->addWidget(dismiss);
 }
 
-void QuoteBar::setText(const QString &text)
+void ComposerBar::setText(const QString &text)
 {
-    m_text = text.simplified();
+    m_text = text;
     setAccessibleName(m_text);
     update();
 }
 
-void QuoteBar::paintEvent(QPaintEvent *)
+void ComposerBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor color = NoteStyle::metaColor(palette());
     const QRect symbol(Design::edge + Design::grid, (height() - Design::symbolSize) / 2, Design::symbolSize,
         Design::symbolSize);
-    Symbol::paint(painter, symbol, QStringLiteral("text.quote"), color);
+    Symbol::paint(painter, symbol, m_symbol, color);
     const QRect place =
         rect().adjusted(symbol.right() + 2 * Design::grid, 0, -Design::edge - Design::buttonSize, 0);
     painter.setFont(NoteStyle::quoteFont());
     painter.setPen(color);
     painter.drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(m_text, Qt::ElideRight, place.width()));
+        painter.fontMetrics().elidedText(m_text.simplified(), Qt::ElideRight, place.width()));
 }
