@@ -3,6 +3,8 @@
 #include "foundation/Calendar.h"
 #include "foundation/Instant.h"
 
+#include <chrono>
+#include <cstdint>
 #include <utility>
 
 /// The present, as the person at the machine reads it. Handed in by constructor, so that tests set their own.
@@ -33,13 +35,24 @@ private:
     Calendar m_calendar;
 };
 
-/// The machine's clock and time zone.
+/// The machine's clock and time zone. A change of the zone is noticed within a second. Of one thread.
 class SystemClock final : public Clock
 {
 public:
+    SystemClock();
     [[nodiscard]] Instant now() const override;
-    [[nodiscard]] const Calendar &calendar() const override { return m_calendar; }
+    [[nodiscard]] const Calendar &calendar() const override;
 
 private:
-    Calendar m_calendar = Calendar::system();
+    /// Which file names the zone: another whenever the zone is set.
+    struct ZoneFile {
+        std::uint64_t inode = 0;
+        std::int64_t modified = 0; ///< in nanoseconds
+        bool operator==(const ZoneFile &) const = default;
+    };
+    [[nodiscard]] static ZoneFile zoneFile();
+
+    mutable ZoneFile m_zoneFile;
+    mutable Calendar m_calendar;
+    mutable std::chrono::steady_clock::time_point m_lastLook;
 };
