@@ -12,6 +12,9 @@ RankedSearch::RankedSearch(SearchIndex &index, SentenceEmbeddingProviding *provi
     , m_except(request.except)
     , m_query(request.query)
     , m_contains(size_t(m_texts.size()))
+    // Where no text is admitted by its vector alone, the baseline only shifts all relative scores alike: it
+    // is not needed but to settle which of two is better that are all but equal.
+    , m_needsBaseline(request.queryVector && request.semanticOnlyCap > 0)
 {
     Q_ASSERT(m_texts.size() == m_index.texts.size());
     if (request.queryVector)
@@ -55,7 +58,20 @@ bool RankedSearch::advance(const QDeadlineTimer &deadline)
     if (m_stage == Stage::Comparing) {
         if (!eachPlace([this](qsizetype place) { compare(place); }))
             return false;
-        finish();
+        sortBest();
+        const bool lacksBaseline = m_vector && !m_needsBaseline;
+        if (lacksBaseline && hasCloseScores())
+            m_median = std::make_unique<MedianCosine>(candidateVectors());
+        m_stage = Stage::Settling;
+    }
+    if (m_stage == Stage::Settling) {
+        if (m_median && !m_needsBaseline) {
+            if (!m_median->advance(deadline))
+                return false;
+            settle();
+        }
+        m_matches.resize(size_t(resultSize()));
+        m_matches.shrink_to_fit();
         m_stage = Stage::Done;
     }
     return true;
@@ -72,19 +88,23 @@ void RankedSearch::read(qsizetype place)
 
 void RankedSearch::prepareBaseline()
 {
-    // Where no text is admitted by its vector alone, the baseline only shifts all relative scores alike.
-    if (!m_vector || m_semanticOnlyLeft == 0)
+    if (!m_needsBaseline)
         return;
-    if (m_index.baseline) {
+    if (m_index.baseline)
         m_baseline = *m_index.baseline;
-        return;
-    }
+    else
+        m_median = std::make_unique<MedianCosine>(candidateVectors());
+}
+
+std::vector<SparseVector> RankedSearch::candidateVectors() const
+{
     std::vector<SparseVector> vectors;
     for (const SemanticCandidate &text : m_texts) {
-        if (const auto vector = m_index.vectors.find(text.id))
+        const auto vector = text.id == m_except ? std::nullopt : m_index.vectors.find(text.id);
+        if (vector)
             vectors.push_back(*vector);
     }
-    m_median = std::make_unique<MedianCosine>(vectors);
+    return vectors;
 }
 
 void RankedSearch::compare(qsizetype place)
@@ -109,15 +129,43 @@ void RankedSearch::compare(qsizetype place)
     }
 }
 
-void RankedSearch::finish()
+qsizetype RankedSearch::resultSize() const
 {
-    const auto count = std::clamp<qsizetype>(m_limit, 0, qsizetype(m_matches.size()));
+    return std::clamp<qsizetype>(m_limit, 0, qsizetype(m_matches.size()));
+}
+
+void RankedSearch::sortBest()
+{
+    // One more than is told: it may be as good as the last.
+    const auto count = std::min(resultSize() + 1, qsizetype(m_matches.size()));
     std::partial_sort(
         m_matches.begin(), m_matches.begin() + count, m_matches.end(), [](const Match &a, const Match &b) {
             if (SemanticSearch::isBetter(a.score, b.score))
                 return true;
             return !SemanticSearch::isBetter(b.score, a.score) && a.place < b.place;
         });
-    m_matches.resize(size_t(count));
-    m_matches.shrink_to_fit();
+}
+
+bool RankedSearch::hasCloseScores() const
+{
+    // So close that taking the baseline away could round them to one, or put them in another order.
+    constexpr double close = 1e-12;
+    const auto count = std::min(resultSize() + 1, qsizetype(m_matches.size()));
+    for (qsizetype i = 1; i < count; ++i) {
+        const ScoredMatch &a = m_matches[size_t(i) - 1].score;
+        const ScoredMatch &b = m_matches[size_t(i)].score;
+        if (a.lexicalScore == b.lexicalScore && a.relativeScore && b.relativeScore
+            && *a.relativeScore != *b.relativeScore && *a.relativeScore - *b.relativeScore < close)
+            return true;
+    }
+    return false;
+}
+
+void RankedSearch::settle()
+{
+    for (Match &match : m_matches) {
+        if (match.score.relativeScore)
+            *match.score.relativeScore -= m_median->value();
+    }
+    sortBest();
 }

@@ -37,11 +37,15 @@ public:
     [[nodiscard]] const std::vector<Match> &matches() const { return m_matches; }
 
 private:
-    enum class Stage { Reading, Baseline, Comparing, Done };
+    enum class Stage { Reading, Baseline, Comparing, Settling, Done };
     void read(qsizetype place);
     void prepareBaseline();
     void compare(qsizetype place);
-    void finish();
+    [[nodiscard]] std::vector<SparseVector> candidateVectors() const;
+    [[nodiscard]] qsizetype resultSize() const;
+    void sortBest();
+    [[nodiscard]] bool hasCloseScores() const;
+    void settle();
 
     SearchIndex &m_index;
     SentenceEmbeddingProviding *m_provider;
@@ -52,6 +56,7 @@ private:
     LexicalQuery m_query;
     std::optional<VectorQuery> m_vector;
     std::vector<bool> m_contains; ///< by place: case aside
+    bool m_needsBaseline;
 
     Stage m_stage = Stage::Reading;
     qsizetype m_next = 0; ///< the place that is next in this stage
