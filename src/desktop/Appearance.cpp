@@ -34,7 +34,6 @@ void Appearance::follow()
 void Appearance::onSettingChanged(
     const QString &changedGroup, const QString &changedKey, const QDBusVariant &value)
 {
-
     if (changedGroup == group && changedKey == key)
         take(value.variant());
 }

@@ -158,9 +158,3 @@ LexicalIndex::Lexis LexicalIndex::lexis(qsizetype place) const
                                         : QByteArrayView(m_folded.data() + found.begin, found.size),
         std::span(m_words).subspan(found.wordsBegin, found.wordsSize), found.isSingleCodePoints};
 }
-
-qsizetype LexicalIndex::memory() const
-{
-    return qsizetype(m_folded.capacity() + m_words.capacity() + m_documents.capacity() * sizeof(Document)
-                     + m_order.capacity() * sizeof(quint32));
-}

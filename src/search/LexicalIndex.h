@@ -40,9 +40,6 @@ public:
     void readWords(qsizetype place, const QString &text);
     [[nodiscard]] Lexis lexis(qsizetype place) const; ///< of a text whose words have been read
 
-    /// Bytes that are held, for the benchmarks.
-    [[nodiscard]] qsizetype memory() const;
-
 private:
     static constexpr quint32 notRead = std::numeric_limits<quint32>::max();
     struct Document {

@@ -62,12 +62,6 @@ std::optional<SparseVector> VectorCache::find(QUuid id) const
         std::span(m_values).subspan(found->begin, found->count), found->dimension, found->norm};
 }
 
-qsizetype VectorCache::memory() const
-{
-    return qsizetype(m_axes.capacity() * sizeof(quint32) + m_values.capacity() * sizeof(double)
-                     + size_t(m_entries.capacity()) * (sizeof(QUuid) + sizeof(Entry) + 1));
-}
-
 VectorQuery::VectorQuery(SemanticSearch::Vector vector)
     : m_vector(std::move(vector))
     , m_norm(SemanticSearch::norm(m_vector))

@@ -27,8 +27,6 @@ public:
     [[nodiscard]] std::optional<SparseVector> find(QUuid id) const;
     [[nodiscard]] QList<QUuid> ids() const { return m_entries.keys(); }
 
-    [[nodiscard]] qsizetype memory() const; ///< bytes that are held
-
 private:
     struct Entry {
         size_t begin = 0;

@@ -4,8 +4,6 @@
 
 #include <optional>
 
-class QWidget;
-
 /// The dialogs in which a file is chosen. A test answers in advance.
 namespace FileDialogs {
 enum class Format { Json, Markdown };

@@ -6,6 +6,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <optional>
+#include <utility>
+
 namespace {
 std::optional<bool> s_nextAnswer;
 ModalQuestion::Told s_lastTold;

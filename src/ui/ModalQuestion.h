@@ -2,8 +2,6 @@
 
 #include <QString>
 
-#include <optional>
-
 class QWidget;
 
 /// The modal questions and reports. A test answers in advance, and reads what was told.
