@@ -11,6 +11,21 @@
 #include <QScreen>
 #include <QWindow>
 
+namespace {
+FloatingFrame::Backdrop presentBackdrop()
+{
+    switch (Compositor::kind()) {
+    case Compositor::Kind::None:
+        return FloatingFrame::Backdrop::None;
+    case Compositor::Kind::Plain:
+        return FloatingFrame::Backdrop::Sharp;
+    case Compositor::Kind::Blurring:
+        return FloatingFrame::Backdrop::Blurred;
+    }
+    Q_UNREACHABLE();
+}
+} // namespace
+
 PanelController::PanelController(std::function<ContentView *()> makeContent, QObject *parent)
     : QObject(parent)
     , m_makeContent(std::move(makeContent))
@@ -29,20 +44,23 @@ void PanelController::prepare()
 
 void PanelController::makeWindow()
 {
-    using Surface = PanelWindow::Surface;
-    const Surface surface = Compositor::isActive() ? Surface::Translucent : Surface::Opaque;
-    if (m_window && m_window->surface() == surface)
+    const FloatingFrame::Backdrop backdrop = presentBackdrop();
+    if (m_window && m_window->frame().backdrop() == backdrop)
         return;
     if (m_window)
         m_window->releaseContent();
-    m_window = std::make_unique<PanelWindow>(m_content, surface);
+    m_window = std::make_unique<PanelWindow>(m_content, backdrop);
     connect(m_window.get(), &PanelWindow::focusLost, this, &PanelController::close);
     connect(m_window.get(), &PanelWindow::escaped, this, [this] {
         close();
         Q_EMIT m_content->state().panelDidToggle();
     });
     m_window->winId(); // the platform's window too
-    m_window->grab();  // and all that the first painting costs: fonts, layouts, symbols
+    if (backdrop == FloatingFrame::Backdrop::Blurred) {
+        Compositor::blurBehind(
+            *m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
+    }
+    m_window->grab(); // and all that the first painting costs: fonts, layouts, symbols
 }
 
 PanelState &PanelController::state()
@@ -99,7 +117,7 @@ void PanelController::place()
             screen = pointed;
     }
     const QRect available = screen->availableGeometry();
-    const QSize size = Design::panelSize.grownBy(QMargins() + m_window->shadowMargin());
-    const int margin = Design::panelMargin - m_window->shadowMargin();
+    const QSize size = Design::panelSize.grownBy(QMargins() + m_window->frame().margin());
+    const int margin = Design::panelMargin - m_window->frame().margin();
     m_window->move(available.right() - size.width() - margin, available.bottom() - size.height() - margin);
 }

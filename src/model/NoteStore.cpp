@@ -98,7 +98,6 @@ void NoteStore::load()
 
 void NoteStore::publishAndSave()
 {
-    m_tagSummaries.reset();
     m_isIndexUpToDate = false;
     Q_EMIT notesChanged();
     const auto encoded = [](const QList<Note> &notes) -> ByteSource {
@@ -141,6 +140,7 @@ std::optional<Note> NoteStore::add(const QString &text, const std::optional<Note
     }
     m_notes.prepend(note);
     dropDerived(note.id);
+    countTagsOfNewest(note);
     publishAndSave();
     if (reminder && m_reminderStore)
         m_reminderStore->schedule(note.id, reminder->fireAt, reminder->content, trimmed);
@@ -153,7 +153,9 @@ void NoteStore::update(QUuid id, const QString &text)
     const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
     if (trimmed.isEmpty() || found == m_notes.end())
         return;
-    found->text = trimmed;
+    const QString before = std::exchange(found->text, trimmed);
+    if (NoteHighlighting::tags(before) != NoteHighlighting::tags(trimmed))
+        m_tagSummaries.reset();
     dropDerived(id);
     publishAndSave();
 }
@@ -172,6 +174,7 @@ void NoteStore::remove(QUuid id)
         return;
     m_trash.prepend(*found);
     m_notes.erase(found);
+    dropTagCounts(m_trash.first());
     dropDerived(id);
     if (m_reminderStore)
         m_reminderStore->cancelForNote(id);
@@ -188,6 +191,7 @@ void NoteStore::restore(QUuid id)
     const auto earlier = std::find_if(m_notes.begin(), m_notes.end(),
         [&note](const Note &other) { return other.createdAt < note.createdAt; });
     m_notes.insert(earlier, note);
+    dropTagCounts(note);
     publishAndSave();
 }
 
@@ -224,8 +228,39 @@ qsizetype NoteStore::importNotes(const QList<Note> &incoming)
         return 0;
     m_notes += added;
     sortNewestFirst(m_notes);
+    m_tagSummaries.reset();
     publishAndSave();
     return added.size();
+}
+
+void NoteStore::dropTagCounts(const Note &note)
+{
+    if (!NoteHighlighting::tags(note.text).isEmpty())
+        m_tagSummaries.reset();
+}
+
+void NoteStore::countTagsOfNewest(const Note &note)
+{
+    if (!m_tagSummaries)
+        return;
+    // Its tags are the first now, in its order; the others follow as they were.
+    QList<TagSummary> &others = *m_tagSummaries;
+    QList<TagSummary> summaries;
+    for (const QString &tag : NoteHighlighting::tags(note.text)) {
+        const auto isNamed = [name = QStringView(tag).sliced(1)](
+                                 const TagSummary &summary) { return summary.name == name; };
+        if (const auto counted = std::find_if(summaries.begin(), summaries.end(), isNamed);
+            counted != summaries.end()) {
+            ++counted->count;
+        } else if (const auto other = std::find_if(others.begin(), others.end(), isNamed);
+                   other != others.end()) {
+            summaries.append({other->name, other->count + 1});
+            others.erase(other);
+        } else {
+            summaries.append({tag.sliced(1), 1});
+        }
+    }
+    m_tagSummaries = summaries + others;
 }
 
 const QList<TagSummary> &NoteStore::tagSummaries() const
@@ -282,8 +317,10 @@ void NoteStore::renameTag(const QString &from, const QString &to)
             hasChanged = true;
         }
     }
-    if (hasChanged)
-        publishAndSave();
+    if (!hasChanged)
+        return;
+    m_tagSummaries.reset();
+    publishAndSave();
 }
 
 void NoteStore::removeTag(const QString &tag)
@@ -314,6 +351,7 @@ void NoteStore::removeTag(const QString &tag)
             m_reminderStore->cancelForNote(note.id);
     }
     m_trash = emptied + m_trash;
+    m_tagSummaries.reset();
     publishAndSave();
 }
 

@@ -108,7 +108,9 @@ private:
         const QList<Note> &notes, const QList<qsizetype> &places, const Calendar &calendar);
     void load();
     void publishAndSave();
-    void dropDerived(QUuid id); ///< what is kept about a note's text, its vector included
+    void dropDerived(QUuid id);           ///< what is kept about a note's text, its vector included
+    void dropTagCounts(const Note &note); ///< if it has any tags
+    void countTagsOfNewest(const Note &note);
     void tagDidChange(const QList<Note> &list, QUuid id);
     [[nodiscard]] QList<SemanticCandidate> candidates() const;
     void bringIndexUpToDate() const;

@@ -1,9 +1,15 @@
 #include "ui/ComposerField.h"
 
+#include "ui/MenuLooks.h"
+
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 
 #include <algorithm>
 
@@ -42,9 +48,8 @@ void ComposerField::keyPressEvent(QKeyEvent *event)
         QLineEdit::keyPressEvent(event);
 }
 
-void ComposerField::pasteAsOneLine()
+void ComposerField::insertAsOneLine(const QString &text)
 {
-    const QString text = QGuiApplication::clipboard()->text();
     QStringList lines;
     qsizetype start = 0;
     for (qsizetype i = 0; i <= text.size(); ++i) {
@@ -55,6 +60,43 @@ void ComposerField::pasteAsOneLine()
         start = i + 1;
     }
     insert(lines.join(u' '));
+}
+
+void ComposerField::pasteAsOneLine()
+{
+    insertAsOneLine(QGuiApplication::clipboard()->text());
+}
+
+void ComposerField::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction *action : menu->actions()) {
+        if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+            action->disconnect(this);
+            connect(action, &QAction::triggered, this, &ComposerField::pasteAsOneLine);
+        }
+    }
+    MenuLooks::dress(*menu);
+    menu->popup(event->globalPos());
+}
+
+void ComposerField::dropEvent(QDropEvent *event)
+{
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    insertAsOneLine(event->mimeData()->text());
+    event->acceptProposedAction();
+}
+
+void ComposerField::mouseReleaseEvent(QMouseEvent *event)
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    insertAsOneLine(clipboard->text(QClipboard::Selection));
 }
 
 void ComposerField::focusOutEvent(QFocusEvent *event)

@@ -16,11 +16,15 @@ public:
     void replaceAll(const QString &text);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void insertAsOneLine(const QString &text);
     void pasteAsOneLine();
 
     bool m_isComposing = false;

@@ -5,6 +5,7 @@
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
 #include "ui/BarButton.h"
+#include "ui/CapsuleButton.h"
 #include "ui/ComposerView.h"
 #include "ui/Design.h"
 #include "ui/NoteListView.h"
@@ -16,7 +17,6 @@
 #include "ui/TrashListView.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QVBoxLayout>
@@ -49,7 +49,7 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
     , m_title(new QLabel(this))
     , m_stack(new QStackedLayout)
-    , m_emptyTrash(new QPushButton(L10n::text("清空回收站"), this))
+    , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), this))
 {
     setFocusProxy(m_composer);
 
@@ -75,7 +75,6 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     layout->setSpacing(0);
     layout->addLayout(bar);
     layout->addLayout(m_stack, 1);
-    layout->addSpacing(2 * Design::grid);
     layout->addWidget(m_composer);
     layout->addWidget(m_trashBar);
 
@@ -142,8 +141,6 @@ void ContentView::addTrash(NoteStore &notes)
     auto *layout = new QHBoxLayout(m_trashBar);
     layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
     layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
-    m_emptyTrash->setFixedHeight(Design::fieldHeight);
-    m_emptyTrash->setFont(NoteStyle::font());
     m_emptyTrash->setObjectName(QStringLiteral("emptyTrash"));
     connect(m_emptyTrash, &QPushButton::clicked, this, [&notes] { notes.emptyTrash(); });
     const auto tell = [this, &notes] { m_emptyTrash->setEnabled(!notes.trash().isEmpty()); };

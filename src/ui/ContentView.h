@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class BarButton;
+class CapsuleButton;
 class Clock;
 class ComposerView;
 class DateDetecting;
@@ -13,7 +14,6 @@ class NoteListView;
 class NoteStore;
 class PageTitleFetching;
 class QLabel;
-class QPushButton;
 class QStackedLayout;
 class ReminderModel;
 class ReminderStore;
@@ -75,7 +75,7 @@ private:
     QLabel *m_title = nullptr;
     QList<ModeButton> m_modeButtons;
     QStackedLayout *m_stack = nullptr; ///< a page for each mode, in their order
-    QPushButton *m_emptyTrash = nullptr;
+    CapsuleButton *m_emptyTrash = nullptr;
     QWidget *m_trashBar = nullptr; ///< below the trash, in place of the composer
     QTimer m_nextMinute;
 };

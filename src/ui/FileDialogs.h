@@ -1,19 +1,18 @@
 #pragma once
 
+#include "ui/ExportFormatAccessory.h"
+
 #include <QString>
 
 #include <optional>
 
 /// The dialogs in which a file is chosen. A test answers in advance.
 namespace FileDialogs {
-enum class Format { Json, Markdown };
-[[nodiscard]] QString extension(Format format); ///< without its dot
-
 struct Target {
     QString path; ///< as the person wrote it
-    Format format = Format::Json;
+    ExportFormatAccessory::Format format = ExportFormatAccessory::Format::Json;
 };
-/// Nothing when the person thinks better of it. The name's extension follows the format that is chosen.
+/// Nothing when the person thinks better of it.
 [[nodiscard]] std::optional<Target> askForTarget(const QString &title, const QString &baseName);
 /// A JSON or Markdown file to be read.
 [[nodiscard]] std::optional<QString> askForSource(const QString &title);

@@ -22,7 +22,7 @@ QString targetPath(const FileDialogs::Target &target)
             break;
         }
     }
-    return path + u'.' + FileDialogs::extension(target.format);
+    return path + u'.' + ExportFormatAccessory::extension(target.format);
 }
 } // namespace
 
@@ -32,7 +32,7 @@ void ImportExport::exportNotes(const NoteStore &store, const Clock &clock)
     const auto target = FileDialogs::askForTarget(L10n::text("导出笔记"), QStringLiteral("Quillet-") + today);
     if (!target)
         return;
-    const QByteArray content = target->format == FileDialogs::Format::Json
+    const QByteArray content = target->format == ExportFormatAccessory::Format::Json
                                    ? noteEncoder::encode(store.notes())
                                    : NoteMarkdown::exported(store.notes(), clock.calendar()).toUtf8();
     const Outcome written =

@@ -38,14 +38,18 @@ NoteListView::NoteListView(
 
 void NoteListView::queryDidChange()
 {
-    const bool isBlank = m_state.draft().trimmed().isEmpty();
-    setEmptyText(
-        isBlank ? L10n::text("还没有笔记，写下第一条吧") : L10n::text("没有匹配的笔记，回车保存为新笔记"));
     if (m_timeline.query() == m_state.draft())
         return;
     m_timeline.setQuery(m_state.draft());
     forgetHeights(); // the hits in the rows that stay are others
     verticalScrollBar()->setValue(0);
+}
+
+RowListView::EmptyState NoteListView::emptyState() const
+{
+    const bool isBlank = m_state.draft().trimmed().isEmpty();
+    return {QStringLiteral("menubar"),
+        isBlank ? L10n::text("还没有笔记，写下第一条吧") : L10n::text("没有匹配的笔记，回车保存为新笔记")};
 }
 
 // What can be done with a note

@@ -26,6 +26,8 @@ public:
     void scrollAndFlash(QUuid noteID, bool clearsExternalTarget);
     [[nodiscard]] std::optional<QUuid> flashID() const { return m_flashID; }
 
+    [[nodiscard]] EmptyState emptyState() const override;
+
 protected:
     void activate(int row) override; ///< edits the note
     void clickPart(int row, RowPart part) override;

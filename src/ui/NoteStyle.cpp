@@ -87,6 +87,23 @@ QColor NoteStyle::background(const QPalette &palette)
     return byAppearance(palette, QColor(0xfa, 0xfa, 0xf8), QColor(0x24, 0x26, 0x2a));
 }
 
+QColor NoteStyle::ground(const QPalette &palette, FloatingFrame::Backdrop backdrop)
+{
+    QColor color = background(palette);
+    switch (backdrop) {
+    case FloatingFrame::Backdrop::None:
+        break;
+    case FloatingFrame::Backdrop::Sharp:
+        color.setAlphaF(Design::sharpGroundOpacity);
+        break;
+    case FloatingFrame::Backdrop::Blurred:
+        color.setAlphaF(
+            isDark(palette) ? Design::blurredDarkGroundOpacity : Design::blurredLightGroundOpacity);
+        break;
+    }
+    return color;
+}
+
 QColor NoteStyle::fieldColor(const QPalette &palette)
 {
     return byAppearance(palette, QColor(0xff, 0xff, 0xff), QColor(0x30, 0x33, 0x38));
@@ -99,7 +116,7 @@ QColor NoteStyle::quoteGround(const QPalette &palette)
 
 QColor NoteStyle::hover(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xf1, 0xf1, 0xee), QColor(0x2b, 0x2e, 0x33));
+    return byAppearance(palette, QColor(0xf1, 0xf1, 0xee), QColor(0x2f, 0x32, 0x38));
 }
 
 QColor NoteStyle::hairline(const QPalette &palette)

@@ -2,45 +2,24 @@
 
 #include "ui/ContentView.h"
 #include "ui/Design.h"
-#include "ui/NoteStyle.h"
 
 #include <QApplication>
-#include <QBitmap>
 #include <QKeyEvent>
 #include <QMargins>
 #include <QPainter>
 #include <QVBoxLayout>
 
-namespace {
-/// Soft at its edge and a little lower than the panel, as if the light came from above.
-void paintShadow(QPainter &painter, const QRectF &panel)
-{
-    constexpr int lower = 3;
-    constexpr qreal darkest = 0.10;
-    painter.setPen(Qt::NoPen);
-    const int reach = Design::shadowMargin - lower;
-    for (int spread = reach; spread > 0; --spread) {
-        const qreal nearness = 1 - qreal(spread) / reach;
-        painter.setBrush(QColor::fromRgbF(0, 0, 0, float(darkest * nearness * nearness / 3)));
-        const qreal radius = Design::panelRadius + spread;
-        painter.drawRoundedRect(
-            panel.adjusted(-spread, -spread + lower, spread, spread + lower), radius, radius);
-    }
-}
-} // namespace
-
-PanelWindow::PanelWindow(ContentView *content, Surface surface)
+PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     , m_content(content)
-    , m_surface(surface)
+    , m_frame(*this, backdrop, {Design::panelRadius, Design::shadowMargin})
 {
     setWindowTitle(QStringLiteral("Quillet"));
     setObjectName(QStringLiteral("panel"));
-    setFixedSize(Design::panelSize.grownBy(QMargins() + shadowMargin()));
+    setFixedSize(Design::panelSize.grownBy(QMargins() + m_frame.margin()));
     setFocusProxy(m_content);
-    setAttribute(m_surface == Surface::Opaque ? Qt::WA_OpaquePaintEvent : Qt::WA_TranslucentBackground);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(QMargins() + shadowMargin());
+    layout->setContentsMargins(QMargins() + m_frame.margin());
     layout->addWidget(m_content);
     qApp->installEventFilter(this);
 
@@ -87,11 +66,6 @@ void PanelWindow::checkFocus()
         Q_EMIT focusLost();
 }
 
-int PanelWindow::shadowMargin() const
-{
-    return m_surface == Surface::Translucent ? Design::shadowMargin : 0;
-}
-
 void PanelWindow::releaseContent()
 {
     layout()->removeWidget(m_content);
@@ -101,30 +75,11 @@ void PanelWindow::releaseContent()
 void PanelWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    if (m_surface == Surface::Translucent)
-        return;
-    QBitmap outline(size());
-    outline.fill(Qt::color0);
-    QPainter painter(&outline);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::color1);
-    painter.drawRoundedRect(rect(), Design::panelRadius, Design::panelRadius);
-    painter.end();
-    setMask(outline);
+    m_frame.windowDidResize();
 }
 
 void PanelWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const bool isOpaque = m_surface == Surface::Opaque;
-    const QColor ground = NoteStyle::background(palette());
-    m_frame.paint(painter, *this, isOpaque ? ground : QColor(Qt::transparent), [&](QPainter &frame) {
-        const QRectF outline = QRectF(panel()).adjusted(0.5, 0.5, -0.5, -0.5);
-        if (!isOpaque) {
-            paintShadow(frame, outline);
-            frame.setBrush(ground);
-        }
-        frame.setPen(NoteStyle::hairline(palette()));
-        frame.drawRoundedRect(outline, Design::panelRadius, Design::panelRadius);
-    });
+    m_frame.paint(painter);
 }

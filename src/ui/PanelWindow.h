@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/StillPicture.h"
+#include "ui/FloatingFrame.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -13,14 +13,10 @@ class PanelWindow final : public QWidget
     Q_OBJECT
 
 public:
-    /// How the desktop shows the window: cut out of a rectangle, or with soft corners and a shadow.
-    enum class Surface { Opaque, Translucent };
-
     /// @p content is adopted.
-    explicit PanelWindow(ContentView *content, Surface surface = Surface::Opaque);
-    [[nodiscard]] Surface surface() const { return m_surface; }
-    /// How far the panel's edge is within the window's.
-    [[nodiscard]] int shadowMargin() const;
+    explicit PanelWindow(
+        ContentView *content, FloatingFrame::Backdrop backdrop = FloatingFrame::Backdrop::None);
+    [[nodiscard]] const FloatingFrame &frame() const { return m_frame; }
     /// Gives the content back, for another window.
     void releaseContent();
 
@@ -38,10 +34,7 @@ protected:
 private:
     void checkFocus();
 
-    [[nodiscard]] QRect panel() const { return rect().marginsRemoved(QMargins() + shadowMargin()); }
-
     ContentView *m_content = nullptr;
-    Surface m_surface;
     QTimer m_focusCheck;
-    StillPicture m_frame;
+    FloatingFrame m_frame;
 };

@@ -47,6 +47,13 @@ private:
     QString m_text;
 };
 
+/// What shines through the parent's window shines through one on top of it.
+FloatingFrame::Backdrop backdropOf(const QWidget &parent)
+{
+    return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingFrame::Backdrop::Sharp
+                                                                        : FloatingFrame::Backdrop::None;
+}
+
 QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
@@ -62,15 +69,17 @@ QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidg
 } // namespace
 
 RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWidget *parent)
-    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint)
+    : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
+    , m_frame(*this, backdropOf(*parent), {Design::popoverRadius, Design::popoverShadow, true})
 {
     setObjectName(QStringLiteral("relatedNotes"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(L10n::text("相关笔记"));
-    setFixedWidth(Design::panelSize.width() - 2 * Design::edge);
+    setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * m_frame.margin());
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid);
+    layout->setContentsMargins(
+        QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + m_frame.margin());
     layout->setSpacing(0);
     layout->addWidget(
         label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
@@ -92,17 +101,22 @@ RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWi
 void RelatedNotesView::popUp(const QRect &place)
 {
     adjustSize();
-    const QRect available = parentWidget()->screen()->availableGeometry();
-    const bool fitsBelow = place.bottom() + height() <= available.bottom();
-    move(std::clamp(place.left() + Design::edge, available.left(), available.right() - width()),
-        fitsBelow ? place.bottom() + 1 : place.top() - height());
+    const int margin = m_frame.margin();
+    const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin);
+    const bool fitsBelow = place.bottom() + 1 - margin + height() <= available.bottom();
+    move(std::clamp(place.left() + Design::edge - margin, available.left(), available.right() - width()),
+        fitsBelow ? place.bottom() + 1 - margin : place.top() - height() + margin);
     show();
+}
+
+void RelatedNotesView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_frame.windowDidResize();
 }
 
 void RelatedNotesView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), NoteStyle::background(palette()));
-    painter.setPen(NoteStyle::hairline(palette()));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    m_frame.paint(painter);
 }

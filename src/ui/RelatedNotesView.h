@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QFrame>
+#include "ui/FloatingFrame.h"
+
 #include <QUuid>
+#include <QWidget>
 
 class NoteStore;
 struct Note;
 
 /// A popover with the notes that resemble one, a button for each. It deletes itself when it closes.
-class RelatedNotesView final : public QFrame
+class RelatedNotesView final : public QWidget
 {
     Q_OBJECT
 
@@ -22,4 +24,8 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    FloatingFrame m_frame;
 };

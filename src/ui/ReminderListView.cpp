@@ -21,9 +21,9 @@ ReminderModel::ReminderModel(NoteStore &notes, ReminderStore &reminders, const C
     , m_reminders(reminders)
     , m_clock(clock)
 {
-    connect(&m_notes, &NoteStore::notesChanged, this, &ReminderModel::refresh);
-    connect(&m_reminders, &ReminderStore::remindersChanged, this, &ReminderModel::refresh);
-    refresh();
+    connect(&m_notes, &NoteStore::notesChanged, this, &ReminderModel::refreshWhenSeen);
+    connect(&m_reminders, &ReminderStore::remindersChanged, this, &ReminderModel::refreshWhenSeen);
+    ReminderModel::refresh();
 }
 
 void ReminderModel::refresh()
@@ -84,7 +84,11 @@ ReminderListView::ReminderListView(ReminderStore &reminders, ReminderModel &mode
 {
     setObjectName(QStringLiteral("reminderList"));
     setAccessibleName(L10n::text("提醒"));
-    setEmptyText(L10n::text("暂无提醒"));
+}
+
+RowListView::EmptyState ReminderListView::emptyState() const
+{
+    return {QStringLiteral("bell"), L10n::text("暂无提醒")};
 }
 
 QUuid ReminderListView::noteOf(int row) const

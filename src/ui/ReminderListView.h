@@ -25,6 +25,7 @@ class ReminderModel final : public RowsOf<ReminderRow>
 
 public:
     ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent = nullptr);
+    void refresh() override;
     void timeDidPass();
 
     [[nodiscard]] RowContent content(int row) const override;
@@ -32,8 +33,6 @@ public:
     [[nodiscard]] QString text(int row) const override;
 
 private:
-    void refresh();
-
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;
@@ -45,6 +44,8 @@ class ReminderListView final : public RowListView
 
 public:
     ReminderListView(ReminderStore &reminders, ReminderModel &model, QWidget *parent = nullptr);
+
+    [[nodiscard]] EmptyState emptyState() const override;
 
 Q_SIGNALS:
     void openNote(QUuid noteID);

@@ -1,10 +1,12 @@
 #include "ui/RowListView.h"
 
 #include "ui/Design.h"
+#include "ui/MenuLooks.h"
 #include "ui/NoteStyle.h"
 #include "ui/RowDelegate.h"
 #include "ui/RowModel.h"
 #include "ui/SlimScrollBar.h"
+#include "ui/Symbol.h"
 
 #include <QContextMenuEvent>
 #include <QEasingCurve>
@@ -32,6 +34,7 @@ RowListView::RowListView(RowModel &model, QWidget *parent)
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
     setItemDelegate(m_rows);
+    m_rowModel.setSeen(false);
     RowListView::setModel(&m_rowModel);
 
     m_scrolling->setDuration(int(Design::scrollDuration.count()));
@@ -58,12 +61,6 @@ void RowListView::setModel(QAbstractItemModel *model)
     connect(model, &QAbstractItemModel::modelReset, this, &RowListView::forgetHeights);
     QAbstractItemView::setModel(model);
     forgetHeights();
-}
-
-void RowListView::setEmptyText(const QString &text)
-{
-    m_emptyText = text;
-    viewport()->update();
 }
 
 // What the person does
@@ -205,6 +202,7 @@ void RowListView::popUpMenu(int row, QPoint globalPlace)
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, row);
+    MenuLooks::dress(*menu);
     if (!menu->isEmpty())
         menu->popup(globalPlace);
 }
@@ -354,7 +352,8 @@ void RowListView::updateGeometries()
     const int page = viewport()->height();
     verticalScrollBar()->setPageStep(page);
     verticalScrollBar()->setSingleStep(Design::headerHeight);
-    verticalScrollBar()->setRange(0, std::max(0, tops().back() - page));
+    constexpr int spaceBelow = 2 * Design::grid;
+    verticalScrollBar()->setRange(0, std::max(0, tops().back() + spaceBelow - page));
 }
 
 int RowListView::verticalOffset() const
@@ -384,16 +383,47 @@ void RowListView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(viewport());
     if (m_heights.empty()) {
-        painter.setFont(NoteStyle::font());
-        painter.setPen(NoteStyle::metaColor(palette()));
-        painter.drawText(viewport()->rect().adjusted(Design::edge, 0, -Design::edge, 0),
-            Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+        paintEmptyState(painter);
         return;
     }
     measureVisibleRows();
     updateGeometries();
-    const int first = rowAt(verticalOffset() + event->rect().top());
-    const int last = rowAt(verticalOffset() + event->rect().bottom());
+    const QRect page = viewport()->rect();
+    const PinnedHeader header = pinnedHeader();
+    const int headerBottom = header.row < 0 ? 0 : header.top + Design::headerHeight;
+    const int fading = std::min(Design::fadingEdge, verticalScrollBar()->maximum() - verticalOffset());
+    const QRect faded = page.adjusted(0, page.height() - fading, 0, 0);
+    painter.setClipRect(page.adjusted(0, headerBottom, 0, -fading));
+    paintRows(painter, event->rect());
+    painter.setClipping(false);
+    if (header.row >= 0) {
+        m_rows->paintHeader(painter, {0, header.top, page.width(), Design::headerHeight},
+            m_rowModel.content(header.row).header, palette());
+    }
+    if (event->rect().intersects(faded))
+        paintFaded(painter, faded);
+}
+
+void RowListView::paintEmptyState(QPainter &painter) const
+{
+    const EmptyState empty = emptyState();
+    const QRect page = viewport()->rect().adjusted(Design::edge, 0, -Design::edge, 0);
+    const QPoint middle = page.center();
+    const QRect symbol(middle.x() - Design::emptySymbolSize / 2,
+        middle.y() - Design::emptySymbolSize - Design::grid, Design::emptySymbolSize,
+        Design::emptySymbolSize);
+    Symbol::paint(painter, symbol, empty.symbol, NoteStyle::hairline(palette()));
+    painter.setFont(NoteStyle::font());
+    painter.setPen(NoteStyle::metaColor(palette()));
+    painter.drawText(
+        QRect(page.left(), middle.y() + 2 * Design::grid, page.width(), page.bottom() - middle.y()),
+        Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty.text);
+}
+
+void RowListView::paintRows(QPainter &painter, const QRect &part)
+{
+    const int first = rowAt(verticalOffset() + part.top());
+    const int last = rowAt(verticalOffset() + part.bottom());
     for (int row = first; row <= last; ++row) {
         RowDelegate::Marks marks{groundOf(row), row == m_hover.row ? m_hover.part : RowPart()};
         if (!marks.ground.isValid() && hasFocus() && currentIndex().row() == row)
@@ -402,27 +432,42 @@ void RowListView::paintEvent(QPaintEvent *event)
             marks.ground = NoteStyle::hover(palette());
         m_rows->paintRow(painter, visualRect(m_rowModel.index(row)), row, marks, palette());
     }
-    paintPinnedHeader(painter);
 }
 
-void RowListView::paintPinnedHeader(QPainter &painter)
+void RowListView::paintFaded(QPainter &painter, const QRect &part)
+{
+    // On a picture of its own: what is behind the rows, if anything, is not theirs to fade.
+    const qreal ratio = devicePixelRatioF();
+    QImage picture(part.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter onPicture(&picture);
+    onPicture.translate(-part.topLeft());
+    paintRows(onPicture, part);
+    onPicture.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    QLinearGradient fade(part.topLeft(), part.bottomLeft());
+    fade.setColorAt(0, Qt::black);
+    fade.setColorAt(1, Qt::transparent);
+    onPicture.fillRect(part, fade);
+    onPicture.end();
+    painter.drawImage(part.topLeft(), picture);
+}
+
+RowListView::PinnedHeader RowListView::pinnedHeader() const
 {
     int header = rowAt(verticalOffset());
     while (header >= 0 && !m_rowModel.isHeader(header))
         --header;
     if (header < 0 || verticalOffset() == 0)
-        return;
+        return {};
     // The next header pushes it out.
     int next = header + 1;
     while (next < m_rowModel.rowCount() && !m_rowModel.isHeader(next)
            && tops()[size_t(next)] < verticalOffset() + Design::headerHeight)
         ++next;
-    int top = 0;
     if (next < m_rowModel.rowCount() && m_rowModel.isHeader(next))
-        top = std::min(0, tops()[size_t(next)] - verticalOffset() - Design::headerHeight);
-    const QRect place(0, top, viewport()->width(), Design::headerHeight);
-    painter.fillRect(place, NoteStyle::background(palette()));
-    m_rows->paintHeader(painter, place, m_rowModel.content(header).header, palette());
+        return {header, std::min(0, tops()[size_t(next)] - verticalOffset() - Design::headerHeight)};
+    return {header, 0};
 }
 
 // Qt's calls
@@ -442,6 +487,18 @@ void RowListView::resizeEvent(QResizeEvent *event)
     QAbstractItemView::resizeEvent(event);
     if (event->size().width() != event->oldSize().width())
         forgetHeights();
+}
+
+void RowListView::showEvent(QShowEvent *event)
+{
+    m_rowModel.setSeen(true);
+    QAbstractItemView::showEvent(event);
+}
+
+void RowListView::hideEvent(QHideEvent *event)
+{
+    m_rowModel.setSeen(false);
+    QAbstractItemView::hideEvent(event);
 }
 
 void RowListView::changeEvent(QEvent *event)

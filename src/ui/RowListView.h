@@ -23,8 +23,12 @@ public:
     explicit RowListView(RowModel &model, QWidget *parent = nullptr);
     ~RowListView() override;
 
-    void setEmptyText(const QString &text); ///< shown where there are no rows
-    [[nodiscard]] const QString &emptyText() const { return m_emptyText; }
+    /// Shown where there are no rows.
+    struct EmptyState {
+        QString symbol;
+        QString text;
+    };
+    [[nodiscard]] virtual EmptyState emptyState() const = 0;
     /// Puts the focus on the first entry in view; false when there is none.
     bool enter();
     // What the keyboard and the mouse do, for those who listen to the screen. A header does nothing.
@@ -52,6 +56,8 @@ protected:
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -88,7 +94,15 @@ private:
     void rowsDidChange(int first, int added);
     bool measure(int firstRow, int lastRow); ///< whether any of them had not been measured yet
     void measureVisibleRows();
-    void paintPinnedHeader(QPainter &painter);
+    void paintEmptyState(QPainter &painter) const;
+    void paintRows(QPainter &painter, const QRect &part);
+    void paintFaded(QPainter &painter, const QRect &part);
+    /// The header of the rows at the top of the view, while it is not there by itself.
+    struct PinnedHeader {
+        int row = -1;
+        int top = 0;
+    };
+    [[nodiscard]] PinnedHeader pinnedHeader() const;
     [[nodiscard]] int estimatedHeight(int row) const;
     [[nodiscard]] const std::vector<int> &tops() const;
     [[nodiscard]] int rowAt(int y) const; ///< in the whole list's pixels; clamped to its rows
@@ -97,7 +111,6 @@ private:
     RowModel &m_rowModel;
     RowDelegate *m_rows = nullptr;
     QVariantAnimation *m_scrolling = nullptr;
-    QString m_emptyText;
     Hover m_hover;
     Hover m_pressed;
     int m_anchorRow = 0;             ///< the first row in view, while rows come and go

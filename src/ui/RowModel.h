@@ -15,6 +15,14 @@ class RowModel : public QAbstractListModel
 public:
     using QAbstractListModel::QAbstractListModel;
 
+    /// While nobody looks at the rows, what changes waits; all is brought up to date once somebody does.
+    void setSeen(bool isSeen)
+    {
+        m_isSeen = isSeen;
+        if (m_isSeen && m_isStale)
+            refreshWhenSeen();
+    }
+
     [[nodiscard]] virtual RowContent content(int row) const = 0;
     [[nodiscard]] virtual bool isHeader(int row) const = 0;
     [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
@@ -24,6 +32,19 @@ public:
             return {};
         return text(index.row());
     }
+
+protected:
+    virtual void refresh() = 0; ///< shows what is so now
+    void refreshWhenSeen()
+    {
+        m_isStale = !m_isSeen;
+        if (m_isSeen)
+            refresh();
+    }
+
+private:
+    bool m_isSeen = true;
+    bool m_isStale = false;
 };
 
 /// Rows of one type. What is new is compared with what is shown, and exactly what came, went or changed is

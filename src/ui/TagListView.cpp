@@ -20,14 +20,14 @@ TagModel::TagModel(NoteStore &notes, QObject *parent)
     : RowsOf(parent)
     , m_notes(notes)
 {
-    connect(&m_notes, &NoteStore::notesChanged, this, &TagModel::refresh);
-    refresh();
+    connect(&m_notes, &NoteStore::notesChanged, this, &TagModel::refreshWhenSeen);
+    TagModel::refresh();
 }
 
 void TagModel::setQuery(const QString &query)
 {
     m_query = query;
-    refresh();
+    refreshWhenSeen();
 }
 
 void TagModel::refresh()
@@ -72,8 +72,6 @@ TagListView::TagListView(NoteStore &notes, TagModel &model, QWidget *parent)
     setObjectName(QStringLiteral("tagList"));
     setAccessibleName(L10n::text("标签"));
     connect(&m_rename, &TagRenameState::changed, this, &TagListView::editDidChange);
-    connect(&m_notes, &NoteStore::notesChanged, this, &TagListView::tellEmpty);
-    tellEmpty();
 }
 
 void TagListView::setQuery(const QString &query)
@@ -82,9 +80,10 @@ void TagListView::setQuery(const QString &query)
     forgetHeights();
 }
 
-void TagListView::tellEmpty()
+RowListView::EmptyState TagListView::emptyState() const
 {
-    setEmptyText(m_notes.tagSummaries().isEmpty() ? L10n::text("无标签") : L10n::text("无匹配标签"));
+    return {QStringLiteral("number"),
+        m_notes.tagSummaries().isEmpty() ? L10n::text("无标签") : L10n::text("无匹配标签")};
 }
 
 void TagListView::activate(int row)
@@ -123,6 +122,10 @@ void TagListView::editDidChange()
     m_editor->setPlaceholderText(L10n::text("标签名"));
     m_editor->setAccessibleName(m_editor->placeholderText());
     m_editor->setFont(NoteStyle::font());
+    m_editor->setStyleSheet(
+        QStringLiteral("background: %1; border: 1px solid %2; border-radius: %3px; padding: 0 %3px")
+            .arg(NoteStyle::fieldColor(palette()).name(), NoteStyle::tagColor(palette()).name())
+            .arg(Design::grid));
     m_editor->selectAll();
     // Return, or the focus going elsewhere; whichever is first.
     connect(m_editor, &QLineEdit::editingFinished, this, [this, from = *renaming, editor = m_editor] {

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
 
 private:
-    void refresh();
+    void refresh() override;
 
     NoteStore &m_notes;
     QString m_query;
@@ -40,6 +40,7 @@ public:
     TagListView(NoteStore &notes, TagModel &model, QWidget *parent = nullptr);
 
     void setQuery(const QString &query);
+    [[nodiscard]] EmptyState emptyState() const override;
     [[nodiscard]] TagRenameState &renameState() { return m_rename; }
 
 Q_SIGNALS:
@@ -53,7 +54,6 @@ protected:
     void updateGeometries() override;
 
 private:
-    void tellEmpty();
     void editDidChange();
     void endEdit();
     void commitRename(const QString &from, const QString &to);

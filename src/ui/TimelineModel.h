@@ -60,7 +60,7 @@ public:
     [[nodiscard]] QList<Action> actions(int row) const;
 
 private:
-    void refresh();
+    void refresh() override; ///< also while nobody looks, so that the panel opens at once
     void continueSearch();
     void appendNote(QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const;
 

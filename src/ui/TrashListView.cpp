@@ -19,8 +19,8 @@ TrashModel::TrashModel(NoteStore &notes, const Clock &clock, QObject *parent)
     , m_notes(notes)
     , m_clock(clock)
 {
-    connect(&m_notes, &NoteStore::notesChanged, this, &TrashModel::refresh);
-    refresh();
+    connect(&m_notes, &NoteStore::notesChanged, this, &TrashModel::refreshWhenSeen);
+    TrashModel::refresh();
 }
 
 void TrashModel::refresh()
@@ -61,7 +61,11 @@ TrashListView::TrashListView(NoteStore &notes, TrashModel &model, QWidget *paren
 {
     setObjectName(QStringLiteral("trashList"));
     setAccessibleName(L10n::text("回收站"));
-    setEmptyText(L10n::text("回收站为空"));
+}
+
+RowListView::EmptyState TrashListView::emptyState() const
+{
+    return {QStringLiteral("trash"), L10n::text("回收站为空")};
 }
 
 void TrashListView::activate(int row)

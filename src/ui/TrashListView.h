@@ -23,7 +23,7 @@ class TrashModel final : public RowsOf<TrashRow>
 
 public:
     TrashModel(NoteStore &notes, const Clock &clock, QObject *parent = nullptr);
-    void refresh();
+    void refresh() override;
 
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
@@ -41,6 +41,8 @@ class TrashListView final : public RowListView
 
 public:
     TrashListView(NoteStore &notes, TrashModel &model, QWidget *parent = nullptr);
+
+    [[nodiscard]] EmptyState emptyState() const override;
 
 protected:
     void activate(int row) override; ///< puts the note back

@@ -1,31 +1,12 @@
 // Light and dark, in front of a settings portal that the test brings.
 #include "desktop/Appearance.h"
+#include "stage/SettingsPortal.h"
 
-#include <QDBusConnection>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-class FakePortal final : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    uint scheme = 1;
-
-public Q_SLOTS:
-    // The method that is there since the first version wraps its answer twice.
-    QDBusVariant Read(const QString &, const QString &)
-    {
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
-    }
-
-Q_SIGNALS:
-    void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-};
 
 class AppearanceTest final : public QObject
 {
@@ -48,24 +29,15 @@ private Q_SLOTS:
 
     void the_portal_is_asked_and_followed()
     {
-        const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-        QDBusConnection bus = QDBusConnection::connectToBus(address, u"portal"_s);
-        FakePortal portal;
-        QVERIFY(bus.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
-            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
-        QVERIFY(bus.registerService(u"org.freedesktop.portal.Desktop"_s));
-
+        SettingsPortal portal(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), SettingsPortal::Scheme::Dark);
         Appearance appearance;
         QSignalSpy changed(&appearance, &Appearance::schemeChanged);
         appearance.follow();
         QTRY_COMPARE(appearance.scheme(), Appearance::Scheme::Dark);
-        const auto tell = [&portal](const QString &group, uint scheme) {
-            Q_EMIT portal.SettingChanged(group, u"color-scheme"_s, QDBusVariant(scheme));
-        };
-        tell(u"org.freedesktop.other"_s, 2);
-        tell(u"org.freedesktop.appearance"_s, 2);
+        Q_EMIT portal.SettingChanged(u"org.freedesktop.other"_s, u"color-scheme"_s, QDBusVariant(2U));
+        portal.setScheme(SettingsPortal::Scheme::Light);
         QTRY_COMPARE(appearance.scheme(), Appearance::Scheme::Light);
-        tell(u"org.freedesktop.appearance"_s, 0);
+        portal.setScheme(SettingsPortal::Scheme::NoPreference);
         QTRY_COMPARE(appearance.scheme(), Appearance::Scheme::NoPreference);
         QCOMPARE(changed.count(), 3);
     }

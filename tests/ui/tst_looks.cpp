@@ -5,6 +5,8 @@
 #include <QAccessible>
 #include <QMetaEnum>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,8 +50,22 @@ private Q_SLOTS:
         const Color texts[] = {NoteStyle::color, NoteStyle::metaColor};
         const Color highlights[] = {
             NoteStyle::numberColor, NoteStyle::tagColor, NoteStyle::matchColor, NoteStyle::destructiveColor};
-        const Color grounds[] = {NoteStyle::background, NoteStyle::fieldColor, NoteStyle::editing,
-            NoteStyle::flash, NoteStyle::hover, NoteStyle::quoteGround};
+        using Backdrop = FloatingFrame::Backdrop;
+        // At worst all that shines through is black, or white.
+        const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {
+            const QColor ground = NoteStyle::ground(palette, backdrop);
+            const auto mixed = [&](float part) {
+                return part * ground.alphaF() + behind * (1 - ground.alphaF());
+            };
+            return QColor::fromRgbF(mixed(ground.redF()), mixed(ground.greenF()), mixed(ground.blueF()));
+        };
+        const std::function<QColor(const QPalette &)> grounds[] = {NoteStyle::background,
+            [&](const QPalette &palette) { return over(palette, Backdrop::Sharp, 0); },
+            [&](const QPalette &palette) { return over(palette, Backdrop::Sharp, 1); },
+            [&](const QPalette &palette) { return over(palette, Backdrop::Blurred, 0); },
+            [&](const QPalette &palette) { return over(palette, Backdrop::Blurred, 1); },
+            NoteStyle::fieldColor, NoteStyle::editing, NoteStyle::flash, NoteStyle::hover,
+            NoteStyle::quoteGround};
         QStringList faults;
         for (const bool isDark : {false, true}) {
             const QPalette palette = NoteStyle::palette(isDark);
@@ -65,7 +81,7 @@ private Q_SLOTS:
                 };
                 for (const Color text : texts)
                     check(text, 4.5);
-                if (grounds[ground] != NoteStyle::flash) { // half a second
+                if (grounds[ground](palette) != NoteStyle::flash(palette)) { // half a second
                     for (const Color highlight : highlights)
                         check(highlight, 3);
                 }

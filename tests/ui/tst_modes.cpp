@@ -259,12 +259,12 @@ private Q_SLOTS:
         panel.notes.add(u"一 #t"_s);
         struct Case {
             const char *name;
-            FileDialogs::Format format;
+            ExportFormatAccessory::Format format;
             const char *written;
         };
-        for (const Case &each : {Case{"a.MD", FileDialogs::Format::Json, "a.json"},
-                 Case{"b.markdown", FileDialogs::Format::Markdown, "b.md"},
-                 Case{"c.txt", FileDialogs::Format::Json, "c.txt.json"}}) {
+        for (const Case &each : {Case{"a.MD", ExportFormatAccessory::Format::Json, "a.json"},
+                 Case{"b.markdown", ExportFormatAccessory::Format::Markdown, "b.md"},
+                 Case{"c.txt", ExportFormatAccessory::Format::Json, "c.txt.json"}}) {
             FileDialogs::setNextTarget(
                 FileDialogs::Target{folder.filePath(QString::fromUtf8(each.name)), each.format});
             ImportExport::exportNotes(panel.notes, panel.clock);
@@ -280,7 +280,7 @@ private Q_SLOTS:
             import(u"a.json"_s), (ModalQuestion::Told{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
         QCOMPARE(import(u"b.md"_s), (ModalQuestion::Told{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
         QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
-        FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, FileDialogs::Format::Json});
+        FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, ExportFormatAccessory::Format::Json});
         ModalQuestion::setNextAnswer(true);
         ImportExport::exportNotes(panel.notes, panel.clock);
         QCOMPARE(ModalQuestion::lastTold().title, u"导出失败"_s);

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPainter>
 #include <QThread>
 
 using namespace std::chrono_literals;
@@ -20,6 +21,7 @@ QByteArray firstLine(QProcess &process)
 } // namespace
 
 PrivateDesktop::PrivateDesktop(Options options)
+    : m_scale(options.scale)
 {
     QDir(m_home.path()).mkpath(QStringLiteral("run"));
     QFile::setPermissions(
@@ -27,7 +29,8 @@ PrivateDesktop::PrivateDesktop(Options options)
 
     QProcess &server = launch(QStringLiteral("Xvfb"),
         {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-            QStringLiteral("1024x720x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+            QStringLiteral("%1x%2x24").arg(1024 * m_scale).arg(720 * m_scale), QStringLiteral("-nolisten"),
+            QStringLiteral("tcp")});
     m_display = u':' + QString::fromLatin1(firstLine(server));
     QProcess &bus = launch(QStringLiteral("dbus-daemon"),
         {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
@@ -35,6 +38,9 @@ PrivateDesktop::PrivateDesktop(Options options)
     m_screen = std::make_unique<XServer>(m_display);
 
     launch(QStringLiteral("openbox"), {});
+    paintWallpaper();
+    if (options.hasCompositor)
+        launch(QStringLiteral("picom"), {QStringLiteral("--backend"), QStringLiteral("xrender")});
     if (options.hasTray) {
         launch(QStringLiteral("tint2"), {});
         if (!waitUntil([this] { return !m_screen->windowsOfClass(QStringLiteral("tint2")).isEmpty(); }))
@@ -70,6 +76,20 @@ void PrivateDesktop::startDunst()
     launch(QStringLiteral("dunst"), {QStringLiteral("-conf"), path});
 }
 
+void PrivateDesktop::paintWallpaper()
+{
+    // Of many colours, so that a corner or a shadow that is wrong is seen.
+    QImage wallpaper(QSize(1024, 720) * m_scale, QImage::Format_RGB32);
+    QPainter painter(&wallpaper);
+    QLinearGradient sky(0, 0, wallpaper.width(), wallpaper.height());
+    sky.setColorAt(0, QColor(0x5b, 0x8c, 0xb8));
+    sky.setColorAt(0.5, QColor(0xb9, 0xc8, 0xbf));
+    sky.setColorAt(1, QColor(0xd8, 0x9b, 0x6a));
+    painter.fillRect(wallpaper.rect(), sky);
+    painter.end();
+    m_screen->setWallpaper(wallpaper);
+}
+
 QProcess &PrivateDesktop::launch(const QString &program, const QStringList &arguments)
 {
     auto process = std::make_unique<QProcess>();
@@ -98,6 +118,8 @@ QProcessEnvironment PrivateDesktop::environment() const
     environment.insert(QStringLiteral("TZ"), QStringLiteral("Asia/Shanghai"));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("QT_LOGGING_TO_CONSOLE"), QStringLiteral("1"));
+    if (m_scale != 1)
+        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(m_scale));
     if (!m_display.isEmpty())
         environment.insert(QStringLiteral("DISPLAY"), m_display);
     if (!m_busAddress.isEmpty())

@@ -11,14 +11,16 @@
 #include <memory>
 #include <vector>
 
-/// A desktop of its own: Xvfb, openbox, a session bus, and as told a tray (tint2) and a notification server
-/// (dunst). It has its own home folder and goes away with the object.
+/// A desktop of its own: Xvfb, openbox, a session bus, and as told a tray (tint2), a notification server
+/// (dunst) and a compositor (picom). It has its own home folder and goes away with the object.
 class PrivateDesktop final
 {
 public:
     struct Options {
         bool hasTray = true;
         bool hasDunst = false;
+        bool hasCompositor = false; ///< picom, and a wallpaper to be seen through what is translucent
+        int scale = 1;              ///< device pixels for a logical pixel
     };
 
     explicit PrivateDesktop(Options options);
@@ -42,9 +44,11 @@ public:
 private:
     QProcess &launch(const QString &program, const QStringList &arguments);
     void startDunst();
+    void paintWallpaper();
 
     QTemporaryDir m_home;
     std::vector<std::unique_ptr<QProcess>> m_processes;
+    int m_scale;
     QString m_display;
     QString m_busAddress;
     std::unique_ptr<XServer> m_screen;

@@ -5,8 +5,10 @@
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace {
 template <typename T>
@@ -156,15 +158,47 @@ void XServer::type(const QString &text)
     }
 }
 
-void XServer::click(QPoint where, int button)
+void XServer::point(QPoint where)
 {
     xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, std::int16_t(where.x()),
         std::int16_t(where.y()), 0);
     xcb_flush(m_connection);
     QThread::msleep(50);
+}
+
+void XServer::click(QPoint where, int button)
+{
+    point(where);
     for (const int event : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
         xcb_test_fake_input(
             m_connection, std::uint8_t(event), std::uint8_t(button), XCB_CURRENT_TIME, m_root, 0, 0, 0);
+    xcb_flush(m_connection);
+}
+
+void XServer::setWallpaper(const QImage &picture)
+{
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    const xcb_pixmap_t pixmap = xcb_generate_id(m_connection);
+    const xcb_gcontext_t context = xcb_generate_id(m_connection);
+    xcb_create_pixmap(m_connection, screen->root_depth, pixmap, m_root, std::uint16_t(picture.width()),
+        std::uint16_t(picture.height()));
+    xcb_create_gc(m_connection, context, pixmap, 0, nullptr);
+    constexpr int rows = 64; // a request takes only so much
+    for (int y = 0; y < picture.height(); y += rows) {
+        const int height = std::min(rows, picture.height() - y);
+        xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context,
+            std::uint16_t(picture.width()), std::uint16_t(height), 0, std::int16_t(y), 0, screen->root_depth,
+            std::uint32_t(picture.bytesPerLine() * height), picture.constScanLine(y));
+    }
+    xcb_free_gc(m_connection, context);
+    xcb_change_window_attributes(m_connection, m_root, XCB_CW_BACK_PIXMAP, &pixmap);
+    xcb_clear_area(m_connection, false, m_root, 0, 0, 0, 0);
+    // Where a compositor looks for it.
+    constexpr std::string_view name = "_XROOTPMAP_ID";
+    const auto property = owned(xcb_intern_atom_reply(m_connection,
+        xcb_intern_atom(m_connection, false, std::uint16_t(name.size()), name.data()), nullptr));
+    xcb_change_property(
+        m_connection, XCB_PROP_MODE_REPLACE, m_root, property->atom, XCB_ATOM_PIXMAP, 32, 1, &pixmap);
     xcb_flush(m_connection);
 }
 

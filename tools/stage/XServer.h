@@ -23,6 +23,9 @@ public:
     void press(const QList<std::uint32_t> &keysyms) { hold(keysyms, {}); }
     void hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time);
     void click(QPoint where, int button = 1);
+    void point(QPoint where); ///< moves the pointer there
+    /// What is seen where no window is; of the screen's size.
+    void setWallpaper(const QImage &picture);
 
     [[nodiscard]] QImage screenshot() const;
     [[nodiscard]] QImage screenshot(QRect part) const;
@@ -58,7 +61,11 @@ namespace Keysym {
 constexpr std::uint32_t space = 0x20;
 constexpr std::uint32_t escape = 0xff1b;
 constexpr std::uint32_t enter = 0xff0d;
+constexpr std::uint32_t tab = 0xff09;
+constexpr std::uint32_t up = 0xff52;
 constexpr std::uint32_t down = 0xff54;
+constexpr std::uint32_t menu = 0xff67;
+constexpr std::uint32_t remove = 0xffff;
 constexpr std::uint32_t pageDown = 0xff56;
 constexpr std::uint32_t home = 0xff50;
 constexpr std::uint32_t digit1 = 0x31;

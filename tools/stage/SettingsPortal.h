@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QObject>
+
+/// A desktop's settings portal that knows one setting: whether the desktop is light or dark.
+class SettingsPortal final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    enum class Scheme : unsigned { NoPreference = 0, Dark = 1, Light = 2 };
+
+    SettingsPortal(const QString &busAddress, Scheme scheme);
+    ~SettingsPortal() override;
+    Q_DISABLE_COPY_MOVE(SettingsPortal)
+
+    void setScheme(Scheme scheme);
+
+public Q_SLOTS:
+    /// The method that is there since the first version wraps its answer twice.
+    QDBusVariant Read(const QString &group, const QString &key) const;
+
+Q_SIGNALS:
+    void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+
+private:
+    QDBusConnection m_bus;
+    Scheme m_scheme;
+};
