@@ -30,7 +30,7 @@ void StatusBarMenu::makeIcon()
     m_menu->addAction(L10n::text("导出"), this, &StatusBarMenu::exportChosen);
     m_menu->addSeparator();
     m_menu->addAction(L10n::text("退出"), qApp, &QApplication::quit);
-    MenuLooks::dress(*m_menu);
+    connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { MenuLooks::dress(*m_menu); });
     // A tray tells nobody its colour; most are dark.
     m_icon = std::make_unique<QSystemTrayIcon>(
         Symbol::icon(QStringLiteral("menubar"), QColor(0xd0, 0xd2, 0xd6), {22, 44}));

@@ -48,8 +48,9 @@ void NoteListView::queryDidChange()
 RowListView::EmptyState NoteListView::emptyState() const
 {
     const bool isBlank = m_state.draft().trimmed().isEmpty();
-    return {QStringLiteral("menubar"),
-        isBlank ? L10n::text("还没有笔记，写下第一条吧") : L10n::text("没有匹配的笔记，回车保存为新笔记")};
+    if (isBlank)
+        return {QStringLiteral("menubar"), L10n::text("还没有笔记，写下第一条吧")};
+    return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记")};
 }
 
 // What can be done with a note

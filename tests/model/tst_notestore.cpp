@@ -8,6 +8,7 @@
 #include "support/TestFiles.h"
 
 #include <QDir>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -163,6 +164,28 @@ private Q_SLOTS:
         notes->remove(late.id);
         QCOMPARE(texts(notes->trash()), (QStringList{u"Nacht #Haus"_s, u"anders"_s}));
         QCOMPARE(notes->trashDaySections().first().notes.first().text, u"anders"_s); // by the day of writing
+    }
+
+    void tags_that_were_counted_along_are_those_counted_anew()
+    {
+        QRandomGenerator random(7);
+        const QStringList texts{u"#a"_s, u"#b x #a"_s, u"#c #c"_s, u"x"_s, u"#d#b"_s, u"y #a"_s};
+        const auto any = [&random](const auto &list) { return list[random.bounded(list.size())]; };
+        const auto notes = store();
+        for (int step = 0; step < 300; ++step) {
+            const int what = notes->notes().isEmpty() ? 0 : random.bounded(7);
+            if (what < 3)
+                notes->add(any(texts));
+            else if (what == 3)
+                notes->update(any(notes->notes()).id, any(texts));
+            else if (what == 4)
+                notes->remove(any(notes->notes()).id);
+            else if (what == 5 && !notes->trash().isEmpty())
+                notes->restore(any(notes->trash()).id);
+            else if (what == 6 && random.bounded(10) == 0)
+                notes->renameTag(u"a"_s, u"e"_s);
+            QCOMPARE(notes->tagSummaries(), store()->tagSummaries());
+        }
     }
 
     void tags_are_counted_from_the_newest_note_on()

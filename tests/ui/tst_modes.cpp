@@ -8,7 +8,10 @@
 #include "ui/TestPanel.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -145,10 +148,67 @@ private Q_SLOTS:
         QCOMPARE(panel.field()->text(), QString());
         QTest::keyClick(panel.field(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(panel.field()->text(), u"写了一半"_s);
-        QGuiApplication::clipboard()->setText(u"一\r\n二\n\n三"_s);
-        panel.press(Qt::Key_Escape);
-        QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(panel.field()->text(), u"一 二 三"_s);
+    }
+
+    void what_is_pasted_becomes_one_line_whichever_way_it_comes()
+    {
+        TestPanel panel;
+        const QString lines = u"一\r\n二\n\n三"_s;
+        QGuiApplication::clipboard()->setText(lines);
+        const auto pastedBy = [&panel](const std::function<void()> &paste) {
+            panel.field()->clear();
+            paste();
+            return panel.field()->text();
+        };
+        QCOMPARE(
+            pastedBy([&] { QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier); }), u"一 二 三"_s);
+        QCOMPARE(pastedBy([&] {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+            QCoreApplication::sendEvent(panel.field(), &event);
+            QMenu *menu = panel.field()->findChild<QMenu *>();
+            for (QAction *action : menu->actions()) {
+                if (action->text().contains(u"aste"))
+                    action->trigger();
+            }
+            delete menu;
+        }),
+            u"一 二 三"_s);
+        QCOMPARE(pastedBy([&] {
+            QMimeData dragged;
+            dragged.setText(lines);
+            QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(panel.field(), &enter);
+            QDropEvent event({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(panel.field(), &event);
+        }),
+            u"一 二 三"_s);
+    }
+
+    void the_extension_in_the_dialog_follows_the_format()
+    {
+        QTemporaryDir folder;
+        QFileDialog dialog(nullptr, {}, folder.path());
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        const ExportFormatAccessory accessory(dialog, u"Quillet-2026-03-02"_s);
+        dialog.show();
+        auto *name = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
+        auto *formats = dialog.findChild<QComboBox *>(u"fileTypeCombo"_s);
+        QCOMPARE(name->text(), u"Quillet-2026-03-02.json"_s);
+        const auto choose = [formats](int format) {
+            formats->setCurrentIndex(format);
+            Q_EMIT formats->activated(format); // as a hand does
+            Q_EMIT formats->textActivated(formats->currentText());
+        };
+        choose(1);
+        QCOMPARE(accessory.format(), ExportFormatAccessory::Format::Markdown);
+        QCOMPARE(name->text(), u"Quillet-2026-03-02.md"_s);
+        name->setText(u"a.b.txt"_s);
+        choose(0);
+        QCOMPARE(name->text(), u"a.b.json"_s);
+        name->setText(u"plain"_s);
+        choose(1);
+        QCOMPARE(name->text(), u"plain.md"_s);
     }
 
     void a_tag_is_picked_renamed_merged_and_deleted()
