@@ -22,8 +22,7 @@ void AppDelegate::didFinishLaunching()
         &m_notifications, &DesktopNotificationCenter::didReceive, this, &AppDelegate::didReceiveNotification);
     m_hotKey.registerHandler([this] {
         m_panel.toggle();
-        if (m_panel.isOpen())
-            m_hotKey.releaseKeyboard();
+        m_hotKey.handOnKeysTo(m_panel.openWindow());
     });
 }
 

@@ -3,6 +3,7 @@
 #include "foundation/Log.h"
 
 #include <QTimer>
+#include <QWindow>
 
 void GlobalHotKey::registerHandler(std::function<void()> handler)
 {
@@ -13,6 +14,14 @@ void GlobalHotKey::registerHandler(std::function<void()> handler)
     connect(&m_x11, &X11HotKey::pressed, this, &GlobalHotKey::fire);
     if (const Outcome grabbed = m_x11.grab(); !grabbed)
         Log::line(QStringLiteral("failed to register global hotkey: ") + grabbed.message());
+}
+
+void GlobalHotKey::handOnKeysTo(const QWindow *window)
+{
+    if (window)
+        m_x11.releaseKeyboardTo(std::uint32_t(window->winId()));
+    else
+        m_x11.releaseKeyboard();
 }
 
 void GlobalHotKey::fire()

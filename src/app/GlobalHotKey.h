@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QWindow;
+
 /// Control+Alt+Space, whatever program has the focus. A key that cannot be had is one line in the log.
 class GlobalHotKey final : public QObject
 {
@@ -18,8 +20,9 @@ public:
     /// runs.
     void registerHandler(std::function<void()> handler);
 
-    /// To be called when the press has opened a window that is to get the keys that follow.
-    void releaseKeyboard() { m_x11.releaseKeyboard(); }
+    /// To be called when the handler has done its work: what is typed after the press goes to @p window once
+    /// it has the focus, or without one to whoever has it.
+    void handOnKeysTo(const QWindow *window);
 
 private:
     void fire();

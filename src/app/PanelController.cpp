@@ -74,6 +74,11 @@ bool PanelController::isOpen() const
     return m_window && m_window->isVisible();
 }
 
+const QWindow *PanelController::openWindow() const
+{
+    return isOpen() ? m_window->windowHandle() : nullptr;
+}
+
 void PanelController::open()
 {
     prepare();

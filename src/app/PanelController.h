@@ -8,6 +8,7 @@
 class ContentView;
 class PanelState;
 class PanelWindow;
+class QWindow;
 
 /// Opens and closes the panel. The window is built before it is first needed and kept, so that it opens at
 /// once.
@@ -23,6 +24,7 @@ public:
     void open();    ///< a panel that is open already only gets the focus
     void toggle();
     [[nodiscard]] bool isOpen() const;
+    [[nodiscard]] const QWindow *openWindow() const; ///< nothing while the panel is closed
 
     /// What is posted to the panel from outside.
     [[nodiscard]] PanelState &state();

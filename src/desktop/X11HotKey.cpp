@@ -48,6 +48,9 @@ X11HotKey::X11HotKey(QObject *parent)
         if (keycodes(m_connection, space) != m_keycodes)
             (void)grab();
     });
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(500ms);
+    connect(&m_patience, &QTimer::timeout, this, &X11HotKey::releaseKeyboard);
 }
 
 X11HotKey::~X11HotKey()
@@ -73,7 +76,7 @@ Outcome X11HotKey::grab()
     for (const uint8_t keycode : m_keycodes) {
         for (const uint16_t lockState : lockStates) {
             requests.push_back(xcb_grab_key_checked(m_connection, true, m_root, hotModifiers | lockState,
-                keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+                keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC));
         }
     }
     int error = m_keycodes.empty() ? XCB_VALUE : 0;
@@ -107,8 +110,10 @@ void X11HotKey::releaseKeyboard()
 {
     if (!m_connection)
         return;
-    m_hasReleased = true;
-    xcb_ungrab_keyboard(m_connection, m_lastPress);
+    m_patience.stop();
+    m_awaitsFocus = 0;
+    // What the server has kept back it hands out as if it were typed now.
+    xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
 }
 
@@ -127,11 +132,10 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
         if (!isHotKey(key))
             break;
         // While the key is held the server sends pairs of release and press that bear one time.
-        m_lastPress = key.time;
         if (key.time != m_lastRelease) {
-            m_hasReleased = false;
+            m_patience.start();
             Q_EMIT pressed();
-        } else if (m_hasReleased) {
+        } else if (m_awaitsFocus == 0) {
             releaseKeyboard(); // the repetition has taken it again, and with it the window's focus
         }
         break;
@@ -139,6 +143,14 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
     case XCB_KEY_RELEASE: {
         const auto &key = *reinterpret_cast<const xcb_key_release_event_t *>(event);
         m_lastRelease = key.time;
+        break;
+    }
+    case XCB_FOCUS_IN: {
+        const auto &focus = *reinterpret_cast<const xcb_focus_in_event_t *>(event);
+        const bool isGiven =
+            focus.mode == XCB_NOTIFY_MODE_NORMAL || focus.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+        if (isGiven && m_awaitsFocus != 0 && focus.event == m_awaitsFocus)
+            releaseKeyboard();
         break;
     }
     case XCB_MAPPING_NOTIFY:

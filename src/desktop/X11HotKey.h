@@ -28,9 +28,11 @@ public:
     /// On failure the message is the number of the X error: 10 where another program has the key.
     Outcome grab();
 
-    /// Lets the keyboard go before the key is released, so that a window opened by the press gets what is
-    /// typed next.
+    /// From the press on the server keeps all keys back, until this is called: what was typed meanwhile then
+    /// goes to the window that has the focus. It is let go by itself soon, should nobody call.
     void releaseKeyboard();
+    /// The same as soon as this window gets the focus.
+    void releaseKeyboardTo(std::uint32_t window) { m_awaitsFocus = window; }
 
 Q_SIGNALS:
     void pressed(); ///< once for each press, however long the key is held
@@ -42,8 +44,8 @@ private:
     xcb_connection_t *m_connection = nullptr;
     std::uint32_t m_root = 0;
     std::vector<std::uint8_t> m_keycodes; ///< grabbed now
-    std::uint32_t m_lastPress = 0;        ///< in the X server's time
-    std::uint32_t m_lastRelease = 0;
-    bool m_hasReleased = false; ///< the keyboard, since the key was pressed
+    std::uint32_t m_lastRelease = 0;      ///< in the X server's time
+    std::uint32_t m_awaitsFocus = 0;
     QTimer m_remapped;
+    QTimer m_patience; ///< while the keys are kept back
 };

@@ -143,6 +143,29 @@ private Q_SLOTS:
         road.stop();
     }
 
+    void nothing_typed_right_after_the_hot_key_is_lost()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        QStringList expected;
+        for (int round = 0; round < 12; ++round) {
+            const QString text = u"%1 the quick brown fox"_s.arg(QChar(u'a' + round));
+            road.pressHotKey();
+            desktop.screen().type(text); // a key each 10 ms, from the very moment on
+            desktop.screen().press({Keysym::enter});
+            desktop.screen().press({Keysym::escape});
+            expected.prepend(text);
+            QTRY_COMPARE(road.savedNotes().size(), expected.size());
+            QCOMPARE(road.savedNotes().first().text, text);
+            QVERIFY(road.waitForPanel(false));
+            QTest::qWait(round % 3 * 150);
+        }
+        road.stop();
+    }
+
     void a_taken_hot_key_is_one_line_in_the_log()
     {
         PrivateDesktop desktop({});
