@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 FloatingFrame::Backdrop presentBackdrop()
 {
@@ -26,9 +28,11 @@ FloatingFrame::Backdrop presentBackdrop()
 }
 } // namespace
 
-PanelController::PanelController(std::function<ContentView *()> makeContent, QObject *parent)
+PanelController::PanelController(
+    std::function<ContentView *()> makeContent, std::function<QRect()> iconPlace, QObject *parent)
     : QObject(parent)
     , m_makeContent(std::move(makeContent))
+    , m_iconPlace(std::move(iconPlace))
 {
 }
 
@@ -50,7 +54,11 @@ void PanelController::makeWindow()
     if (m_window)
         m_window->releaseContent();
     m_window = std::make_unique<PanelWindow>(m_content, backdrop);
-    connect(m_window.get(), &PanelWindow::focusLost, this, &PanelController::close);
+    connect(m_window.get(), &PanelWindow::focusLost, this, [this] {
+        constexpr std::chrono::milliseconds aClick{400};
+        m_sameClick.setRemainingTime(aClick);
+        close();
+    });
     connect(m_window.get(), &PanelWindow::escaped, this, [this] {
         close();
         Q_EMIT m_content->state().panelDidToggle();
@@ -113,6 +121,12 @@ void PanelController::toggle()
     Q_EMIT m_content->state().panelDidToggle();
 }
 
+void PanelController::toggleByClick()
+{
+    if (isOpen() || m_sameClick.hasExpired())
+        toggle();
+}
+
 void PanelController::place()
 {
     // On the screen where the person is; before it is shown, or it would be seen jumping.
@@ -121,8 +135,13 @@ void PanelController::place()
         if (const QScreen *pointed = QGuiApplication::screenAt(QCursor::pos()))
             screen = pointed;
     }
-    const QRect available = screen->availableGeometry();
-    const QSize size = Design::panelSize.grownBy(QMargins() + m_window->frame().margin());
+    // Beside the icon, as close as the bar that holds it leaves room; else in the corner.
     const int margin = Design::panelMargin - m_window->frame().margin();
-    m_window->move(available.right() - size.width() - margin, available.bottom() - size.height() - margin);
+    const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
+    const QRect icon = m_iconPlace();
+    QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
+    const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
+    panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
+    m_window->move(std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
+        std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height())));
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
+#include <QRect>
 
 #include <functional>
 #include <memory>
@@ -17,12 +19,16 @@ class PanelController final : public QObject
     Q_OBJECT
 
 public:
-    explicit PanelController(std::function<ContentView *()> makeContent, QObject *parent = nullptr);
+    /// @p iconPlace tells where the tray's icon is on the screen, or an empty place.
+    PanelController(std::function<ContentView *()> makeContent, std::function<QRect()> iconPlace,
+        QObject *parent = nullptr);
     ~PanelController() override;
 
     void prepare(); ///< builds the panel, hidden
     void open();    ///< a panel that is open already only gets the focus
     void toggle();
+    /// As toggle(), but for the click that took the focus from the panel, which so is closed already.
+    void toggleByClick();
     [[nodiscard]] bool isOpen() const;
     [[nodiscard]] const QWindow *openWindow() const; ///< nothing while the panel is closed
 
@@ -35,6 +41,8 @@ private:
     void place();
 
     std::function<ContentView *()> m_makeContent;
+    std::function<QRect()> m_iconPlace;
+    QDeadlineTimer m_sameClick;       ///< until when a click may be the one that closed the panel
     ContentView *m_content = nullptr; ///< owned by the window
     std::unique_ptr<PanelWindow> m_window;
 };

@@ -17,12 +17,14 @@ QuilletApp::QuilletApp(Start start)
     , m_notifications(m_clock)
     , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
-    , m_panel([this] {
-        m_dateDetector.prepare();
-        m_notes.prepareSearch();
-        m_appearance.follow();
-        return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
-    })
+    , m_panel(
+          [this] {
+              m_dateDetector.prepare();
+              m_notes.prepareSearch();
+              m_appearance.follow();
+              return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
+          },
+          [this] { return m_statusBar.iconPlace(); })
     , m_delegate(m_notifications, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);
@@ -30,7 +32,7 @@ QuilletApp::QuilletApp(Start start)
     connect(&m_notifications, &DesktopNotificationCenter::authorizationChanged, &m_reminders,
         &ReminderStore::refreshAuthorizationStatus);
 
-    connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggle);
+    connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggleByClick);
     connect(&m_statusBar, &StatusBarMenu::importChosen, this,
         [this] { ImportExport::importNotes(m_notes, m_clock); });
     connect(&m_statusBar, &StatusBarMenu::exportChosen, this,

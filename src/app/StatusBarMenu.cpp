@@ -1,13 +1,24 @@
 #include "app/StatusBarMenu.h"
 
+#include "desktop/ApplicationIdentity.h"
 #include "text/L10n.h"
 #include "ui/MenuLooks.h"
-#include "ui/Symbol.h"
 
 #include <QApplication>
 #include <QMenu>
-#include <QPalette>
 #include <QSystemTrayIcon>
+
+namespace {
+QIcon icon(TrayHost::Kind kind)
+{
+    // An XEmbed tray tells nobody its colour: a light drawing with a dark edge can be seen on any. Other
+    // hosts colour a symbolic icon as they do their own.
+    const QIcon own(QStringLiteral(":/icons/tray.svg"));
+    return kind == TrayHost::Kind::XEmbed
+               ? own
+               : QIcon::fromTheme(ApplicationIdentity::id + QStringLiteral("-symbolic"), own);
+}
+} // namespace
 
 StatusBarMenu::StatusBarMenu(QObject *parent)
     : QObject(parent)
@@ -23,7 +34,12 @@ void StatusBarMenu::install()
     m_host.watch();
 }
 
-void StatusBarMenu::makeIcon()
+QRect StatusBarMenu::iconPlace() const
+{
+    return m_icon ? m_icon->geometry() : QRect();
+}
+
+void StatusBarMenu::makeIcon(TrayHost::Kind kind)
 {
     m_menu = std::make_unique<QMenu>();
     m_menu->addAction(L10n::text("导入"), this, &StatusBarMenu::importChosen);
@@ -31,14 +47,13 @@ void StatusBarMenu::makeIcon()
     m_menu->addSeparator();
     m_menu->addAction(L10n::text("退出"), qApp, &QApplication::quit);
     connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { MenuLooks::dress(*m_menu); });
-    // A tray tells nobody its colour; most are dark.
-    m_icon = std::make_unique<QSystemTrayIcon>(
-        Symbol::icon(QStringLiteral("menubar"), QColor(0xd0, 0xd2, 0xd6), {22, 44}));
+    m_icon = std::make_unique<QSystemTrayIcon>(icon(kind));
     m_icon->setToolTip(QStringLiteral("Quillet"));
     m_icon->setContextMenu(m_menu.get());
     connect(
         m_icon.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-            if (reason == QSystemTrayIcon::Trigger)
+            // Where one click opens the menu, a second or the middle button comes here.
+            if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
                 Q_EMIT clicked();
         });
     m_icon->show();

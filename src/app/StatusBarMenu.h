@@ -3,6 +3,7 @@
 #include "desktop/TrayHost.h"
 
 #include <QObject>
+#include <QRect>
 
 #include <memory>
 
@@ -19,6 +20,7 @@ public:
     ~StatusBarMenu() override;
 
     void install();
+    [[nodiscard]] QRect iconPlace() const; ///< on the screen; empty where the desktop does not tell
 
 Q_SIGNALS:
     void clicked();
@@ -28,7 +30,7 @@ Q_SIGNALS:
     void noTray(); ///< none has come for a while
 
 private:
-    void makeIcon();
+    void makeIcon(TrayHost::Kind kind);
 
     TrayHost m_host;
     std::unique_ptr<QMenu> m_menu;

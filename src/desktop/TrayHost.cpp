@@ -12,52 +12,89 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 using namespace std::chrono_literals;
 
 namespace {
 const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 
+const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
+
 template <typename T>
 using Reply = std::unique_ptr<T, decltype(&std::free)>;
+
+/// Nothing where this is no X11 session.
+xcb_connection_t *x11()
+{
+    const auto *native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native ? native->connection() : nullptr;
+}
+
+xcb_atom_t atom(std::string_view name)
+{
+    const Reply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(
+            x11(), xcb_intern_atom(x11(), false, uint16_t(name.size()), name.data()), nullptr),
+        &std::free);
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
 } // namespace
 
 TrayHost::TrayHost(QObject *parent)
     : QObject(parent)
 {
-    // An XEmbed tray announces itself only to whoever listens on the root window; a look now and then does as
-    // well.
-    m_timer.setInterval(1s);
-    connect(&m_timer, &QTimer::timeout, this, &TrayHost::look);
     m_patience.setSingleShot(true);
     m_patience.setInterval(2s);
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        m_timer.setInterval(5s);
-        Q_EMIT missing();
-    });
+    connect(&m_patience, &QTimer::timeout, this, &TrayHost::missing);
+}
+
+TrayHost::~TrayHost()
+{
+    qApp->removeNativeEventFilter(this);
 }
 
 void TrayHost::watch()
 {
-    auto *watcher = new QDBusServiceWatcher(
-        watcherService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration, this);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    auto *watcher =
+        new QDBusServiceWatcher(watcherService, bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::look);
-    m_timer.start();
+    bus.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierHostRegistered"),
+        this, SLOT(look()));
+    if (x11()) {
+        m_selection = atom("_NET_SYSTEM_TRAY_S0");
+        m_announcement = atom("MANAGER");
+        qApp->installNativeEventFilter(this);
+    }
+    m_isWatching = true;
     m_patience.start();
     look();
 }
 
+bool TrayHost::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<xcb_generic_event_t *>(message);
+    if ((event->response_type & 0x7F) != XCB_CLIENT_MESSAGE)
+        return false;
+    const auto *announcement = reinterpret_cast<const xcb_client_message_event_t *>(event);
+    if (announcement->type == m_announcement && announcement->data.data32[1] == m_selection)
+        QMetaObject::invokeMethod(this, &TrayHost::look, Qt::QueuedConnection); // Qt is to hear of it first
+    return false;
+}
+
 void TrayHost::look()
 {
-    if (!m_timer.isActive())
+    if (!m_isWatching)
         return;
     if (hasX11Tray()) {
-        found();
+        found(Kind::XEmbed);
         return;
     }
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(watcherService, QStringLiteral("/StatusNotifierWatcher"),
-            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    QDBusMessage question = QDBusMessage::createMethodCall(watcherService, watcherPath,
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
     question.setAutoStartService(false);
     auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
@@ -65,33 +102,26 @@ void TrayHost::look()
         watcher->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply(*watcher);
         if (!reply.isError() && reply.value().variant().toBool())
-            found();
+            found(Kind::StatusNotifier);
     });
 }
 
-void TrayHost::found()
+void TrayHost::found(Kind kind)
 {
-    if (!m_timer.isActive())
+    if (!m_isWatching)
         return;
-    m_timer.stop();
+    m_isWatching = false;
     m_patience.stop();
-    Q_EMIT appeared();
+    qApp->removeNativeEventFilter(this);
+    Q_EMIT appeared(kind);
 }
 
 bool TrayHost::hasX11Tray() const
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
-        return false;
-    xcb_connection_t *connection = x11->connection();
-    constexpr char name[] = "_NET_SYSTEM_TRAY_S0";
-    const Reply<xcb_intern_atom_reply_t> atom(
-        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, true, sizeof name - 1, name), nullptr),
-        &std::free);
-    if (!atom || atom->atom == XCB_ATOM_NONE)
+    if (m_selection == 0)
         return false;
     const Reply<xcb_get_selection_owner_reply_t> owner(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr),
+        xcb_get_selection_owner_reply(x11(), xcb_get_selection_owner(x11(), m_selection), nullptr),
         &std::free);
     return owner && owner->owner != XCB_WINDOW_NONE;
 }

@@ -166,6 +166,70 @@ private Q_SLOTS:
         road.stop();
     }
 
+    void the_panel_comes_up_where_the_person_is()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        XServer &screen = desktop.screen();
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        const QPoint icon = road.trayIcon()->center();
+        screen.click(icon);
+        QVERIFY(road.waitForPanel(true));
+        QVERIFY(qAbs(road.panel()->bottom() - icon.y()) < 60);
+        QVERIFY(road.panel()->left() <= icon.x() && icon.x() <= road.panel()->right());
+        QTest::qWait(500); // or it would be a double click
+        screen.click(icon);
+        QVERIFY(road.waitForPanel(false));
+
+        // Above a window that fills the screen.
+        screen.openFullScreenWindow();
+        QTRY_COMPARE(screen.screenshot(QRect(icon, QSize(1, 1))).pixel(0, 0), qRgb(0, 0, 0));
+        road.pressHotKey();
+        QVERIFY(road.waitForPanel(true));
+        const QRect middle(road.panel()->center(), QSize(1, 1));
+        QTRY_VERIFY(qGray(screen.screenshot(middle).pixel(0, 0)) > 200);
+        screen.focusFullScreenWindow();
+        QVERIFY(road.waitForPanel(false)); // another window has the focus
+
+        // On another workspace.
+        screen.goToDesktop(1);
+        QTest::qWait(200);
+        road.pressHotKey();
+        QVERIFY(road.waitForPanel(true));
+        screen.goToDesktop(0);
+        QTest::qWait(200);
+        QVERIFY(!road.panel());
+        road.pressHotKey();
+        QVERIFY(road.waitForPanel(true));
+        road.stop();
+    }
+
+    void a_click_that_took_the_focus_does_not_open_the_panel_again()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        desktop.screen().openFullScreenWindow();
+        desktop.screen().goToDesktop(1); // away from that window, which can take the focus all the same
+        QTest::qWait(200);
+        desktop.screen().click(road.trayIcon()->center());
+        QVERIFY(road.waitForPanel(true));
+        QTest::qWait(500);
+        desktop.screen().goToDesktop(0);
+        QTest::qWait(100);
+        desktop.screen().goToDesktop(1);
+        desktop.screen().click(road.trayIcon()->center());
+        QTest::qWait(500);
+        QVERIFY(!road.panel());
+        desktop.screen().click(road.trayIcon()->center());
+        QVERIFY(road.waitForPanel(true));
+        road.stop();
+    }
+
     void a_taken_hot_key_is_one_line_in_the_log()
     {
         PrivateDesktop desktop({});

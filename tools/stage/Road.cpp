@@ -6,8 +6,6 @@
 #include <QDebug>
 #include <QFile>
 
-#include <algorithm>
-
 namespace {
 /// As ui/NoteStyle.cpp has it for a light appearance.
 constexpr QRgb flashColor = qRgb(0xff, 0xee, 0xc4);
@@ -33,14 +31,18 @@ void Road::stop()
     PrivateDesktop::stop(*m_process);
 }
 
+std::optional<QRect> Road::trayIcon() const
+{
+    for (const XServer::Window &window : m_desktop.screen().windowsOfClass(name)) {
+        if (window.isInner && window.frame.height() < smallestPanel)
+            return window.frame;
+    }
+    return std::nullopt;
+}
+
 bool Road::waitForTrayIcon()
 {
-    const bool isThere = PrivateDesktop::waitUntil([this] {
-        const auto windows = m_desktop.screen().windowsOfClass(name);
-        return std::any_of(windows.begin(), windows.end(), [](const XServer::Window &window) {
-            return window.isInner && window.frame.height() < smallestPanel;
-        });
-    });
+    const bool isThere = PrivateDesktop::waitUntil([this] { return trayIcon().has_value(); });
     if (!isThere) {
         for (const XServer::Window &window : m_desktop.screen().windowsOfClass(name))
             qWarning() << "a window, not an icon in the tray:" << window.frame << window.isInner;

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] QProcess &process() { return *m_process; }
 
     bool waitForTrayIcon();
+    [[nodiscard]] std::optional<QRect> trayIcon() const;
     bool waitForPanel(bool isOpen);
     void pressHotKey();
     [[nodiscard]] std::optional<QRect> panel() const;

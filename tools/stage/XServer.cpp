@@ -175,6 +175,52 @@ void XServer::click(QPoint where, int button)
     xcb_flush(m_connection);
 }
 
+std::uint32_t XServer::atom(std::string_view name) const
+{
+    return owned(xcb_intern_atom_reply(m_connection,
+                     xcb_intern_atom(m_connection, false, std::uint16_t(name.size()), name.data()), nullptr))
+        ->atom;
+}
+
+void XServer::tellWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value)
+{
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(message);
+    event.data.data32[0] = value;
+    xcb_send_event(m_connection, false, m_root,
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+        reinterpret_cast<const char *>(&event));
+    xcb_flush(m_connection);
+}
+
+void XServer::openFullScreenWindow()
+{
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    m_fullScreenWindow = xcb_generate_id(m_connection);
+    xcb_create_window(m_connection, screen->root_depth, m_fullScreenWindow, m_root, 0, 0,
+        std::uint16_t(m_size.width()), std::uint16_t(m_size.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+        screen->root_visual, XCB_CW_BACK_PIXEL, &screen->black_pixel);
+    const std::uint32_t fullScreen = atom("_NET_WM_STATE_FULLSCREEN");
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_fullScreenWindow, atom("_NET_WM_STATE"),
+        XCB_ATOM_ATOM, 32, 1, &fullScreen);
+    xcb_map_window(m_connection, m_fullScreenWindow);
+    focusFullScreenWindow();
+}
+
+void XServer::focusFullScreenWindow()
+{
+    constexpr std::uint32_t fromPager = 2;
+    tellWindowManager(m_fullScreenWindow, "_NET_ACTIVE_WINDOW", fromPager);
+}
+
+void XServer::goToDesktop(std::uint32_t number)
+{
+    tellWindowManager(m_root, "_NET_CURRENT_DESKTOP", number);
+}
+
 void XServer::setWallpaper(const QImage &picture)
 {
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
@@ -194,11 +240,8 @@ void XServer::setWallpaper(const QImage &picture)
     xcb_change_window_attributes(m_connection, m_root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(m_connection, false, m_root, 0, 0, 0, 0);
     // Where a compositor looks for it.
-    constexpr std::string_view name = "_XROOTPMAP_ID";
-    const auto property = owned(xcb_intern_atom_reply(m_connection,
-        xcb_intern_atom(m_connection, false, std::uint16_t(name.size()), name.data()), nullptr));
     xcb_change_property(
-        m_connection, XCB_PROP_MODE_REPLACE, m_root, property->atom, XCB_ATOM_PIXMAP, 32, 1, &pixmap);
+        m_connection, XCB_PROP_MODE_REPLACE, m_root, atom("_XROOTPMAP_ID"), XCB_ATOM_PIXMAP, 32, 1, &pixmap);
     xcb_flush(m_connection);
 }
 

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <string_view>
 
 struct xcb_connection_t;
 
@@ -38,11 +39,20 @@ public:
     [[nodiscard]] QList<Window> windowsTitled(const QString &title) const;
     [[nodiscard]] QList<Window> windowsOfClass(const QString &name) const;
 
+    /// Opens a window of another program that fills the screen and takes the focus; it stays as long as the
+    /// object.
+    void openFullScreenWindow();
+    void goToDesktop(std::uint32_t number);
+    /// Another client takes the focus, as by a click on its window.
+    void focusFullScreenWindow();
+
     /// Takes the key combination for itself, so that nobody else can have it.
     void grabHotKey();
 
 private:
     void fakeKey(std::uint8_t keycode, bool isPress);
+    [[nodiscard]] std::uint32_t atom(std::string_view name) const;
+    void tellWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value);
     [[nodiscard]] std::uint8_t keycode(std::uint32_t keysym, bool &needsShift);
     void learnKeyboard();
     void assignKeys(const QList<std::uint32_t> &keysyms);
@@ -51,6 +61,7 @@ private:
 
     xcb_connection_t *m_connection = nullptr;
     std::uint32_t m_root = 0;
+    std::uint32_t m_fullScreenWindow = 0;
     QSize m_size;
     std::uint8_t m_firstKeycode = 0;
     int m_keysymsPerKeycode = 0;

@@ -206,11 +206,8 @@ private:
         write(file, noteEncoder::encode(notes.first(1)));
         escape();
         escape();
-        const auto icons = m_screen.windowsOfClass(QStringLiteral("Quillet"));
-        for (const XServer::Window &window : icons) {
-            if (window.isInner && window.frame.height() < 100)
-                m_screen.click(window.frame.center(), 3);
-        }
+        const QPoint icon = m_road.trayIcon().value_or(QRect()).center();
+        m_screen.click(icon, 3);
         picture("menu of the icon");
         choose(1);
         picture("import");
@@ -219,10 +216,7 @@ private:
         picture("nothing to import");
         m_screen.press({Keysym::enter});
         settle();
-        for (const XServer::Window &window : icons) {
-            if (window.isInner && window.frame.height() < 100)
-                m_screen.click(window.frame.center(), 3);
-        }
+        m_screen.click(icon, 3);
         settle();
         choose(2);
         picture("export");
