@@ -9,11 +9,21 @@ void GlobalHotKey::registerHandler(std::function<void()> handler)
 {
     const bool isFirst = !m_handler;
     m_handler = std::move(handler);
-    if (!isFirst || !X11HotKey::isPossible())
+    if (!isFirst)
         return;
-    connect(&m_x11, &X11HotKey::pressed, this, &GlobalHotKey::fire);
-    if (const Outcome grabbed = m_x11.grab(); !grabbed)
-        Log::line(QStringLiteral("failed to register global hotkey: ") + grabbed.message());
+    const auto tellFailure = [](const QString &message) {
+        Log::line(QStringLiteral("failed to register global hotkey: ") + message);
+    };
+    if (X11HotKey::isPossible()) {
+        connect(&m_x11, &X11HotKey::pressed, this, &GlobalHotKey::fire);
+        if (const Outcome grabbed = m_x11.grab(); !grabbed)
+            tellFailure(grabbed.message());
+    } else {
+        m_portal = std::make_unique<PortalHotKey>();
+        connect(m_portal.get(), &PortalHotKey::pressed, this, &GlobalHotKey::fire);
+        connect(m_portal.get(), &PortalHotKey::failed, this, tellFailure);
+        m_portal->request();
+    }
 }
 
 void GlobalHotKey::handOnKeysTo(const QWindow *window)

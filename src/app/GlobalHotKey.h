@@ -1,14 +1,17 @@
 #pragma once
 
+#include "desktop/PortalHotKey.h"
 #include "desktop/X11HotKey.h"
 
 #include <QObject>
 
 #include <functional>
+#include <memory>
 
 class QWindow;
 
-/// Control+Alt+Space, whatever program has the focus. A key that cannot be had is one line in the log.
+/// Control+Alt+Space, whatever program has the focus: taken by ourselves on X11, through the desktop's portal
+/// elsewhere. A key that cannot be had is one line in the log.
 class GlobalHotKey final : public QObject
 {
     Q_OBJECT
@@ -28,5 +31,6 @@ private:
     void fire();
 
     X11HotKey m_x11;
+    std::unique_ptr<PortalHotKey> m_portal; ///< only where there is no X11
     std::function<void()> m_handler;
 };

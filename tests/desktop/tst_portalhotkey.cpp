@@ -1,0 +1,201 @@
+// The hot key through the desktop's own portal program, with a backend of the test's behind it.
+#include "desktop/PortalHotKey.h"
+#include "support/TestFiles.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMetaType>
+#include <QDir>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString portal = u"/usr/libexec/xdg-desktop-portal"_s;
+using Shortcuts = QList<QPair<QString, QVariantMap>>;
+} // namespace
+
+/// What a desktop does behind the portal: agrees to every key, or refuses, and knows some from before.
+class Backend final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.GlobalShortcuts")
+    Q_PROPERTY(uint version READ version)
+
+public:
+    uint answer = 0;
+    bool knowsShortcuts = false;
+    QStringList calls;
+    Shortcuts bound;
+    QDBusObjectPath session;
+
+    uint version() const { return 1; }
+
+public Q_SLOTS:
+    uint CreateSession(const QDBusObjectPath &, const QDBusObjectPath &handle, const QString &,
+        const QVariantMap &, QVariantMap &results)
+    {
+        calls.append(u"CreateSession"_s);
+        session = handle;
+        results.insert(u"session_id"_s, u"1"_s);
+        return 0;
+    }
+    uint BindShortcuts(const QDBusObjectPath &, const QDBusObjectPath &, const Shortcuts &shortcuts,
+        const QString &, const QVariantMap &, QVariantMap &results)
+    {
+        calls.append(u"BindShortcuts"_s);
+        bound = shortcuts;
+        const Shortcuts agreed{
+            {u"toggle"_s, {{u"description"_s, u"x"_s}, {u"trigger_description"_s, u"Ctrl+Alt+Space"_s}}}};
+        results.insert(u"shortcuts"_s, QVariant::fromValue(agreed));
+        return answer;
+    }
+    uint ListShortcuts(const QDBusObjectPath &, const QDBusObjectPath &, QVariantMap &results)
+    {
+        calls.append(u"ListShortcuts"_s);
+        const Shortcuts known = knowsShortcuts ? Shortcuts{{u"toggle"_s, {}}} : Shortcuts();
+        results.insert(u"shortcuts"_s, QVariant::fromValue(known));
+        return 0;
+    }
+
+Q_SIGNALS:
+    void Activated(
+        const QDBusObjectPath &session, const QString &id, qulonglong timestamp, const QVariantMap &options);
+};
+
+class PortalHotKeyTest final : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    QProcess m_bus;
+    QString m_address;
+    std::unique_ptr<QProcess> m_portal;
+    std::unique_ptr<Backend> m_backend;
+
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_address);
+        environment.insert(u"XDG_DESKTOP_PORTAL_DIR"_s, m_folder.path());
+        environment.insert(u"XDG_CURRENT_DESKTOP"_s, u"Quillet"_s);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, m_folder.path());
+        environment.insert(u"HOME"_s, m_folder.path());
+        return environment;
+    }
+    void startPortal()
+    {
+        m_portal = std::make_unique<QProcess>();
+        m_portal->setProcessEnvironment(environment());
+        m_portal->setProcessChannelMode(QProcess::MergedChannels);
+        m_portal->start(portal, {});
+        // Whoever calls earlier makes the bus start another one.
+        const QDBusConnection bus(u"backend"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            bus.interface()->isServiceRegistered(u"org.freedesktop.portal.Desktop"_s), 15'000);
+    }
+    void stopPortal()
+    {
+        m_portal->kill();
+        m_portal->waitForFinished();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!QFile::exists(portal))
+            QSKIP("no xdg-desktop-portal on this machine");
+        qDBusRegisterMetaType<QPair<QString, QVariantMap>>();
+        qDBusRegisterMetaType<Shortcuts>();
+        qRegisterMetaType<Shortcuts>("Shortcuts"); // the name in the slots of the backend
+        writeFile(m_folder.filePath(u"quillet.portal"_s),
+            "[portal]\n"
+            "DBusName=org.freedesktop.impl.portal.desktop.quillet\n"
+            "Interfaces=org.freedesktop.impl.portal.GlobalShortcuts\n"
+            "UseIn=Quillet\n");
+    }
+
+    void init()
+    {
+        m_address = u"unix:path="_s + m_folder.filePath(u"bus"_s);
+        m_bus.setProcessEnvironment(environment());
+        m_bus.start(u"dbus-daemon"_s,
+            {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + m_address});
+        QVERIFY(m_bus.waitForReadyRead(10'000));
+        m_backend = std::make_unique<Backend>();
+        QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"backend"_s);
+        QVERIFY(bus.registerObject(u"/org/freedesktop/portal/desktop"_s, m_backend.get(),
+            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals
+                | QDBusConnection::ExportAllProperties));
+        QVERIFY(bus.registerService(u"org.freedesktop.impl.portal.desktop.quillet"_s));
+    }
+    void cleanup()
+    {
+        if (m_portal)
+            stopPortal();
+        QDBusConnection::disconnectFromBus(u"backend"_s);
+        m_bus.kill();
+        m_bus.waitForFinished();
+        QFile::remove(m_folder.filePath(u"bus"_s));
+    }
+
+    void the_key_is_bound_pressed_and_survives_the_portal()
+    {
+        startPortal();
+        PortalHotKey key(m_address);
+        QSignalSpy bound(&key, &PortalHotKey::bound);
+        QSignalSpy pressed(&key, &PortalHotKey::pressed);
+        QSignalSpy failed(&key, &PortalHotKey::failed);
+        key.request();
+        QTRY_VERIFY_WITH_TIMEOUT(!bound.isEmpty() || !failed.isEmpty(), 15'000);
+        QCOMPARE(failed, QList<QVariantList>());
+        QCOMPARE(m_backend->calls, (QStringList{u"CreateSession"_s, u"ListShortcuts"_s, u"BindShortcuts"_s}));
+        QCOMPARE(m_backend->bound.size(), 1);
+        QCOMPARE(
+            m_backend->bound.first().second.value(u"preferred_trigger"_s).toString(), u"CTRL+ALT+space"_s);
+        const auto press = [this](const QString &id) {
+            Q_EMIT m_backend->Activated(m_backend->session, id, 1, {{u"activation_token"_s, u"let me"_s}});
+        };
+        press(u"other"_s);
+        press(u"toggle"_s);
+        QTRY_COMPARE(pressed.count(), 1);
+        QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "let me");
+        QTest::qWait(100);
+        QCOMPARE(pressed.count(), 1);
+
+        stopPortal();
+        startPortal();
+        QTRY_VERIFY_WITH_TIMEOUT(bound.count() == 2 || !failed.isEmpty(), 15'000);
+        QCOMPARE(failed, QList<QVariantList>());
+        press(u"toggle"_s);
+        QTRY_COMPARE(pressed.count(), 2);
+    }
+
+    void a_key_that_is_known_is_not_asked_for_again()
+    {
+        m_backend->knowsShortcuts = true;
+        startPortal();
+        PortalHotKey key(m_address);
+        QSignalSpy bound(&key, &PortalHotKey::bound);
+        key.request();
+        QTRY_COMPARE_WITH_TIMEOUT(bound.count(), 1, 15'000);
+        QCOMPARE(m_backend->calls, (QStringList{u"CreateSession"_s, u"ListShortcuts"_s}));
+    }
+
+    void a_refusal_is_told()
+    {
+        m_backend->answer = 1;
+        startPortal();
+        PortalHotKey key(m_address);
+        QSignalSpy failed(&key, &PortalHotKey::failed);
+        key.request();
+        QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 15'000);
+        QCOMPARE(failed.first().first().toString(), u"1"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(PortalHotKeyTest)
+#include "tst_portalhotkey.moc"
