@@ -2,14 +2,17 @@
 
 #include "app/PanelController.h"
 #include "desktop/DesktopNotificationCenter.h"
+#include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "ui/PanelState.h"
 
 #include <QUuid>
 
-AppDelegate::AppDelegate(DesktopNotificationCenter &notifications, PanelController &panel, QObject *parent)
+AppDelegate::AppDelegate(
+    DesktopNotificationCenter &notifications, NoteStore &notes, PanelController &panel, QObject *parent)
     : QObject(parent)
     , m_notifications(notifications)
+    , m_notes(notes)
     , m_panel(panel)
 {
 }
@@ -20,6 +23,8 @@ void AppDelegate::didFinishLaunching()
         &AppDelegate::willPresentNotification);
     connect(
         &m_notifications, &DesktopNotificationCenter::didReceive, this, &AppDelegate::didReceiveNotification);
+    connect(
+        &m_notifications, &DesktopNotificationCenter::didSnooze, this, &AppDelegate::didSnoozeNotification);
     m_hotKey.registerHandler([this] {
         m_panel.toggle();
         m_hotKey.handOnKeysTo(m_panel.openWindow());
@@ -39,4 +44,14 @@ void AppDelegate::didReceiveNotification(const QString &noteID)
         return;
     m_panel.open();
     Q_EMIT m_panel.state().openNote(id);
+}
+
+void AppDelegate::didSnoozeNotification(const NotificationRequest &request)
+{
+    const QUuid id(request.noteID);
+    ReminderStore *reminders = ReminderStore::active();
+    if (id.isNull() || !reminders)
+        return;
+    const auto note = m_notes.note(id);
+    reminders->snooze(id, request.body, note ? note->text : request.body);
 }

@@ -25,7 +25,7 @@ QuilletApp::QuilletApp(Start start)
               return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
           },
           [this] { return m_statusBar.iconPlace(); })
-    , m_delegate(m_notifications, m_panel)
+    , m_delegate(m_notifications, m_notes, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);
     m_notes.setEmbeddingProvider(&m_embeddings);

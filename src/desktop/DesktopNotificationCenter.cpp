@@ -11,22 +11,29 @@ constexpr qsizetype mostShownAtOnce = 5;
 /// After a refusal: some servers answer a burst with one.
 constexpr std::chrono::seconds timeToRetry{2};
 
-NotificationRequest gathered(const QList<NotificationRequest> &requests)
+/// Some servers refuse what is identical to one they have just shown, others take both for one.
+constexpr std::chrono::milliseconds timeBetweenIdenticalOnes{1100};
+} // namespace
+
+QString DesktopNotificationCenter::body(const Bubble &bubble)
 {
-    NotificationRequest one = requests.first();
-    for (const NotificationRequest &request : requests.sliced(1))
-        one.body += u'\n' + request.body;
-    return one;
+    QStringList lines;
+    for (const NotificationRequest &request : bubble)
+        lines.append(request.body);
+    return lines.join(u'\n');
 }
 
-QList<NotificationRequest> withOlderOnesGathered(const QList<NotificationRequest> &due)
+QList<DesktopNotificationCenter::Bubble> DesktopNotificationCenter::bubbles(
+    const QList<NotificationRequest> &due)
 {
-    if (due.size() <= mostShownAtOnce)
-        return due;
-    const qsizetype older = due.size() - mostShownAtOnce;
-    return QList<NotificationRequest>{gathered(due.first(older))} + due.sliced(older);
+    QList<Bubble> bubbles;
+    const qsizetype older = std::max<qsizetype>(0, due.size() - mostShownAtOnce);
+    if (older > 0)
+        bubbles.append(due.first(older));
+    for (const NotificationRequest &request : due.sliced(older))
+        bubbles.append({request});
+    return bubbles;
 }
-} // namespace
 
 DesktopNotificationCenter::DesktopNotificationCenter(const Clock &clock, QObject *parent)
     : QObject(parent)
@@ -35,10 +42,14 @@ DesktopNotificationCenter::DesktopNotificationCenter(const Clock &clock, QObject
     connect(&m_timer, &WallClockTimer::woke, this, &DesktopNotificationCenter::presentDue);
     connect(&m_server, &NotificationServer::availabilityChanged, this,
         &DesktopNotificationCenter::onAvailabilityChanged);
-    connect(&m_server, &NotificationServer::closed, this, [this](uint id) { m_noteIDs.remove(id); });
+    connect(&m_server, &NotificationServer::closed, this, [this](uint id) { m_shown.remove(id); });
     connect(&m_server, &NotificationServer::clicked, this, [this](uint id) {
-        if (const QString noteID = m_noteIDs.take(id); !noteID.isEmpty())
-            Q_EMIT didReceive(noteID);
+        if (const Bubble bubble = m_shown.take(id); !bubble.isEmpty())
+            Q_EMIT didReceive(bubble.first().noteID);
+    });
+    connect(&m_server, &NotificationServer::snoozed, this, [this](uint id) {
+        for (const NotificationRequest &request : m_shown.take(id))
+            Q_EMIT didSnooze(request);
     });
 }
 
@@ -66,7 +77,7 @@ void DesktopNotificationCenter::notificationAuthorizationStatus(
 
 void DesktopNotificationCenter::onAvailabilityChanged()
 {
-    m_noteIDs.clear(); // a new server counts anew
+    m_shown.clear(); // a new server counts anew
     const bool isAvailable = *m_server.isAvailable();
     for (const auto &completion : std::exchange(m_waiting, {}))
         completion(isAvailable);
@@ -126,20 +137,38 @@ void DesktopNotificationCenter::presentDue()
             m_server.query(); // there may be one that only needs to be started
         return;
     }
-    const QList<NotificationRequest> due = std::exchange(m_due, {});
-    for (const NotificationRequest &request : withOlderOnesGathered(due))
-        present(request);
+    m_unshown += bubbles(std::exchange(m_due, {}));
+    showBubbles();
 }
 
-void DesktopNotificationCenter::present(const NotificationRequest &request)
+void DesktopNotificationCenter::showBubbles()
 {
+    if (m_server.isAvailable() != true)
+        return; // they are shown when it comes back
+    m_shownLately.removeIf(
+        [](QHash<QString, QDeadlineTimer>::iterator lately) { return lately.value().hasExpired(); });
+    const QList<Bubble> unshown = std::exchange(m_unshown, {});
+    for (const Bubble &bubble : unshown) {
+        if (!m_shownLately.contains(body(bubble))) {
+            show(bubble);
+            continue;
+        }
+        m_unshown.append(bubble);
+        QTimer::singleShot(timeBetweenIdenticalOnes, this, &DesktopNotificationCenter::showBubbles);
+    }
+}
+
+void DesktopNotificationCenter::show(const Bubble &bubble)
+{
+    const QString text = body(bubble);
+    m_shownLately.insert(text, QDeadlineTimer(timeBetweenIdenticalOnes));
     Q_EMIT willPresent();
-    m_server.show({request.title, request.body}, [this, request](std::optional<uint> id) {
+    m_server.show({bubble.first().title, text}, [this, bubble](std::optional<uint> id) {
         if (id) {
-            m_noteIDs.insert(*id, request.noteID);
+            m_shown.insert(*id, bubble);
             return;
         }
-        m_due.append(request);
-        QTimer::singleShot(timeToRetry, this, &DesktopNotificationCenter::presentDue);
+        m_unshown.append(bubble);
+        QTimer::singleShot(timeToRetry, this, &DesktopNotificationCenter::showBubbles);
     });
 }

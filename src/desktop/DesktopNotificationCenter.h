@@ -5,6 +5,7 @@
 #include "foundation/Clock.h"
 #include "model/NotificationScheduling.h"
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QList>
 #include <QObject>
@@ -33,21 +34,31 @@ public:
 Q_SIGNALS:
     void willPresent();                     ///< a notification is about to be shown
     void didReceive(const QString &noteID); ///< a notification was clicked
-    void authorizationChanged();            ///< a server came or went
+    /// What a notification said is to be said again later; once for each request that it stood for.
+    void didSnooze(const NotificationRequest &request);
+    void authorizationChanged(); ///< a server came or went
 
 private:
+    /// One notification on screen, which may stand for several requests.
+    using Bubble = QList<NotificationRequest>;
+    [[nodiscard]] static QString body(const Bubble &bubble);
+    [[nodiscard]] static QList<Bubble> bubbles(const QList<NotificationRequest> &due);
+
     void armTimer();
     bool collectDue(); ///< whether there was any
     void presentDue();
-    void present(const NotificationRequest &request);
+    void showBubbles();
+    void show(const Bubble &bubble);
     void onAvailabilityChanged();
     void whenKnown(std::function<void(bool isAvailable)> completion);
 
     const Clock &m_clock;
     NotificationServer m_server;
     WallClockTimer m_timer;
-    QList<NotificationRequest> m_pending; ///< the next one first
-    QList<NotificationRequest> m_due;     ///< not yet shown
-    QHash<uint, QString> m_noteIDs;       ///< of the notifications on screen, by the server's ids
+    QList<NotificationRequest> m_pending;         ///< the next one first
+    QList<NotificationRequest> m_due;             ///< while there is no server
+    QList<Bubble> m_unshown;                      ///< about to be shown
+    QHash<uint, Bubble> m_shown;                  ///< by the server's ids
+    QHash<QString, QDeadlineTimer> m_shownLately; ///< bodies, and until when the same may not be shown
     std::vector<std::function<void(bool)>> m_waiting;
 };

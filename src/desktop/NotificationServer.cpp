@@ -1,6 +1,7 @@
 #include "desktop/NotificationServer.h"
 
 #include "desktop/ApplicationIdentity.h"
+#include "text/L10n.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -16,6 +17,10 @@ namespace {
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString interface = QStringLiteral("org.freedesktop.Notifications");
+
+const QString defaultAction = QStringLiteral("default"); // a click on the body
+const QString openAction = QStringLiteral("open");
+const QString snoozeAction = QStringLiteral("snooze");
 
 /// To ask for the server may start it, which should not hold up the start of the program.
 constexpr std::chrono::milliseconds timeToStart{100};
@@ -69,7 +74,6 @@ void NotificationServer::query()
 {
     call(QStringLiteral("GetCapabilities"), {}, this, [this](const QDBusPendingCall &finished) {
         const QDBusPendingReply<QStringList> reply(finished);
-        m_capabilities = reply.isError() ? QStringList() : reply.value();
         setAvailable(!reply.isError());
     });
 }
@@ -79,7 +83,7 @@ void NotificationServer::onOwnerChanged(const QString &newOwner)
     if (m_isAvailable == true)
         setAvailable(false);
     if (!newOwner.isEmpty()) {
-        query(); // capabilities are the new server's
+        query();
         return;
     }
     QTimer::singleShot(timeToComeBack, this, [this] {
@@ -99,10 +103,27 @@ void NotificationServer::setAvailable(bool isAvailable)
 void NotificationServer::show(
     const Notification &notification, std::function<void(std::optional<uint> id)> shown)
 {
-    const bool readsMarkup = m_capabilities.contains(QStringLiteral("body-markup"));
-    const bool knowsActions = m_capabilities.contains(QStringLiteral("actions"));
-    const QStringList actions =
-        knowsActions ? QStringList{QStringLiteral("default"), QString()} : QStringList();
+    // Asked each time: some servers show no buttons while the person is not to be disturbed.
+    call(QStringLiteral("GetCapabilities"), {}, this,
+        [this, notification, shown = std::move(shown)](const QDBusPendingCall &finished) {
+            const QDBusPendingReply<QStringList> reply(finished);
+            if (reply.isError())
+                shown(std::nullopt);
+            else
+                notify(notification, reply.value(), shown);
+        });
+}
+
+void NotificationServer::notify(const Notification &notification, const QStringList &capabilities,
+    std::function<void(std::optional<uint> id)> shown)
+{
+    const bool readsMarkup = capabilities.contains(QStringLiteral("body-markup"));
+    QStringList actions;
+    if (capabilities.contains(QStringLiteral("actions"))) {
+        // Some servers know no click on the body, or show it as a button of its own when it has a label.
+        actions = {
+            defaultAction, QString(), openAction, L10n::text("打开"), snoozeAction, L10n::text("稍后提醒")};
+    }
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), ApplicationIdentity::id},
         {QStringLiteral("sound-name"), QStringLiteral("message-new-instant")},
@@ -122,8 +143,10 @@ void NotificationServer::show(
 
 void NotificationServer::onActionInvoked(uint id, const QString &action)
 {
-    if (action == u"default")
+    if (action == defaultAction || action == openAction)
         Q_EMIT clicked(id);
+    else if (action == snoozeAction)
+        Q_EMIT snoozed(id);
 }
 
 void NotificationServer::onActivationToken(uint, const QString &token)

@@ -25,7 +25,8 @@ public:
     /// Asks whether a server answers, which starts one where the desktop can.
     void query();
 
-    /// @p shown is told the id by which the server names the notification, or nothing when it refused.
+    /// With buttons to open and to snooze, where the server shows any. @p shown is told the id by which the
+    /// server names the notification, or nothing when it refused.
     void show(const Notification &notification, std::function<void(std::optional<uint> id)> shown);
 
 Q_SIGNALS:
@@ -33,6 +34,7 @@ Q_SIGNALS:
     /// turn.
     void availabilityChanged();
     void clicked(uint id);
+    void snoozed(uint id);
     void closed(uint id);
 
 private Q_SLOTS:
@@ -41,10 +43,11 @@ private Q_SLOTS:
     void onNotificationClosed(uint id, uint reason);
 
 private:
+    void notify(const Notification &notification, const QStringList &capabilities,
+        std::function<void(std::optional<uint> id)> shown);
     void attach();
     void onOwnerChanged(const QString &newOwner);
     void setAvailable(bool isAvailable);
 
     std::optional<bool> m_isAvailable;
-    QStringList m_capabilities;
 };

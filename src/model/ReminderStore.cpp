@@ -9,6 +9,8 @@
 QPointer<ReminderStore> ReminderStore::s_active;
 
 namespace {
+constexpr std::chrono::minutes snoozeTime{10};
+
 QString identifier(QUuid id)
 {
     return id.toString(QUuid::WithoutBraces).toUpper();
@@ -148,6 +150,13 @@ void ReminderStore::submitNotification(const Reminder &reminder)
                 store->refreshAuthorizationStatus();
         });
     m_scheduler.add(notificationRequest(reminder, m_clock.calendar()));
+}
+
+std::optional<Reminder> ReminderStore::snooze(QUuid noteID, const QString &text, const QString &fullText)
+{
+    const Instant later = m_clock.now() + snoozeTime;
+    const Instant minute = m_clock.calendar().startOfMinute(later);
+    return schedule(noteID, minute < later ? minute + std::chrono::minutes(1) : minute, text, fullText);
 }
 
 NotificationRequest ReminderStore::notificationRequest(const Reminder &reminder, const Calendar &calendar)

@@ -37,6 +37,8 @@ public:
     /// Nothing when @p fireAt is not in the future. A note may have several reminders.
     std::optional<Reminder> schedule(
         QUuid noteID, Instant fireAt, const QString &text, const QString &fullText);
+    /// Schedules what was shown once more: ten minutes from now, at the next full minute.
+    std::optional<Reminder> snooze(QUuid noteID, const QString &text, const QString &fullText);
     void cancel(QUuid id);            ///< an unknown id changes nothing
     void cancelForNote(QUuid noteID); ///< all reminders of the note
     /// Drops the reminders whose time has come; keeps them all while notifications are not allowed.

@@ -89,7 +89,8 @@ private Q_SLOTS:
 
         const NotificationRecorder::Shown &shown = m_server->shown().first();
         QCOMPARE(shown.title, u"Quillet 提醒"_s);
-        QCOMPARE(shown.actions.value(0), u"default"_s);
+        QCOMPARE(
+            shown.actions, (QStringList{u"default"_s, {}, u"open"_s, u"打开"_s, u"snooze"_s, u"稍后提醒"_s}));
         QCOMPARE(shown.hints.value(u"desktop-entry"_s).toString(), u"io.github.quillet.Quillet"_s);
         QCOMPARE(shown.hints.value(u"sound-name"_s).toString(), u"message-new-instant"_s);
         QCOMPARE(shown.timeout, 0);
@@ -101,6 +102,23 @@ private Q_SLOTS:
         QCOMPARE(received.first().first().toString(), u"note of replacing"_s);
         QCOMPARE(
             qgetenv("XDG_ACTIVATION_TOKEN"), "token 2"); // where Qt looks for the leave to take the focus
+        QSignalSpy snoozed(m_center.get(), &DesktopNotificationCenter::didSnooze);
+        m_server->click(m_server->shown().first().id, u"snooze"_s);
+        QTRY_COMPARE(snoozed.count(), 1);
+        QCOMPARE(snoozed.first().first().value<NotificationRequest>().body, u"a < b & c"_s);
+        QCOMPARE(received.count(), 1);
+    }
+
+    void identical_texts_all_get_through()
+    {
+        startServer();
+        m_server->refuseIdentical();
+        QTRY_COMPARE(status(), AuthorizationStatus::Authorized);
+        for (const QString &identifier : {u"one"_s, u"two"_s, u"three"_s})
+            m_center->add(request(u"same"_s, -1ms, identifier));
+        m_center->add(request(u"other"_s, -1ms));
+        QTRY_COMPARE(bodies(), (QStringList{u"same"_s, u"other"_s, u"same"_s, u"same"_s}));
+        QCOMPARE(m_server->refused(), 0);
     }
 
     void what_is_due_without_a_server_is_shown_when_one_comes()
@@ -130,6 +148,9 @@ private Q_SLOTS:
         QTest::qWait(50);
         startServer();
         QTRY_COMPARE(bodies(), (QStringList{u"1\n2\n3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s}));
+        QSignalSpy snoozed(m_center.get(), &DesktopNotificationCenter::didSnooze);
+        m_server->click(m_server->shown().first().id, u"snooze"_s);
+        QTRY_COMPARE(snoozed.count(), 3);
     }
 
     void tidying_up_does_not_swallow_what_is_due_but_not_yet_shown()

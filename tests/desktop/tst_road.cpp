@@ -120,6 +120,30 @@ private Q_SLOTS:
         QCOMPARE(server.shown().last().body, u"第7"_s);
     }
 
+    void a_reminder_can_be_put_off_from_its_notification()
+    {
+        PrivateDesktop desktop({});
+        NotificationRecorder server(desktop.busAddress());
+        const Instant now = std::chrono::floor<std::chrono::minutes>(SystemClock().now());
+        const Note note{QUuid::createUuid(), u"8点 倒垃圾，改过"_s, {}, {}, {}, now - 1h};
+        writeReminders(
+            desktop, {{QUuid::createUuid(), note.id, u"倒垃圾"_s, u"8点 倒垃圾"_s, now - 1min, now - 1h}});
+        writeFile(desktop.dataFile(u"notes.json"_s), noteEncoder::encode(QList<Note>{note}));
+        Road road(desktop, m_program);
+        road.start();
+        QTRY_COMPARE(server.shown().size(), 1);
+        QTRY_VERIFY(road.savedReminders().isEmpty());
+        server.click(server.shown().first().id, u"snooze"_s);
+        QTRY_COMPARE(road.savedReminders().size(), 1);
+        const Reminder later = road.savedReminders().first();
+        QCOMPARE(later.noteID, note.id);
+        QCOMPARE(later.text, u"倒垃圾"_s);
+        QCOMPARE(later.fullText, note.text);
+        QVERIFY(later.fireAt >= now + 10min && later.fireAt <= SystemClock().now() + 11min);
+        QVERIFY(!road.panel());
+        road.stop();
+    }
+
     void the_hot_key_works_under_num_lock_and_toggles_once_a_press()
     {
         PrivateDesktop desktop({});

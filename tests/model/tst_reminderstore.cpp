@@ -133,6 +133,15 @@ private Q_SLOTS:
         QCOMPARE(readFile(file() + u".unreadable-20260302T020000Z"_s), "[{}]");
         QCOMPARE(saved().size(), 1);
     }
+
+    void what_is_snoozed_comes_back_ten_minutes_later_at_a_full_minute()
+    {
+        const auto reminders = store();
+        m_clock.set("2026-03-02T02:00:00Z");
+        QCOMPARE(reminders->snooze({}, u"甲"_s, u"x"_s)->fireAt, at("2026-03-02T02:10:00Z"));
+        m_clock.set("2026-03-02T02:00:01Z");
+        QCOMPARE(reminders->snooze({}, u"乙"_s, u"x"_s)->fireAt, at("2026-03-02T02:11:00Z"));
+    }
 };
 
 QTEST_GUILESS_MAIN(ReminderStoreTest)

@@ -1,5 +1,7 @@
 #include "stage/NotificationRecorder.h"
 
+#include <algorithm>
+
 namespace {
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString connectionName = QStringLiteral("notification-recorder");
@@ -20,18 +22,29 @@ NotificationRecorder::~NotificationRecorder()
     QDBusConnection::disconnectFromBus(connectionName);
 }
 
-void NotificationRecorder::click(uint id)
+void NotificationRecorder::click(uint id, const QString &action)
 {
     Q_EMIT ActivationToken(id, QStringLiteral("token %1").arg(id));
-    Q_EMIT ActionInvoked(id, QStringLiteral("default"));
+    Q_EMIT ActionInvoked(id, action);
     Q_EMIT NotificationClosed(id, 2);
 }
 
 uint NotificationRecorder::Notify(const QString &, uint, const QString &, const QString &title,
     const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout)
 {
+    constexpr qint64 aSecond = 1000;
+    const bool isIdentical = std::any_of(m_shown.begin(), m_shown.end(), [&](const Shown &shown) {
+        return shown.title == title && shown.body == body && shown.since.elapsed() < aSecond;
+    });
+    if (m_refusesIdentical && isIdentical) {
+        ++m_refused;
+        sendErrorReply(service + QStringLiteral(".Error.ExcessNotificationGeneration"),
+            QStringLiteral("Created too many similar notifications in quick succession"));
+        return 0;
+    }
     const uint id = uint(m_shown.size()) + 1;
-    m_shown.append({id, title, body, actions, hints, timeout});
+    m_shown.append({id, title, body, actions, hints, timeout, {}});
+    m_shown.last().since.start();
     return id;
 }
 

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
 
 /// A notification server that shows nothing and remembers everything.
-class NotificationRecorder final : public QObject
+class NotificationRecorder final : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
@@ -20,6 +22,7 @@ public:
         QStringList actions;
         QVariantMap hints;
         int timeout = 0;
+        QElapsedTimer since;
     };
 
     explicit NotificationRecorder(const QString &busAddress);
@@ -27,7 +30,11 @@ public:
     Q_DISABLE_COPY_MOVE(NotificationRecorder)
 
     [[nodiscard]] const QList<Shown> &shown() const { return m_shown; }
-    void click(uint id);
+    /// A click on the body, or on a button by its key.
+    void click(uint id, const QString &action = QStringLiteral("default"));
+    /// From now on what is identical to one shown less than a second ago is refused.
+    void refuseIdentical() { m_refusesIdentical = true; }
+    [[nodiscard]] int refused() const { return m_refused; }
 
 public Q_SLOTS:
     uint Notify(const QString &application, uint replaces, const QString &icon, const QString &title,
@@ -44,4 +51,6 @@ Q_SIGNALS:
 private:
     QDBusConnection m_bus;
     QList<Shown> m_shown;
+    bool m_refusesIdentical = false;
+    int m_refused = 0;
 };
