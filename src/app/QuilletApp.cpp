@@ -48,7 +48,7 @@ QuilletApp::QuilletApp(Start start)
     m_delegate.didFinishLaunching();
     presentMissedReminders();
     m_service.publish();
-    if (start == Start::VeryFirst)
+    if (start == Start::Open)
         m_panel.open();
     else
         QTimer::singleShot(timeToSettle, &m_panel, &PanelController::prepare);

@@ -21,7 +21,7 @@ class QuilletApp final : public QObject
     Q_OBJECT
 
 public:
-    enum class Start { VeryFirst, Quiet };
+    enum class Start { Open, Quiet }; ///< with the panel open, or in the tray
 
     explicit QuilletApp(Start start);
 

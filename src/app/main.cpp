@@ -6,20 +6,47 @@
 #include "text/L10n.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
 
+namespace {
+/// For a start with any argument: to tell the options takes no window and disturbs no running program.
+bool isToToggle(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A quick-capture notebook in the tray."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption toggle(
+        QStringLiteral("toggle"), QStringLiteral("Opens the panel, or closes it where it is open."));
+    parser.addOption(toggle);
+    // What is not known here is Qt's, as -session is, with which a session brings back what ran at its end.
+    (void)parser.parse(QCoreApplication::arguments());
+    if (parser.isSet(help))
+        parser.showHelp();
+    if (parser.isSet(version))
+        parser.showVersion();
+    return parser.isSet(toggle);
+}
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    const bool toggles = argc > 1 && isToToggle(argc, argv);
+
     const SingleInstance instance(AppPaths::dataFolder());
     if (!instance.isOnly()) {
         const QCoreApplication application(argc, argv);
-        ApplicationService::activateRunning();
+        ApplicationService::callRunning(
+            toggles ? ApplicationService::Call::Toggle : ApplicationService::Call::Activate);
         return 0;
     }
 
-    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
     QGuiApplication::setDesktopFileName(ApplicationIdentity::id);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -30,6 +57,6 @@ int main(int argc, char *argv[])
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&qtWords);
     const QuilletApp quillet(
-        instance.isVeryFirstStart() ? QuilletApp::Start::VeryFirst : QuilletApp::Start::Quiet);
+        toggles || instance.isVeryFirstStart() ? QuilletApp::Start::Open : QuilletApp::Start::Quiet);
     return QApplication::exec();
 }

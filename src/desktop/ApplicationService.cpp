@@ -9,6 +9,7 @@
 
 namespace {
 const QString activationToken = QStringLiteral("activation-token");
+const QString toggleAction = QStringLiteral("toggle");
 const QString startupID = QStringLiteral("desktop-startup-id");
 
 /// Hands the leave to take the focus on to where Qt looks for it.
@@ -34,17 +35,20 @@ void ApplicationService::publish()
         Log::line(QStringLiteral("failed to offer the D-Bus service: ") + bus.lastError().message());
 }
 
-void ApplicationService::activateRunning()
+void ApplicationService::callRunning(Call call)
 {
     QVariantMap platformData;
     if (qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
         platformData.insert(activationToken, qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
     if (qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"))
         platformData.insert(startupID, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(ApplicationIdentity::id, ApplicationIdentity::objectPath,
-            QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
-    message.setArguments({platformData});
+    const bool toggles = call == Call::Toggle;
+    QDBusMessage message = QDBusMessage::createMethodCall(ApplicationIdentity::id, ApplicationIdentity::objectPath,
+        QStringLiteral("org.freedesktop.Application"),
+        toggles ? QStringLiteral("ActivateAction") : QStringLiteral("Activate"));
+    if (toggles)
+        message << toggleAction << QVariantList();
+    message << platformData;
     const QDBusMessage reply = QDBusConnection::sessionBus().call(message, QDBus::Block, 5000);
     if (reply.type() == QDBusMessage::ErrorMessage)
         Log::line(QStringLiteral("already runs, and cannot be asked to open: ") + reply.errorMessage());
@@ -65,6 +69,6 @@ void ApplicationService::ActivateAction(
     const QString &name, const QVariantList &, const QVariantMap &platformData)
 {
     takeToken(platformData);
-    if (name == u"toggle")
+    if (name == toggleAction)
         Q_EMIT toggled();
 }

@@ -17,8 +17,9 @@ public:
     /// Offers the service on the session bus; without a bus, or with the name taken, only a line in the log.
     void publish();
 
-    /// Asks the process that runs already to open its panel.
-    static void activateRunning();
+    enum class Call { Activate, Toggle };
+    /// Asks the process that runs already to open its panel, or to close it where it is open.
+    static void callRunning(Call call);
 
 public Q_SLOTS:
     void Activate(const QVariantMap &platformData);
