@@ -28,10 +28,9 @@ int main(int argc, char *argv[])
     X11HotKey hotKey;
     QObject::connect(&hotKey, &X11HotKey::pressed, &panel, [&panel, &hotKey] {
         panel.setVisible(!panel.isVisible());
-        if (panel.isVisible()) {
+        if (panel.isVisible())
             panel.activateWindow();
-            hotKey.releaseKeyboard();
-        }
+        hotKey.releaseKeyboard();
     });
     if (!hotKey.grab())
         return 1;

@@ -1,6 +1,7 @@
 #include "app/PanelController.h"
 
 #include "desktop/Compositor.h"
+#include "desktop/X11.h"
 #include "ui/ContentView.h"
 #include "ui/Design.h"
 #include "ui/PanelWindow.h"
@@ -65,8 +66,7 @@ void PanelController::makeWindow()
     });
     m_window->winId(); // the platform's window too
     if (backdrop == FloatingFrame::Backdrop::Blurred) {
-        Compositor::blurBehind(
-            *m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
+        X11::blurBehind(*m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
     }
     m_window->grab(); // and all that the first painting costs: fonts, layouts, symbols
 }
@@ -97,6 +97,8 @@ void PanelController::open()
     }
     makeWindow(); // a compositor may have come or gone
     place();
+    if (X11::connection())
+        X11::keepOutOfTaskbars(*m_window->windowHandle());
     m_window->show();
     m_window->activateWindow();
     // When it has been closed just now, Qt still takes it for the window with the focus and would not hear

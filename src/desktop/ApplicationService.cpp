@@ -43,8 +43,8 @@ void ApplicationService::callRunning(Call call)
     if (qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"))
         platformData.insert(startupID, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
     const bool toggles = call == Call::Toggle;
-    QDBusMessage message = QDBusMessage::createMethodCall(ApplicationIdentity::id, ApplicationIdentity::objectPath,
-        QStringLiteral("org.freedesktop.Application"),
+    QDBusMessage message = QDBusMessage::createMethodCall(ApplicationIdentity::id,
+        ApplicationIdentity::objectPath, QStringLiteral("org.freedesktop.Application"),
         toggles ? QStringLiteral("ActivateAction") : QStringLiteral("Activate"));
     if (toggles)
         message << toggleAction << QVariantList();

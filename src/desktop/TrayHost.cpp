@@ -1,5 +1,7 @@
 #include "desktop/TrayHost.h"
 
+#include "desktop/X11.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -10,35 +12,12 @@
 
 #include <xcb/xcb.h>
 
-#include <cstdlib>
-#include <memory>
-#include <string_view>
-
 using namespace std::chrono_literals;
 
 namespace {
 const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
-
-template <typename T>
-using Reply = std::unique_ptr<T, decltype(&std::free)>;
-
-/// Nothing where this is no X11 session.
-xcb_connection_t *x11()
-{
-    const auto *native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return native ? native->connection() : nullptr;
-}
-
-xcb_atom_t atom(std::string_view name)
-{
-    const Reply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(
-            x11(), xcb_intern_atom(x11(), false, uint16_t(name.size()), name.data()), nullptr),
-        &std::free);
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
 } // namespace
 
 TrayHost::TrayHost(QObject *parent)
@@ -62,9 +41,9 @@ void TrayHost::watch()
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::look);
     bus.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierHostRegistered"),
         this, SLOT(look()));
-    if (x11()) {
-        m_selection = atom("_NET_SYSTEM_TRAY_S0");
-        m_announcement = atom("MANAGER");
+    if (X11::connection()) {
+        m_selection = X11::atom("_NET_SYSTEM_TRAY_S0");
+        m_announcement = X11::atom("MANAGER");
         qApp->installNativeEventFilter(this);
     }
     m_isWatching = true;
@@ -118,10 +97,5 @@ void TrayHost::found(Kind kind)
 
 bool TrayHost::hasX11Tray() const
 {
-    if (m_selection == 0)
-        return false;
-    const Reply<xcb_get_selection_owner_reply_t> owner(
-        xcb_get_selection_owner_reply(x11(), xcb_get_selection_owner(x11(), m_selection), nullptr),
-        &std::free);
-    return owner && owner->owner != XCB_WINDOW_NONE;
+    return m_selection != 0 && X11::ownerOf(m_selection) != XCB_WINDOW_NONE;
 }

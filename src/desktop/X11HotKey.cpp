@@ -1,5 +1,7 @@
 #include "desktop/X11HotKey.h"
 
+#include "desktop/X11.h"
+
 #include <QGuiApplication>
 
 #include <xcb/xcb.h>
@@ -20,17 +22,11 @@ constexpr std::array<uint16_t, 4> lockStates{
     0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
 constexpr uint16_t locks = XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2;
 
-const QNativeInterface::QX11Application *x11()
-{
-    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-}
-
 std::vector<uint8_t> keycodes(xcb_connection_t *connection, xcb_keysym_t keysym)
 {
     const std::unique_ptr<xcb_key_symbols_t, decltype(&xcb_key_symbols_free)> symbols(
         xcb_key_symbols_alloc(connection), &xcb_key_symbols_free);
-    const std::unique_ptr<xcb_keycode_t, decltype(&std::free)> found(
-        xcb_key_symbols_get_keycode(symbols.get(), keysym), &std::free);
+    const auto found = X11::owned(xcb_key_symbols_get_keycode(symbols.get(), keysym));
     std::vector<uint8_t> codes;
     for (const xcb_keycode_t *code = found.get(); code && *code != XCB_NO_SYMBOL; ++code)
         codes.push_back(*code);
@@ -61,14 +57,14 @@ X11HotKey::~X11HotKey()
 bool X11HotKey::isPossible()
 {
     // A program on XWayland could grab, but would hear the key only while an X11 window has the focus.
-    return x11() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return X11::connection() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
 Outcome X11HotKey::grab()
 {
     ungrab();
-    m_connection = x11()->connection();
-    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    m_connection = X11::connection();
+    m_root = X11::root();
     qApp->installNativeEventFilter(this);
     m_keycodes = keycodes(m_connection, space);
 
@@ -81,8 +77,7 @@ Outcome X11HotKey::grab()
     }
     int error = m_keycodes.empty() ? XCB_VALUE : 0;
     for (const xcb_void_cookie_t request : requests) {
-        const std::unique_ptr<xcb_generic_error_t, decltype(&std::free)> failed(
-            xcb_request_check(m_connection, request), &std::free);
+        const auto failed = X11::owned(xcb_request_check(m_connection, request));
         if (failed)
             error = failed->error_code;
     }

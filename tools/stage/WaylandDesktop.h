@@ -1,0 +1,27 @@
+#pragma once
+
+#include "stage/PrivateSession.h"
+
+/// A session with a Wayland compositor: sway, without a screen. Its keys are pressed by wtype.
+class WaylandDesktop final : public PrivateSession
+{
+public:
+    WaylandDesktop();
+    ~WaylandDesktop() override { stopAll(); }
+    Q_DISABLE_COPY_MOVE(WaylandDesktop)
+
+    /// Whether this machine has the programs.
+    [[nodiscard]] static bool isPossible();
+
+    /// Types with wtype, told in its own arguments: a text, or "-k" and the name of a key.
+    void type(const QStringList &arguments) const;
+    /// Whether a window of this application is there.
+    [[nodiscard]] bool hasWindow(const QString &applicationID) const;
+    [[nodiscard]] QProcessEnvironment environment() const override;
+
+private:
+    [[nodiscard]] QByteArray output(const QString &program, const QStringList &arguments) const;
+
+    QString m_display;
+    QString m_socket;
+};
