@@ -37,7 +37,8 @@ QuilletApp::QuilletApp(Start start)
         [this] { ImportExport::importNotes(m_notes, m_clock); });
     connect(&m_statusBar, &StatusBarMenu::exportChosen, this,
         [this] { ImportExport::exportNotes(m_notes, m_clock); });
-    connect(&m_statusBar, &StatusBarMenu::noTray, &m_panel, &PanelController::open);
+    if (start != Start::Hidden)
+        connect(&m_statusBar, &StatusBarMenu::noTray, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
 

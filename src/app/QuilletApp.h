@@ -21,7 +21,9 @@ class QuilletApp final : public QObject
     Q_OBJECT
 
 public:
-    enum class Start { Open, Quiet }; ///< with the panel open, or in the tray
+    /// With the panel open; in the tray, or open where there is none; or in the tray whether there is one or
+    /// not.
+    enum class Start { Open, Quiet, Hidden };
 
     explicit QuilletApp(Start start);
 

@@ -12,8 +12,13 @@
 #include <QTranslator>
 
 namespace {
+struct Options {
+    bool toggles = false;
+    bool isHidden = false;
+};
+
 /// For a start with any argument: to tell the options takes no window and disturbs no running program.
-bool isToToggle(int argc, char *argv[])
+Options optionsOf(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
@@ -22,14 +27,16 @@ bool isToToggle(int argc, char *argv[])
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption toggle(
         QStringLiteral("toggle"), QStringLiteral("Opens the panel, or closes it where it is open."));
-    parser.addOption(toggle);
+    const QCommandLineOption hidden(
+        QStringLiteral("hidden"), QStringLiteral("Shows no window, the very first time too."));
+    parser.addOptions({toggle, hidden});
     // What is not known here is Qt's, as -session is, with which a session brings back what ran at its end.
     (void)parser.parse(QCoreApplication::arguments());
     if (parser.isSet(help))
         parser.showHelp();
     if (parser.isSet(version))
         parser.showVersion();
-    return parser.isSet(toggle);
+    return {parser.isSet(toggle), parser.isSet(hidden)};
 }
 } // namespace
 
@@ -37,13 +44,15 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
-    const bool toggles = argc > 1 && isToToggle(argc, argv);
+    const Options options = argc > 1 ? optionsOf(argc, argv) : Options();
 
     const SingleInstance instance(AppPaths::dataFolder());
     if (!instance.isOnly()) {
+        if (options.isHidden)
+            return 0;
         const QCoreApplication application(argc, argv);
         ApplicationService::callRunning(
-            toggles ? ApplicationService::Call::Toggle : ApplicationService::Call::Activate);
+            options.toggles ? ApplicationService::Call::Toggle : ApplicationService::Call::Activate);
         return 0;
     }
 
@@ -56,7 +65,9 @@ int main(int argc, char *argv[])
     if (qtWords.load(QStringLiteral("qtbase_") + QString::fromLatin1(L10n::locale(L10n::currentLanguage())),
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&qtWords);
-    const QuilletApp quillet(
-        toggles || instance.isVeryFirstStart() ? QuilletApp::Start::Open : QuilletApp::Start::Quiet);
+    using Start = QuilletApp::Start;
+    const QuilletApp quillet(options.isHidden                                 ? Start::Hidden
+                             : options.toggles || instance.isVeryFirstStart() ? Start::Open
+                                                                              : Start::Quiet);
     return QApplication::exec();
 }

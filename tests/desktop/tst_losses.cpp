@@ -100,9 +100,11 @@ private Q_SLOTS:
     {
         PrivateDesktop desktop({.hasTray = false});
         Road road(desktop, m_program);
-        road.start();
+        road.start({u"--hidden"_s}); // as at login, the very first time
+        QTest::qWait(2500);          // a tray has been given up
+        QVERIFY(!road.panel());
+        road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
-        QTest::qWait(2500); // it has been given up
         desktop.startTray();
         QVERIFY(road.waitForTrayIcon());
         road.stop();

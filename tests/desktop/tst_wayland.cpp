@@ -1,5 +1,6 @@
 // The built program on a private Wayland desktop.
 #include "model/NoteCoding.h"
+#include "stage/StatusNotifierWatcher.h"
 #include "stage/WaylandDesktop.h"
 #include "support/TestFiles.h"
 
@@ -55,6 +56,33 @@ private Q_SLOTS:
         }
         desktop.type({u"面包"_s, u"-k"_s, u"Return"_s});
         QTRY_COMPARE(savedTexts(desktop), (QStringList{u"面包"_s, u"买牛奶 #家"_s}));
+        PrivateSession::stop(*quillet);
+    }
+
+    void the_icon_waits_for_a_host_and_survives_it()
+    {
+        WaylandDesktop desktop;
+        const auto quillet = desktop.start(m_program);
+        QVERIFY(waitForPanel(desktop, true));
+        desktop.type({u"-k"_s, u"Escape"_s});
+        QVERIFY(waitForPanel(desktop, false));
+        auto watcher = std::make_unique<StatusNotifierWatcher>(desktop.busAddress());
+        QTest::qWait(300);
+        QCOMPARE(watcher->items(), QStringList()); // nobody would show it
+        watcher->registerHost();
+        for (int host = 0; host < 2; ++host) {
+            QTRY_COMPARE(watcher->items().size(), 1);
+            const QString icon = watcher->items().first();
+            QCOMPARE(watcher->menuOf(icon), (QStringList{u"导入"_s, u"导出"_s, {}, u"退出"_s}));
+            for (const bool opens : {true, false}) {
+                watcher->click(icon);
+                QVERIFY(waitForPanel(desktop, opens));
+            }
+            watcher.reset();
+            QTest::qWait(200);
+            watcher = std::make_unique<StatusNotifierWatcher>(desktop.busAddress());
+            watcher->registerHost();
+        }
         PrivateSession::stop(*quillet);
     }
 };

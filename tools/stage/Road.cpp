@@ -21,9 +21,9 @@ QByteArray bytes(const QString &path)
 }
 } // namespace
 
-void Road::start(std::chrono::milliseconds clockShift)
+void Road::start(std::chrono::milliseconds clockShift, const QStringList &arguments)
 {
-    m_process = m_desktop.start(m_program, clockShift);
+    m_process = m_desktop.start(m_program, clockShift, arguments);
 }
 
 void Road::stop()

@@ -18,7 +18,8 @@ public:
     {
     }
 
-    void start(std::chrono::milliseconds clockShift = {});
+    void start(std::chrono::milliseconds clockShift = {}, const QStringList &arguments = {});
+    void start(const QStringList &arguments) { start({}, arguments); }
     void stop();
     [[nodiscard]] QProcess &process() { return *m_process; }
 
