@@ -1,8 +1,8 @@
 // Light and dark, in front of a settings portal that the test brings.
 #include "desktop/Appearance.h"
+#include "stage/PrivateSession.h"
 #include "stage/SettingsPortal.h"
 
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -12,24 +12,14 @@ class AppearanceTest final : public QObject
 {
     Q_OBJECT
 
-    QProcess m_bus;
+    PrivateSession m_session;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        QVERIFY(m_bus.waitForReadyRead(10'000));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
-    }
-    void cleanupTestCase()
-    {
-        m_bus.terminate();
-        m_bus.waitForFinished();
-    }
+    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", m_session.busAddress().toLatin1()); }
 
     void the_portal_is_asked_and_followed()
     {
-        SettingsPortal portal(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), SettingsPortal::Scheme::Dark);
+        SettingsPortal portal(m_session.busAddress(), SettingsPortal::Scheme::Dark);
         Appearance appearance;
         QSignalSpy changed(&appearance, &Appearance::schemeChanged);
         appearance.follow();

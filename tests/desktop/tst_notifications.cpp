@@ -1,10 +1,9 @@
 // The notification centre on a private bus, in front of a server that the test brings and takes away.
 #include "desktop/DesktopNotificationCenter.h"
 #include "stage/NotificationRecorder.h"
+#include "stage/PrivateSession.h"
 
-#include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -14,13 +13,12 @@ class NotificationsTest final : public QObject
 {
     Q_OBJECT
 
-    QProcess m_bus;
-    QString m_address;
+    PrivateSession m_session;
     SystemClock m_clock;
     std::unique_ptr<NotificationRecorder> m_server;
     std::unique_ptr<DesktopNotificationCenter> m_center;
 
-    void startServer() { m_server = std::make_unique<NotificationRecorder>(m_address); }
+    void startServer() { m_server = std::make_unique<NotificationRecorder>(m_session.busAddress()); }
 
     NotificationRequest request(
         const QString &body, std::chrono::milliseconds fromNow, const QString &identifier = {}) const
@@ -44,26 +42,7 @@ class NotificationsTest final : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        // Without the desktop's service files, so that nobody starts a server but the test.
-        QTemporaryFile configuration;
-        QVERIFY(configuration.open());
-        configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-                            "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                            "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
-        configuration.close();
-        m_bus.start(u"dbus-daemon"_s,
-            {u"--config-file="_s + configuration.fileName(), u"--nofork"_s, u"--print-address"_s});
-        QVERIFY(m_bus.waitForReadyRead(10'000));
-        m_address = QString::fromLatin1(m_bus.readLine().trimmed());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toLatin1());
-    }
-    void cleanupTestCase()
-    {
-        m_bus.kill();
-        m_bus.waitForFinished();
-    }
+    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", m_session.busAddress().toLatin1()); }
     void init() { m_center = std::make_unique<DesktopNotificationCenter>(m_clock); }
     void cleanup()
     {

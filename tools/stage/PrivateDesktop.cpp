@@ -11,7 +11,6 @@ PrivateDesktop::PrivateDesktop(Options options)
             QStringLiteral("%1x%2x24").arg(1024 * m_scale).arg(720 * m_scale), QStringLiteral("-nolisten"),
             QStringLiteral("tcp")});
     m_display = u':' + QString::fromLatin1(firstLine(*m_server));
-    startBus();
     m_screen = std::make_unique<XServer>(m_display);
 
     launch(QStringLiteral("openbox"), {});

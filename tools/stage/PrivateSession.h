@@ -13,6 +13,7 @@
 class PrivateSession
 {
 public:
+    PrivateSession();
     virtual ~PrivateSession();
     Q_DISABLE_COPY_MOVE(PrivateSession)
 
@@ -33,13 +34,10 @@ public:
         const std::function<bool()> &holds, std::chrono::milliseconds limit = std::chrono::seconds(10));
 
 protected:
-    PrivateSession();
-
     /// Starts a part of the desktop, which ends with it.
     QProcess &launch(const QString &program, const QStringList &arguments);
     [[nodiscard]] QString file(const QString &name) const { return m_home.filePath(name); }
     static QByteArray firstLine(QProcess &process);
-    void startBus();
     void stopAll(); ///< the last started first
 
 private:

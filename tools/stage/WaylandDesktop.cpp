@@ -11,7 +11,6 @@ using namespace std::chrono_literals;
 
 WaylandDesktop::WaylandDesktop()
 {
-    startBus();
     const QString configuration = file(QStringLiteral("sway"));
     QFile write(configuration);
     if (!write.open(QIODevice::WriteOnly) || write.write("output HEADLESS-1 resolution 1024x720\n") < 0)
