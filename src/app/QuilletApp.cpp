@@ -1,10 +1,12 @@
 #include "app/QuilletApp.h"
 
+#include "desktop/ApplicationIdentity.h"
 #include "ui/ContentView.h"
 #include "ui/ImportExport.h"
 #include "ui/NoteStyle.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 namespace {
@@ -22,6 +24,8 @@ QuilletApp::QuilletApp(Start start)
               m_dateDetector.prepare();
               m_notes.prepareSearch();
               m_appearance.follow();
+              QApplication::setWindowIcon(
+                  QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
               return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
           },
           [this] { return m_statusBar.iconPlace(); })

@@ -3,6 +3,7 @@
 #include "desktop/ApplicationIdentity.h"
 #include "text/L10n.h"
 #include "ui/MenuLooks.h"
+#include "ui/Symbol.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -13,10 +14,10 @@ QIcon icon(TrayHost::Kind kind)
 {
     // An XEmbed tray tells nobody its colour: a light drawing with a dark edge can be seen on any. Other
     // hosts colour a symbolic icon as they do their own.
-    const QIcon own(QStringLiteral(":/icons/tray.svg"));
-    return kind == TrayHost::Kind::XEmbed
-               ? own
-               : QIcon::fromTheme(ApplicationIdentity::id + QStringLiteral("-symbolic"), own);
+    const auto own = [](const QList<int> &sizes) { return Symbol::icon(QStringLiteral("tray"), {}, sizes); };
+    if (kind == TrayHost::Kind::XEmbed)
+        return own({22, 44});
+    return QIcon::fromTheme(ApplicationIdentity::id + QStringLiteral("-symbolic"), own({16, 22, 32, 64}));
 }
 } // namespace
 

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -59,7 +58,6 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(ApplicationIdentity::id);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
     // Qt's own words, in the file dialogs and in the menu of the field, are in the interface language too.
     QTranslator qtWords;
     if (qtWords.load(QStringLiteral("qtbase_") + QString::fromLatin1(L10n::locale(L10n::currentLanguage())),

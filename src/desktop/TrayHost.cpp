@@ -35,18 +35,22 @@ TrayHost::~TrayHost()
 
 void TrayHost::watch()
 {
+    m_isWatching = true;
+    if (X11::connection()) {
+        m_selection = X11::atom("_NET_SYSTEM_TRAY_S0");
+        if (hasX11Tray()) { // before the bus is asked, which takes a while
+            found(Kind::XEmbed);
+            return;
+        }
+        m_announcement = X11::atom("MANAGER");
+        qApp->installNativeEventFilter(this);
+    }
     QDBusConnection bus = QDBusConnection::sessionBus();
     auto *watcher =
         new QDBusServiceWatcher(watcherService, bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::look);
     bus.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierHostRegistered"),
         this, SLOT(look()));
-    if (X11::connection()) {
-        m_selection = X11::atom("_NET_SYSTEM_TRAY_S0");
-        m_announcement = X11::atom("MANAGER");
-        qApp->installNativeEventFilter(this);
-    }
-    m_isWatching = true;
     m_patience.start();
     look();
 }

@@ -285,9 +285,16 @@ void XServer::find(std::uint32_t parent, std::uint32_t property, const QString &
         // A class is two words, each ended by a zero.
         if (attributes->map_state == XCB_MAP_STATE_VIEWABLE
             && text(named.get()).split(QChar(u'\0')).contains(value))
-            found.append({{place->dst_x, place->dst_y, geometry->width, geometry->height}, isInner});
+            found.append({child, {place->dst_x, place->dst_y, geometry->width, geometry->height}, isInner});
         find(child, property, value, true, found);
     }
+}
+
+int XServer::childCount(std::uint32_t window) const
+{
+    const auto tree =
+        owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+    return tree ? xcb_query_tree_children_length(tree.get()) : 0;
 }
 
 QList<XServer::Window> XServer::windowsTitled(const QString &title) const

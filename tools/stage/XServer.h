@@ -32,12 +32,16 @@ public:
     [[nodiscard]] QImage screenshot(QRect part) const;
 
     struct Window {
+        std::uint32_t id = 0;
         QRect frame;          ///< on the screen
         bool isInner = false; ///< within another window: a tray's, or the frame of the window manager
     };
     /// The windows that can be seen and have this title, or this class.
     [[nodiscard]] QList<Window> windowsTitled(const QString &title) const;
     [[nodiscard]] QList<Window> windowsOfClass(const QString &name) const;
+    /// How many windows are right within this one: to be asked often, unlike the others, which look at all
+    /// there are.
+    [[nodiscard]] int childCount(std::uint32_t window) const;
 
     /// Opens a window of another program that fills the screen and takes the focus; it stays as long as the
     /// object.
