@@ -167,6 +167,21 @@ private Q_SLOTS:
         road.stop();
     }
 
+    void the_hot_key_follows_the_keyboard_map()
+    {
+        PrivateDesktop desktop({});
+        writeReminders(desktop, {});
+        Road road(desktop, m_program);
+        road.start();
+        QVERIFY(road.waitForTrayIcon());
+        desktop.screen().moveToAnotherKey(Keysym::space);
+        for (const bool opens : {true, false}) {
+            road.pressHotKey();
+            QVERIFY(road.waitForPanel(opens));
+        }
+        road.stop();
+    }
+
     void nothing_typed_right_after_the_hot_key_is_lost()
     {
         PrivateDesktop desktop({});

@@ -78,7 +78,10 @@ QStringList StatusNotifierWatcher::menuOf(const QString &item)
         const auto entry = child.variant().value<QDBusArgument>();
         entry.beginStructure();
         entry >> id >> properties;
+        entry.endStructure();
         entries.append(properties.value(QStringLiteral("label")).toString());
     }
+    root.endArray();
+    root.endStructure();
     return entries;
 }

@@ -114,6 +114,17 @@ void XServer::assignKeys(const QList<std::uint32_t> &wanted)
     }
 }
 
+void XServer::moveToAnotherKey(std::uint32_t keysym)
+{
+    bool needsShift = false;
+    const std::uint8_t old = keycode(keysym, needsShift);
+    const QList<std::uint32_t> nothing(m_keysymsPerKeycode, 0);
+    xcb_change_keyboard_mapping(
+        m_connection, 1, old, std::uint8_t(m_keysymsPerKeycode), nothing.constData());
+    std::fill_n(m_keysyms.begin() + (old - m_firstKeycode) * m_keysymsPerKeycode, m_keysymsPerKeycode, 1); // not this one again
+    assignKeys({keysym});
+}
+
 void XServer::fakeKey(std::uint8_t keycode, bool isPress)
 {
     xcb_test_fake_input(m_connection, isPress ? XCB_KEY_PRESS : XCB_KEY_RELEASE, keycode, XCB_CURRENT_TIME,

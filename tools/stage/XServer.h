@@ -23,6 +23,8 @@ public:
     /// Presses the keys, in this order, and releases them in reverse: "Control_L", "Alt_L", "space".
     void press(const QList<std::uint32_t> &keysyms) { hold(keysyms, {}); }
     void hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time);
+    /// From now on another key of the keyboard has this symbol, as when another keyboard is plugged in.
+    void moveToAnotherKey(std::uint32_t keysym);
     void click(QPoint where, int button = 1);
     void point(QPoint where); ///< moves the pointer there
     /// What is seen where no window is; of the screen's size.
