@@ -30,6 +30,15 @@ PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
     connect(&m_focusCheck, &QTimer::timeout, this, &PanelWindow::checkFocus);
 }
 
+bool PanelWindow::event(QEvent *event)
+{
+    // A dialog has ended. To whom the desktop then gives the focus, it decides by itself, and mostly not for a window
+    // that is in no taskbar.
+    if (event->type() == QEvent::WindowUnblocked && isVisible())
+        activateWindow();
+    return QWidget::event(event);
+}
+
 bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)

@@ -25,6 +25,7 @@ Q_SIGNALS:
     void focusLost(); ///< another program's window has taken the focus
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;

@@ -248,6 +248,7 @@ private:
     }
     void choose(int entry)
     {
+        m_screen.point({1, 1}); // what it points at would be chosen from
         for (int i = 0; i < entry; ++i)
             m_screen.press({Keysym::down});
         m_screen.press({Keysym::enter});
