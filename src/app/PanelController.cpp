@@ -35,6 +35,10 @@ PanelController::PanelController(
     , m_makeContent(std::move(makeContent))
     , m_iconPlace(std::move(iconPlace))
 {
+    constexpr std::chrono::milliseconds aMoment{100};
+    m_placeCheck.setSingleShot(true);
+    m_placeCheck.setInterval(aMoment);
+    connect(&m_placeCheck, &QTimer::timeout, this, &PanelController::insistOnPlace);
 }
 
 PanelController::~PanelController() = default;
@@ -144,6 +148,23 @@ void PanelController::place()
     QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
     const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
-    m_window->move(std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
-        std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height())));
+    m_place = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
+        std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height()))};
+    m_window->move(m_place);
+    if (X11::connection()) {
+        m_placeChecks = 3;
+        m_placeCheck.start();
+    }
+}
+
+void PanelController::insistOnPlace()
+{
+    // While a window manager puts the window into its frame, Qt may take it to be in the corner of the
+    // screen, and with it the input method and the popovers. A window manager that wants it elsewhere gets
+    // its way in the end.
+    QWindow *window = m_window->windowHandle();
+    if (!window->isVisible() || window->position() == m_place || --m_placeChecks < 0)
+        return;
+    window->setPosition(m_place);
+    m_placeCheck.start();
 }

@@ -3,6 +3,7 @@
 #include <QDeadlineTimer>
 #include <QObject>
 #include <QRect>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -39,9 +40,13 @@ private:
     void makeWindow();
     void close();
     void place();
+    void insistOnPlace();
 
     std::function<ContentView *()> m_makeContent;
     std::function<QRect()> m_iconPlace;
+    QPoint m_place;        ///< of the window
+    int m_placeChecks = 0; ///< still to come
+    QTimer m_placeCheck;
     QDeadlineTimer m_sameClick;       ///< until when a click may be the one that closed the panel
     ContentView *m_content = nullptr; ///< owned by the window
     std::unique_ptr<PanelWindow> m_window;

@@ -32,8 +32,8 @@ PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
 
 bool PanelWindow::event(QEvent *event)
 {
-    // A dialog has ended. To whom the desktop then gives the focus, it decides by itself, and mostly not for a window
-    // that is in no taskbar.
+    // A dialog has ended. To whom the desktop then gives the focus, it decides by itself, and mostly not for
+    // a window that is in no taskbar.
     if (event->type() == QEvent::WindowUnblocked && isVisible())
         activateWindow();
     return QWidget::event(event);

@@ -119,9 +119,9 @@ void XServer::moveToAnotherKey(std::uint32_t keysym)
     bool needsShift = false;
     const std::uint8_t old = keycode(keysym, needsShift);
     const QList<std::uint32_t> nothing(m_keysymsPerKeycode, 0);
-    xcb_change_keyboard_mapping(
-        m_connection, 1, old, std::uint8_t(m_keysymsPerKeycode), nothing.constData());
-    std::fill_n(m_keysyms.begin() + (old - m_firstKeycode) * m_keysymsPerKeycode, m_keysymsPerKeycode, 1); // not this one again
+    xcb_change_keyboard_mapping(m_connection, 1, old, std::uint8_t(m_keysymsPerKeycode), nothing.constData());
+    std::fill_n(m_keysyms.begin() + (old - m_firstKeycode) * m_keysymsPerKeycode, m_keysymsPerKeycode,
+        1); // not this one again
     assignKeys({keysym});
 }
 
