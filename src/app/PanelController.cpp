@@ -146,7 +146,9 @@ void PanelController::place()
     const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
     const QRect icon = m_iconPlace();
     QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
-    const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
+    // Until the tray has taken it in, it says that it is in the very corner.
+    const bool isKnown = !icon.isEmpty() && icon.topLeft() != screen->geometry().topLeft()
+                         && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
     m_place = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
         std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height()))};
