@@ -32,7 +32,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         if (!WaylandDesktop::isPossible())
-            QSKIP("no sway, wtype or setpriv on this machine");
+            QSKIP("no sway, wtype, setpriv or shared memory on this machine");
     }
 
     void a_note_is_written_and_the_panel_comes_and_goes()

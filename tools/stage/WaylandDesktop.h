@@ -10,7 +10,7 @@ public:
     ~WaylandDesktop() override { stopAll(); }
     Q_DISABLE_COPY_MOVE(WaylandDesktop)
 
-    /// Whether this machine has the programs.
+    /// Whether this machine has the programs, and shared memory for them.
     [[nodiscard]] static bool isPossible();
 
     /// Types with wtype, told in its own arguments: a text, or "-k" and the name of a key.
