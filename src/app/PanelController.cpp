@@ -69,9 +69,8 @@ void PanelController::makeWindow()
         Q_EMIT m_content->state().panelDidToggle();
     });
     m_window->winId(); // the platform's window too
-    if (backdrop == FloatingFrame::Backdrop::Blurred) {
+    if (backdrop == FloatingFrame::Backdrop::Blurred)
         X11::blurBehind(*m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
-    }
     m_window->grab(); // and all that the first painting costs: fonts, layouts, symbols
 }
 

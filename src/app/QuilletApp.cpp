@@ -24,6 +24,7 @@ QuilletApp::QuilletApp(Start start)
               m_dateDetector.prepare();
               m_notes.prepareSearch();
               m_appearance.follow();
+              // Not before the tray has its icon: it takes a library more.
               QApplication::setWindowIcon(
                   QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
               return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);

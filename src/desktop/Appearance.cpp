@@ -1,5 +1,7 @@
 #include "desktop/Appearance.h"
 
+#include "desktop/DesktopPortal.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -7,8 +9,8 @@
 #include <QDBusPendingReply>
 
 namespace {
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+using DesktopPortal::path;
+using DesktopPortal::service;
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString group = QStringLiteral("org.freedesktop.appearance");
 const QString key = QStringLiteral("color-scheme");

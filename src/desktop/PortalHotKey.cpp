@@ -1,6 +1,7 @@
 #include "desktop/PortalHotKey.h"
 
 #include "desktop/ApplicationIdentity.h"
+#include "desktop/DesktopPortal.h"
 #include "text/L10n.h"
 
 #include <QDBusArgument>
@@ -14,8 +15,8 @@
 #include <algorithm>
 
 namespace {
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+using DesktopPortal::path;
+using DesktopPortal::service;
 const QString interface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString registry = QStringLiteral("org.freedesktop.host.portal.Registry");
 const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
@@ -110,7 +111,7 @@ void PortalHotKey::ask(Step step, const QString &method, const QVariantList &arg
     m_step = step;
     const QString token = QStringLiteral("quillet%1_%2").arg(m_round).arg(int(step));
     const QString sender = m_bus.baseService().sliced(1).replace(u'.', u'_');
-    m_request = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
+    m_request = QStringLiteral("%1/request/%2/%3").arg(path, sender, token);
     // Heard before it is asked, or the answer may come first.
     m_bus.connect(service, m_request, requestInterface, QStringLiteral("Response"), this,
         SLOT(onResponse(uint, QVariantMap)));

@@ -16,7 +16,6 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
-
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "ui/FloatingFrame.h"
 
+#include "ui/Design.h"
 #include "ui/NoteStyle.h"
 
 #include <QBitmap>
@@ -8,6 +9,23 @@
 #include <QPainterPath>
 #include <QRegion>
 #include <QWidget>
+
+QColor FloatingFrame::ground(const QPalette &palette, Backdrop backdrop)
+{
+    QColor color = NoteStyle::background(palette);
+    switch (backdrop) {
+    case Backdrop::None:
+        break;
+    case Backdrop::Sharp:
+        color.setAlphaF(Design::sharpGroundOpacity);
+        break;
+    case Backdrop::Blurred:
+        color.setAlphaF(NoteStyle::isDark(palette) ? Design::blurredDarkGroundOpacity
+                                                   : Design::blurredLightGroundOpacity);
+        break;
+    }
+    return color;
+}
 
 FloatingFrame::FloatingFrame(QWidget &window, Backdrop backdrop, Shape shape)
     : m_window(window)
@@ -73,11 +91,11 @@ void FloatingFrame::paint(QPainter &painter)
 {
     const QPalette palette = m_window.palette();
     const bool isOpaque = m_backdrop == Backdrop::None;
-    const QColor ground = NoteStyle::ground(palette, m_shape.isSolid ? Backdrop::None : m_backdrop);
-    m_picture.paint(painter, m_window, isOpaque ? ground : QColor(Qt::transparent), [&](QPainter &picture) {
+    const QColor color = ground(palette, m_shape.isSolid ? Backdrop::None : m_backdrop);
+    m_picture.paint(painter, m_window, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &picture) {
         if (!isOpaque)
             paintShadow(picture);
-        picture.setBrush(isOpaque ? Qt::NoBrush : QBrush(ground));
+        picture.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
         picture.setPen(NoteStyle::hairline(palette));
         picture.drawRoundedRect(
             QRectF(inside()).adjusted(0.5, 0.5, -0.5, -0.5), m_shape.radius, m_shape.radius);

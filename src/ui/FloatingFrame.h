@@ -4,7 +4,9 @@
 
 #include <QRect>
 
+class QColor;
 class QPainter;
+class QPalette;
 class QRegion;
 class QWidget;
 
@@ -16,6 +18,9 @@ class FloatingFrame final
 public:
     /// What the desktop can show behind the window.
     enum class Backdrop { None, Sharp, Blurred };
+
+    /// Nearly opaque, so that text stays readable over whatever shines through.
+    [[nodiscard]] static QColor ground(const QPalette &palette, Backdrop backdrop);
 
     struct Shape {
         int radius;

@@ -87,23 +87,6 @@ QColor NoteStyle::background(const QPalette &palette)
     return byAppearance(palette, QColor(0xfa, 0xfa, 0xf8), QColor(0x24, 0x26, 0x2a));
 }
 
-QColor NoteStyle::ground(const QPalette &palette, FloatingFrame::Backdrop backdrop)
-{
-    QColor color = background(palette);
-    switch (backdrop) {
-    case FloatingFrame::Backdrop::None:
-        break;
-    case FloatingFrame::Backdrop::Sharp:
-        color.setAlphaF(Design::sharpGroundOpacity);
-        break;
-    case FloatingFrame::Backdrop::Blurred:
-        color.setAlphaF(
-            isDark(palette) ? Design::blurredDarkGroundOpacity : Design::blurredLightGroundOpacity);
-        break;
-    }
-    return color;
-}
-
 QColor NoteStyle::fieldColor(const QPalette &palette)
 {
     return byAppearance(palette, QColor(0xff, 0xff, 0xff), QColor(0x30, 0x33, 0x38));

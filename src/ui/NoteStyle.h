@@ -1,7 +1,6 @@
 #pragma once
 
 #include "text/NoteHighlighting.h"
-#include "ui/FloatingFrame.h"
 
 #include <QColor>
 #include <QFont>
@@ -22,9 +21,6 @@ namespace NoteStyle {
 [[nodiscard]] QColor color(const QPalette &palette);     ///< body text
 [[nodiscard]] QColor metaColor(const QPalette &palette); ///< times, headers, hints
 [[nodiscard]] QColor background(const QPalette &palette);
-/// The background of a floating window, nearly opaque, so that text stays readable over whatever shines
-/// through.
-[[nodiscard]] QColor ground(const QPalette &palette, FloatingFrame::Backdrop backdrop);
 [[nodiscard]] QColor fieldColor(const QPalette &palette);  ///< the capsule that is written in
 [[nodiscard]] QColor quoteGround(const QPalette &palette); ///< behind a quoted note
 [[nodiscard]] QColor hover(const QPalette &palette);       ///< behind what is pointed at

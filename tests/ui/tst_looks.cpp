@@ -1,4 +1,5 @@
 // That everybody can read the panel, and have it read to them.
+#include "ui/FloatingFrame.h"
 #include "ui/NoteStyle.h"
 #include "ui/TestPanel.h"
 
@@ -53,7 +54,7 @@ private Q_SLOTS:
         using Backdrop = FloatingFrame::Backdrop;
         // At worst all that shines through is black, or white.
         const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {
-            const QColor ground = NoteStyle::ground(palette, backdrop);
+            const QColor ground = FloatingFrame::ground(palette, backdrop);
             const auto mixed = [&](float part) {
                 return part * ground.alphaF() + behind * (1 - ground.alphaF());
             };
