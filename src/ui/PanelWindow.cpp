@@ -58,7 +58,7 @@ void PanelWindow::changeEvent(QEvent *event)
         return;
     if (isActiveWindow())
         m_focusCheck.stop();
-    else
+    else if (isVisible()) // on Wayland a window hears of it after it was closed
         m_focusCheck.start();
 }
 

@@ -79,7 +79,6 @@ private Q_SLOTS:
                 QVERIFY(waitForPanel(desktop, opens));
             }
             watcher.reset();
-            QTest::qWait(200);
             watcher = std::make_unique<StatusNotifierWatcher>(desktop.busAddress());
             watcher->registerHost();
         }

@@ -36,10 +36,13 @@ WaylandDesktop::WaylandDesktop()
         const QStringList found = QDir(run).entryList({pattern}, QDir::System | QDir::Files);
         return found.isEmpty() ? QString() : run + u'/' + found.first();
     };
-    if (!waitUntil([&] { return !find(QStringLiteral("wayland-?")).isEmpty(); }))
+    const auto isUp = [&] {
+        m_display = find(QStringLiteral("wayland-?"));
+        m_socket = find(QStringLiteral("sway-ipc*"));
+        return !m_display.isEmpty() && !m_socket.isEmpty();
+    };
+    if (!waitUntil(isUp))
         qFatal("sway does not come up");
-    m_display = find(QStringLiteral("wayland-?"));
-    m_socket = find(QStringLiteral("sway-ipc*"));
     // A keyboard that stays: without one, each program that types would take the focus along with its own
     // when it ends.
     launch(QStringLiteral("wtype"), {QStringLiteral("-s"), QStringLiteral("600000")});
