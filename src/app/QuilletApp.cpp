@@ -50,8 +50,8 @@ QuilletApp::QuilletApp(Start start)
     connect(&m_appearance, &Appearance::schemeChanged, this, &QuilletApp::applyAppearance);
     applyAppearance();
 
+    m_delegate.didFinishLaunching(); // whoever sees the icon can press the hot key
     m_statusBar.install();
-    m_delegate.didFinishLaunching();
     presentMissedReminders();
     m_service.publish();
     if (start == Start::Open)

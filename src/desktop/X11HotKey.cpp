@@ -45,7 +45,7 @@ X11HotKey::X11HotKey(QObject *parent)
             (void)grab();
     });
     m_patience.setSingleShot(true);
-    m_patience.setInterval(500ms);
+    m_patience.setInterval(1s); // on a busy machine the window manager takes its time
     connect(&m_patience, &QTimer::timeout, this, &X11HotKey::releaseKeyboard);
 }
 
@@ -110,6 +110,12 @@ void X11HotKey::releaseKeyboard()
     // What the server has kept back it hands out as if it were typed now.
     xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
+}
+
+void X11HotKey::releaseKeyboardTo(uint32_t window)
+{
+    m_awaitsFocus = window;
+    m_patience.start(); // to make the window may have taken a while
 }
 
 bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)

@@ -32,7 +32,7 @@ public:
     /// goes to the window that has the focus. It is let go by itself soon, should nobody call.
     void releaseKeyboard();
     /// The same as soon as this window gets the focus.
-    void releaseKeyboardTo(std::uint32_t window) { m_awaitsFocus = window; }
+    void releaseKeyboardTo(std::uint32_t window);
 
 Q_SIGNALS:
     void pressed(); ///< once for each press, however long the key is held

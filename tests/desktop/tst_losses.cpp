@@ -16,12 +16,12 @@ class LossesTest final : public QObject
 
     const QString m_program = QStringLiteral(PROGRAM);
 
-    /// Writes a note by hot key and keyboard, and waits for it on the disk.
+    /// Writes a note by hot key and keyboard, and waits for it on the disk. The program was started as at
+    /// login: the panel that it shows the very first time would come between.
     static bool write(PrivateDesktop &desktop, Road &road, const QString &text)
     {
         const qsizetype before = road.savedNotes().size();
-        if (!road.panel())
-            road.pressHotKey();
+        road.pressHotKey();
         if (!road.waitForPanel(true))
             return false;
         desktop.screen().type(text);
@@ -44,7 +44,7 @@ private Q_SLOTS:
         PrivateDesktop desktop({});
         Road road(desktop, m_program);
         for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-            road.start();
+            road.start({u"--hidden"_s});
             QVERIFY(road.waitForTrayIcon());
             QVERIFY(write(desktop, road, u"note %1"_s.arg(signal)));
             ::kill(pid_t(road.process().processId()), signal);
@@ -57,7 +57,7 @@ private Q_SLOTS:
     {
         PrivateDesktop desktop({});
         Road road(desktop, m_program);
-        road.start();
+        road.start({u"--hidden"_s});
         QVERIFY(road.waitForTrayIcon());
         QVERIFY(write(desktop, road, u"one"_s));
         desktop.stopScreen();
@@ -69,7 +69,7 @@ private Q_SLOTS:
     {
         PrivateDesktop desktop({});
         Road road(desktop, m_program);
-        road.start();
+        road.start({u"--hidden"_s});
         QVERIFY(road.waitForTrayIcon());
         QVERIFY(write(desktop, road, u"one"_s));
         desktop.stopBus();
@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         PrivateDesktop desktop({});
         Road road(desktop, m_program);
-        road.start();
+        road.start({u"--hidden"_s});
         QVERIFY(road.waitForTrayIcon());
         QVERIFY(write(desktop, road, u"one"_s));
         desktop.stopTray();
@@ -100,8 +100,8 @@ private Q_SLOTS:
     {
         PrivateDesktop desktop({.hasTray = false});
         Road road(desktop, m_program);
-        road.start({u"--hidden"_s}); // as at login, the very first time
-        QTest::qWait(2500);          // a tray has been given up
+        road.start({u"--hidden"_s});
+        QTest::qWait(2500); // a tray has been given up
         QVERIFY(!road.panel());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
@@ -115,7 +115,7 @@ private Q_SLOTS:
         PrivateDesktop desktop({});
         auto server = std::make_unique<NotificationRecorder>(desktop.busAddress());
         Road road(desktop, m_program);
-        road.start();
+        road.start({u"--hidden"_s});
         QVERIFY(road.waitForTrayIcon());
         server.reset();
         QVERIFY(write(desktop, road, u"one"_s));
