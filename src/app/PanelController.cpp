@@ -93,6 +93,8 @@ const QWindow *PanelController::openWindow() const
 void PanelController::open()
 {
     prepare();
+    // A window manager may call it iconic while another workspace is shown, and Qt would show it so.
+    m_window->setWindowState(Qt::WindowNoState);
     if (isOpen()) {
         m_window->raise();
         m_window->activateWindow();
@@ -104,10 +106,8 @@ void PanelController::open()
         X11::keepOutOfTaskbars(*m_window->windowHandle());
     m_window->show();
     m_window->activateWindow();
-    // When it has been closed just now, Qt still takes it for the window with the focus and would not hear
-    // that it gets it again.
     if (QGuiApplication::focusWindow() == m_window->windowHandle())
-        QApplication::setActiveWindow(m_window.get());
+        m_window->expectFocusAgain();
     Q_EMIT m_content->state().panelDidToggle();
 }
 
@@ -145,9 +145,7 @@ void PanelController::place()
     const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
     const QRect icon = m_iconPlace();
     QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
-    // Until the tray has taken it in, it says that it is in the very corner.
-    const bool isKnown = !icon.isEmpty() && icon.topLeft() != screen->geometry().topLeft()
-                         && screen->geometry().contains(icon.center());
+    const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
     m_place = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
         std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height()))};

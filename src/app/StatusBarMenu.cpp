@@ -8,8 +8,11 @@
 #include <QApplication>
 #include <QMenu>
 #include <QSystemTrayIcon>
+#include <QTimer>
 
 namespace {
+constexpr std::chrono::seconds aWhile{2};
+
 QIcon icon(TrayHost::Kind kind)
 {
     // An XEmbed tray tells nobody its colour: a light drawing with a dark edge can be seen on any. Other
@@ -37,7 +40,9 @@ void StatusBarMenu::install()
 
 QRect StatusBarMenu::iconPlace() const
 {
-    return m_icon ? m_icon->geometry() : QRect();
+    const QRect place = m_icon ? m_icon->geometry() : QRect();
+    // Until the tray has taken it in, it says that it is in the very corner.
+    return place.topLeft().isNull() ? QRect() : place;
 }
 
 void StatusBarMenu::makeIcon(TrayHost::Kind kind)
@@ -58,5 +63,15 @@ void StatusBarMenu::makeIcon(TrayHost::Kind kind)
                 Q_EMIT clicked();
         });
     m_icon->show();
+    if (kind == TrayHost::Kind::XEmbed) {
+        // Started right after it was killed, its window bears the number of the one before, and a tray that
+        // has not noticed yet leaves it alone.
+        QTimer::singleShot(aWhile, this, [this] {
+            if (iconPlace().isEmpty()) {
+                m_icon->hide();
+                m_icon->show();
+            }
+        });
+    }
     Q_EMIT shown();
 }

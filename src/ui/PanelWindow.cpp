@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     , m_content(content)
@@ -23,10 +25,7 @@ PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
     layout->addWidget(m_content);
     qApp->installEventFilter(this);
 
-    // A grabbed key takes the focus for a moment and gives it back.
-    constexpr std::chrono::milliseconds moment{50};
     m_focusCheck.setSingleShot(true);
-    m_focusCheck.setInterval(moment);
     connect(&m_focusCheck, &QTimer::timeout, this, &PanelWindow::checkFocus);
 }
 
@@ -56,10 +55,19 @@ void PanelWindow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange)
         return;
+    // A grabbed key takes the focus for a moment and gives it back.
+    constexpr std::chrono::milliseconds moment{50};
     if (isActiveWindow())
         m_focusCheck.stop();
     else if (isVisible()) // on Wayland a window hears of it after it was closed
-        m_focusCheck.start();
+        m_focusCheck.start(std::max(moment, std::chrono::milliseconds(m_reopening.remainingTime())));
+}
+
+void PanelWindow::expectFocusAgain()
+{
+    constexpr std::chrono::seconds patience{1};
+    m_reopening.setRemainingTime(patience);
+    QApplication::setActiveWindow(this);
 }
 
 void PanelWindow::hideEvent(QHideEvent *event)

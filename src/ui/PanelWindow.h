@@ -2,6 +2,7 @@
 
 #include "ui/FloatingFrame.h"
 
+#include <QDeadlineTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -19,6 +20,9 @@ public:
     [[nodiscard]] const FloatingFrame &frame() const { return m_frame; }
     /// Gives the content back, for another window.
     void releaseContent();
+    /// To be called where it is shown again right after it was closed. Qt still takes it for the window with
+    /// the focus: it would not hear that it gets it again, and hears late that it lost it.
+    void expectFocusAgain();
 
 Q_SIGNALS:
     void escaped();   ///< Escape, with nothing left to undo within the panel
@@ -37,5 +41,6 @@ private:
 
     ContentView *m_content = nullptr;
     QTimer m_focusCheck;
+    QDeadlineTimer m_reopening; ///< until the window manager has had its time
     FloatingFrame m_frame;
 };

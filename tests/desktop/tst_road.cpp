@@ -176,6 +176,7 @@ private Q_SLOTS:
         road.start();
         QVERIFY(road.waitForTrayIcon());
         desktop.screen().moveToAnotherKey(Keysym::space);
+        QTest::qWait(500); // who has changed the keyboard map types no sooner
         for (const bool opens : {true, false}) {
             road.pressHotKey();
             QVERIFY(road.waitForPanel(opens));
@@ -226,6 +227,7 @@ private Q_SLOTS:
         // Above a window that fills the screen.
         screen.openFullScreenWindow();
         QTRY_COMPARE(screen.screenshot(QRect(icon, QSize(1, 1))).pixel(0, 0), qRgb(0, 0, 0));
+        QTRY_VERIFY(screen.isFullScreenWindowFocused());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
         const QRect middle(road.panel()->center(), QSize(1, 1));
@@ -239,7 +241,7 @@ private Q_SLOTS:
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
         screen.goToDesktop(0);
-        QTest::qWait(200);
+        QTest::qWait(500);
         QVERIFY(!road.panel());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
@@ -254,6 +256,7 @@ private Q_SLOTS:
         road.start();
         QVERIFY(road.waitForTrayIcon());
         desktop.screen().openFullScreenWindow();
+        QTRY_VERIFY(desktop.screen().isFullScreenWindowFocused());
         desktop.screen().goToDesktop(1); // away from that window, which can take the focus all the same
         QTest::qWait(200);
         desktop.screen().click(road.trayIcon()->center());

@@ -227,6 +227,13 @@ void XServer::focusFullScreenWindow()
     tellWindowManager(m_fullScreenWindow, "_NET_ACTIVE_WINDOW", fromPager);
 }
 
+bool XServer::isFullScreenWindowFocused() const
+{
+    const auto reply =
+        owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply && reply->focus == m_fullScreenWindow;
+}
+
 void XServer::goToDesktop(std::uint32_t number)
 {
     tellWindowManager(m_root, "_NET_CURRENT_DESKTOP", number);

@@ -51,6 +51,7 @@ public:
     void goToDesktop(std::uint32_t number);
     /// Another client takes the focus, as by a click on its window.
     void focusFullScreenWindow();
+    [[nodiscard]] bool isFullScreenWindowFocused() const;
 
     /// Takes the key combination for itself, so that nobody else can have it.
     void grabHotKey();
