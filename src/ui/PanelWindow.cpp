@@ -57,10 +57,13 @@ void PanelWindow::changeEvent(QEvent *event)
         return;
     // A grabbed key takes the focus for a moment and gives it back.
     constexpr std::chrono::milliseconds moment{50};
-    if (isActiveWindow())
+    if (isActiveWindow()) {
+        if (m_focusCheck.isActive())
+            m_reopening = QDeadlineTimer(); // the next loss is a real one
         m_focusCheck.stop();
-    else if (isVisible()) // on Wayland a window hears of it after it was closed
+    } else if (isVisible()) { // on Wayland a window hears of it after it was closed
         m_focusCheck.start(std::max(moment, std::chrono::milliseconds(m_reopening.remainingTime())));
+    }
 }
 
 void PanelWindow::expectFocusAgain()

@@ -240,6 +240,7 @@ private Q_SLOTS:
         QTest::qWait(200);
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
+        QTest::qWait(200); // and has the focus
         screen.goToDesktop(0);
         QTest::qWait(500);
         QVERIFY(!road.panel());
