@@ -246,6 +246,16 @@ private Q_SLOTS:
         QVERIFY(!road.panel());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
+
+        // As some window managers call what is on another workspace.
+        for (const XServer::Window &window : screen.windowsOfClass(u"Quillet"_s)) {
+            if (window.frame == road.panel())
+                screen.iconify(window.id);
+        }
+        QVERIFY(road.waitForPanel(false));
+        QTest::qWait(500);
+        road.pressHotKey();
+        QVERIFY(road.waitForPanel(true));
         road.stop();
     }
 

@@ -234,6 +234,12 @@ bool XServer::isFullScreenWindowFocused() const
     return reply && reply->focus == m_fullScreenWindow;
 }
 
+void XServer::iconify(std::uint32_t window)
+{
+    constexpr std::uint32_t iconic = 3;
+    tellWindowManager(window, "WM_CHANGE_STATE", iconic);
+}
+
 void XServer::goToDesktop(std::uint32_t number)
 {
     tellWindowManager(m_root, "_NET_CURRENT_DESKTOP", number);

@@ -52,6 +52,7 @@ public:
     /// Another client takes the focus, as by a click on its window.
     void focusFullScreenWindow();
     [[nodiscard]] bool isFullScreenWindowFocused() const;
+    void iconify(std::uint32_t window);
 
     /// Takes the key combination for itself, so that nobody else can have it.
     void grabHotKey();
