@@ -1,7 +1,7 @@
 // A reminder always says something, on a full minute; a date stands where the detector says.
 #include "FuzzInput.h"
-#include "reminders/DateDetector.h"
 #include "reminders/ReminderDetector.h"
+#include "reminders/dates/DateDetector.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -4,7 +4,7 @@
 #include "desktop/DesktopNotificationCenter.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
-#include "ui/PanelState.h"
+#include "ui/panel/PanelState.h"
 
 #include <QUuid>
 

@@ -2,9 +2,9 @@
 
 #include "desktop/Compositor.h"
 #include "desktop/X11.h"
-#include "ui/ContentView.h"
-#include "ui/Design.h"
-#include "ui/PanelWindow.h"
+#include "ui/looks/Design.h"
+#include "ui/panel/ContentView.h"
+#include "ui/panel/PanelWindow.h"
 
 #include <QApplication>
 #include <QCursor>

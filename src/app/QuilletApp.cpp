@@ -1,9 +1,9 @@
 #include "app/QuilletApp.h"
 
 #include "desktop/ApplicationIdentity.h"
-#include "ui/ContentView.h"
-#include "ui/ImportExport.h"
-#include "ui/NoteStyle.h"
+#include "ui/dialogs/ImportExport.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/panel/ContentView.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -10,7 +10,7 @@
 #include "foundation/Clock.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
-#include "reminders/DateDetector.h"
+#include "reminders/dates/DateDetector.h"
 #include "search/ConceptEmbeddingProvider.h"
 
 #include <QObject>

@@ -2,8 +2,8 @@
 
 #include "desktop/ApplicationIdentity.h"
 #include "text/L10n.h"
-#include "ui/MenuLooks.h"
-#include "ui/Symbol.h"
+#include "ui/looks/MenuLooks.h"
+#include "ui/looks/Symbol.h"
 
 #include <QApplication>
 #include <QMenu>

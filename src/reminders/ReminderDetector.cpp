@@ -1,7 +1,7 @@
 #include "reminders/ReminderDetector.h"
 
 #include "reminders/LanguageDetection.h"
-#include "reminders/ReminderParser.h"
+#include "reminders/grammar/ReminderParser.h"
 
 #include <algorithm>
 

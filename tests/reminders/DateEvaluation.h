@@ -1,10 +1,10 @@
 #pragma once
 
 #include "foundation/DateFormat.h"
-#include "reminders/DateDetector.h"
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
-#include "reminders/ReminderParser.h"
+#include "reminders/dates/DateDetector.h"
+#include "reminders/grammar/ReminderParser.h"
 #include "support/TestClock.h"
 #include "support/TestFiles.h"
 

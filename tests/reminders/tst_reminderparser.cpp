@@ -1,6 +1,6 @@
 // now is Monday 2026-03-02 10:00 in Asia/Shanghai, unless a row says otherwise
 #include "reminders/ReminderDetector.h"
-#include "reminders/ReminderParser.h"
+#include "reminders/grammar/ReminderParser.h"
 #include "support/NoDateDetector.h"
 #include "support/TestClock.h"
 

@@ -1,7 +1,7 @@
 // That everybody can read the panel, and have it read to them.
-#include "ui/FloatingFrame.h"
-#include "ui/NoteStyle.h"
 #include "ui/TestPanel.h"
+#include "ui/looks/FloatingFrame.h"
+#include "ui/looks/NoteStyle.h"
 
 #include <QAccessible>
 #include <QMetaEnum>

@@ -1,11 +1,11 @@
 // The panel's modes and what can be done in each. Now is Monday 2026-03-02 10:00 in Asia/Shanghai.
-#include "ui/FileDialogs.h"
-#include "ui/ImportExport.h"
-#include "ui/ModalQuestion.h"
-#include "ui/RowDelegate.h"
-#include "ui/SuggestionList.h"
-#include "ui/TagRenameState.h"
 #include "ui/TestPanel.h"
+#include "ui/composer/SuggestionList.h"
+#include "ui/dialogs/FileDialogs.h"
+#include "ui/dialogs/ImportExport.h"
+#include "ui/dialogs/ModalQuestion.h"
+#include "ui/lists/RowDelegate.h"
+#include "ui/lists/TagRenameState.h"
 
 #include <QClipboard>
 #include <QComboBox>

@@ -4,7 +4,7 @@
 #include "search/ConceptEmbeddingProvider.h"
 #include "support/RecordingScheduler.h"
 #include "support/TestClock.h"
-#include "ui/TimelineModel.h"
+#include "ui/lists/TimelineModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

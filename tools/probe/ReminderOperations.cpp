@@ -1,10 +1,10 @@
 #include "probe/Arguments.h"
 #include "probe/Operations.h"
 
-#include "reminders/DateDetector.h"
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
-#include "reminders/ReminderParser.h"
+#include "reminders/dates/DateDetector.h"
+#include "reminders/grammar/ReminderParser.h"
 
 using namespace Qt::StringLiterals;
 

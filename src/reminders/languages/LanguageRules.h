@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Regex.h"
-#include "reminders/DateWords.h"
+#include "reminders/dates/DateWords.h"
 
 #include <QStringView>
 

@@ -1,0 +1,106 @@
+#include "ui/composer/ComposerField.h"
+
+#include "ui/looks/MenuLooks.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace {
+bool isLineBreak(QChar character)
+{
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator
+           || character == QChar::ParagraphSeparator;
+}
+} // namespace
+
+void ComposerField::replaceAll(const QString &text)
+{
+    // What is inserted loses its line breaks, and a note that has some keeps them while it is edited.
+    if (text.isEmpty() || std::none_of(text.begin(), text.end(), isLineBreak)) {
+        selectAll();
+        insert(text);
+    } else {
+        setText(text);
+    }
+}
+
+void ComposerField::inputMethodEvent(QInputMethodEvent *event)
+{
+    m_isComposing = !event->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+}
+
+void ComposerField::keyPressEvent(QKeyEvent *event)
+{
+    if (m_isComposing)
+        return;
+    if (event->matches(QKeySequence::Paste))
+        pasteAsOneLine();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void ComposerField::insertAsOneLine(const QString &text)
+{
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !isLineBreak(text[i]))
+            continue;
+        if (i > start)
+            lines.append(text.sliced(start, i - start));
+        start = i + 1;
+    }
+    insert(lines.join(u' '));
+}
+
+void ComposerField::pasteAsOneLine()
+{
+    insertAsOneLine(QGuiApplication::clipboard()->text());
+}
+
+void ComposerField::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction *action : menu->actions()) {
+        if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+            action->disconnect(this);
+            connect(action, &QAction::triggered, this, &ComposerField::pasteAsOneLine);
+        }
+    }
+    MenuLooks::dress(*menu);
+    menu->popup(event->globalPos());
+}
+
+void ComposerField::dropEvent(QDropEvent *event)
+{
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    insertAsOneLine(event->mimeData()->text());
+    event->acceptProposedAction();
+}
+
+void ComposerField::mouseReleaseEvent(QMouseEvent *event)
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    insertAsOneLine(clipboard->text(QClipboard::Selection));
+}
+
+void ComposerField::focusOutEvent(QFocusEvent *event)
+{
+    m_isComposing = false; // the input method gives up, or commits, what it had
+    QLineEdit::focusOutEvent(event);
+}

@@ -1,0 +1,266 @@
+#include "ui/composer/ComposerView.h"
+
+#include "foundation/Clock.h"
+#include "model/NoteStore.h"
+#include "reminders/ReminderDetector.h"
+#include "text/L10n.h"
+#include "text/LocalFile.h"
+#include "text/PageTitleFetching.h"
+#include "text/WebLink.h"
+#include "ui/composer/ComposerBar.h"
+#include "ui/composer/ComposerField.h"
+#include "ui/composer/ReminderBar.h"
+#include "ui/composer/SuggestionList.h"
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/panel/PanelState.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <limits>
+
+ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector,
+    PageTitleFetching &titles, const Clock &clock, QWidget *parent)
+    : QWidget(parent)
+    , m_store(store)
+    , m_state(state)
+    , m_detector(detector)
+    , m_titles(titles)
+    , m_clock(clock)
+    , m_suggestions(new SuggestionList(m_completion, this))
+    , m_quoteBar(new ComposerBar(QStringLiteral("text.quote"), L10n::text("取消引用"), this))
+    , m_reminderBar(new ReminderBar(clock, this))
+    , m_field(new ComposerField(this))
+{
+    m_quoteBar->setObjectName(QStringLiteral("quoteBar"));
+    m_field->setObjectName(QStringLiteral("composerField"));
+    m_field->setFrame(false);
+    m_field->setFont(NoteStyle::font());
+    m_field->setFixedHeight(Design::fieldHeight);
+    m_field->setMaxLength(std::numeric_limits<int>::max()); // what was pasted is never cut silently
+    QPalette colors = m_field->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    m_field->setPalette(colors);
+    setFocusProxy(m_field);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, Design::edge);
+    layout->setSpacing(0);
+    layout->addWidget(m_suggestions);
+    layout->addWidget(m_quoteBar);
+    layout->addWidget(m_reminderBar);
+    auto *capsule = new QHBoxLayout;
+    capsule->setContentsMargins(2 * Design::edge, 0, 2 * Design::edge, 0);
+    capsule->addWidget(m_field);
+    layout->addLayout(capsule);
+    updatePlaceholder();
+
+    connect(m_field, &QLineEdit::textChanged, &m_state, &PanelState::setDraft);
+    m_field->installEventFilter(this);
+    connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
+    connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
+    connect(m_quoteBar, &ComposerBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
+    connect(m_reminderBar, &ReminderBar::dismissed, this, [this] {
+        m_suppressReminder = true;
+        updateReminderPreview();
+    });
+    connect(&m_state, &PanelState::draftChanged, this, &ComposerView::draftDidChange);
+    connect(&m_state, &PanelState::editingIDChanged, this, [this] {
+        updatePlaceholder();
+        updateReminderPreview();
+    });
+    connect(&m_state, &PanelState::quotingChanged, this, &ComposerView::updateQuoteBar);
+    connect(&m_state, &PanelState::modeChanged, this, [this] {
+        updatePlaceholder();
+        updateCompletion();
+        updateQuoteBar();
+        updateReminderPreview();
+    });
+    connect(&m_state, &PanelState::panelDidToggle, m_field, qOverload<>(&QLineEdit::setFocus));
+    connect(&m_state, &PanelState::focusComposer, this, &ComposerView::focusAtEnd);
+    connect(&m_state, &PanelState::clearComposer, this, [this] { m_state.setDraft({}); });
+}
+
+bool ComposerView::isFilterOnly() const
+{
+    return m_state.mode() == PanelMode::Tags;
+}
+
+void ComposerView::draftDidChange()
+{
+    const QString &draft = m_state.draft();
+    if (m_field->text() != draft)
+        m_field->replaceAll(draft);
+    if (draft.isEmpty()) {
+        m_state.setEditingID({});
+        m_state.setQuoting({});
+        m_suppressReminder = false;
+    }
+    updateCompletion();
+    updateReminderPreview();
+}
+
+// Tags that are offered
+
+void ComposerView::updateCompletion()
+{
+    if (isFilterOnly())
+        m_completion.dismiss();
+    else
+        m_completion.update(m_state.draft(), m_field->cursorPosition(), m_store.tags());
+}
+
+void ComposerView::applyCandidate(const QString &candidate)
+{
+    const auto applied = m_completion.apply(candidate, m_state.draft());
+    if (!applied)
+        return;
+    m_state.setDraft(applied->text);
+    // The field takes the new draft first.
+    QTimer::singleShot(
+        0, m_field, [field = m_field, cursor = applied->cursor] { field->setCursorPosition(int(cursor)); });
+}
+
+bool ComposerView::eventFilter(QObject *watched, QEvent *event)
+{
+    // While an input method composes, the keys are its own.
+    if (event->type() == QEvent::KeyPress && !isComposing()
+        && handleKey(static_cast<QKeyEvent *>(event)->key()))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool ComposerView::handleKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!m_completion.isActive())
+            return false;
+        if (const auto candidate = m_completion.selectedCandidate())
+            applyCandidate(*candidate);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (m_completion.isActive())
+            m_completion.moveSelection(key == Qt::Key_Up ? -1 : 1);
+        else
+            Q_EMIT walkedAway();
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The bars
+
+void ComposerView::updateQuoteBar()
+{
+    const auto &quoting = m_state.quoting();
+    if (quoting)
+        m_quoteBar->setText(quoting->text);
+    m_quoteBar->setVisible(quoting && !isFilterOnly());
+}
+
+void ComposerView::timeDidPass()
+{
+    updateReminderPreview();
+}
+
+std::optional<ParsedReminder> ComposerView::detectedReminder() const
+{
+    return ReminderDetector::detect(m_state.draft(), m_clock.now(), m_clock.calendar(), m_detector);
+}
+
+void ComposerView::updateReminderPreview()
+{
+    const bool isOff = isFilterOnly() || m_state.editingID() || m_suppressReminder;
+    m_reminderBar->setPreview(isOff ? std::nullopt : detectedReminder());
+}
+
+bool ComposerView::isComposing() const
+{
+    return m_field->isComposing();
+}
+
+void ComposerView::submit()
+{
+    if (isFilterOnly())
+        return;
+    // The order of the cases is the order in which they win.
+    const QString draft = m_state.draft();
+    if (const auto editingID = m_state.editingID()) {
+        m_store.update(*editingID, draft);
+        m_state.setEditingID({});
+    } else if (m_state.quoting()) {
+        m_store.add(draft, m_state.quoting());
+    } else if (const auto address = WebLink::detect(draft)) {
+        addWebLink(draft, *address);
+    } else if (const auto path = LocalFile::detect(draft)) {
+        addFileLink(*path);
+    } else {
+        std::optional<ParsedReminder> reminder;
+        if (!m_suppressReminder)
+            reminder = detectedReminder();
+        // A time that has passed makes a plain note, as the bar says.
+        if (reminder && reminder->fireAt <= m_clock.now())
+            reminder.reset();
+        m_store.add(draft, {}, {}, reminder);
+    }
+    m_state.setQuoting({});
+    m_field->setText({}); // and not to be taken back, since it is a note now
+    m_suppressReminder = false;
+}
+
+void ComposerView::addWebLink(const QString &draft, const QString &address)
+{
+    const auto note = m_store.add(draft, {}, address);
+    // For the store, which is there however long the page takes and whatever becomes of the panel.
+    m_titles.fetchTitle(address, &m_store, [&store = m_store, note = *note](const auto &title) {
+        if (title)
+            store.applyLinkTitle(*title, note.id, note.text);
+    });
+}
+
+void ComposerView::addFileLink(const QString &path)
+{
+    const QString name = QFileInfo(QDir::cleanPath(path)).fileName();
+    m_store.add(name.isEmpty() ? path : name, {}, QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded()));
+}
+
+void ComposerView::updatePlaceholder()
+{
+    if (isFilterOnly())
+        m_field->setPlaceholderText(L10n::text("输入即筛选标签"));
+    else if (m_state.editingID())
+        m_field->setPlaceholderText(L10n::text("编辑中，回车保存修改"));
+    else
+        m_field->setPlaceholderText(L10n::text("输入即筛选，回车保存"));
+    m_field->setAccessibleName(m_field->placeholderText());
+}
+
+void ComposerView::focusAtEnd()
+{
+    m_field->setFocus();
+    // The field takes the new draft first.
+    QTimer::singleShot(0, m_field, [field = m_field] { field->end(false); });
+}
+
+void ComposerView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_capsule.paint(painter, *this, Qt::transparent, [this](QPainter &picture) {
+        const QRectF capsule = QRectF(m_field->geometry())
+                                   .adjusted(-Design::edge, 0, Design::edge, 0)
+                                   .adjusted(0.5, 0.5, -0.5, -0.5);
+        picture.setPen(NoteStyle::hairline(palette()));
+        picture.setBrush(NoteStyle::fieldColor(palette()));
+        picture.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
+    });
+}

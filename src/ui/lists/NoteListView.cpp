@@ -1,0 +1,180 @@
+#include "ui/lists/NoteListView.h"
+
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "text/L10n.h"
+#include "ui/lists/RelatedNotesView.h"
+#include "ui/lists/RowListAccessible.h"
+#include "ui/lists/TimelineModel.h"
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/panel/PanelState.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTimer>
+#include <QUrl>
+
+NoteListView::NoteListView(
+    NoteStore &notes, ReminderStore &reminders, PanelState &state, TimelineModel &timeline, QWidget *parent)
+    : RowListView(timeline, parent)
+    , m_notes(notes)
+    , m_reminders(reminders)
+    , m_state(state)
+    , m_timeline(timeline)
+{
+    RowListAccessible::install(); // for the panel's other lists too, which are made after this one
+    setObjectName(QStringLiteral("timeline"));
+    setAccessibleName(L10n::text("笔记"));
+    connect(&m_state, &PanelState::draftChanged, this, &NoteListView::queryDidChange);
+    connect(&m_state, &PanelState::jumpTargetIDChanged, this, &NoteListView::jumpToExternalTarget);
+    connect(&m_state, &PanelState::editingIDChanged, viewport(), qOverload<>(&QWidget::update));
+    queryDidChange();
+    jumpToExternalTarget();
+}
+
+void NoteListView::queryDidChange()
+{
+    if (m_timeline.query() == m_state.draft())
+        return;
+    m_timeline.setQuery(m_state.draft());
+    forgetHeights(); // the hits in the rows that stay are others
+    verticalScrollBar()->setValue(0);
+}
+
+RowListView::EmptyState NoteListView::emptyState() const
+{
+    const bool isBlank = m_state.draft().trimmed().isEmpty();
+    if (isBlank)
+        return {QStringLiteral("menubar"), L10n::text("还没有笔记，写下第一条吧")};
+    return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记")};
+}
+
+// What can be done with a note
+
+void NoteListView::activate(int row)
+{
+    const Note note = m_timeline.note(row);
+    m_state.setDraft(note.text);
+    m_state.setEditingID(note.id);
+    m_state.setQuoting({});
+    Q_EMIT m_state.focusComposer();
+}
+
+void NoteListView::quote(const Note &note)
+{
+    m_state.setQuoting(note);
+    m_state.setEditingID({});
+    Q_EMIT m_state.focusComposer();
+}
+
+void NoteListView::copy(int row)
+{
+    QGuiApplication::clipboard()->setText(m_timeline.row(row).text);
+}
+
+void NoteListView::remove(int row)
+{
+    m_notes.remove(m_timeline.row(row).id);
+}
+
+void NoteListView::clickPart(int row, RowPart part)
+{
+    const Note note = m_timeline.note(row);
+    switch (part.kind) {
+    case RowPart::Kind::Quote:
+        jumpToQuoted(note);
+        break;
+    case RowPart::Kind::Link:
+        QDesktopServices::openUrl(QUrl(*note.link));
+        break;
+    case RowPart::Kind::Symbol:
+        if (m_timeline.actions(row).value(part.symbol) == TimelineModel::Action::JumpToReply)
+            jumpToReply(note);
+        break;
+    case RowPart::Kind::Body:
+    case RowPart::Kind::None:
+        break;
+    }
+}
+
+void NoteListView::fillMenu(QMenu &menu, int row)
+{
+    const Note note = m_timeline.note(row);
+    menu.addAction(L10n::text("引用"), this, [this, note] { quote(note); });
+    menu.addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
+    menu.addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
+    menu.addSeparator();
+    if (m_reminders.hasReminder(note.id))
+        menu.addAction(L10n::text("取消提醒"), this, [this, note] { m_reminders.cancelForNote(note.id); });
+    menu.addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
+}
+
+QColor NoteListView::groundOf(int row) const
+{
+    if (m_timeline.isHeader(row))
+        return {};
+    const QUuid id = m_timeline.row(row).id;
+    if (id == m_flashID)
+        return NoteStyle::flash(palette());
+    return id == m_state.editingID() ? NoteStyle::editing(palette()) : QColor();
+}
+
+void NoteListView::showRelated(const Note &note)
+{
+    const QRect row = visualRect(m_timeline.indexOf(note.id));
+    auto *related = new RelatedNotesView(m_notes, note, this);
+    connect(related, &RelatedNotesView::selected, this, [this](QUuid id) { scrollAndFlash(id, false); });
+    related->popUp({viewport()->mapToGlobal(row.topLeft()), row.size()});
+}
+
+// Jumps
+
+void NoteListView::jumpToExternalTarget()
+{
+    if (const auto target = m_state.jumpTargetID())
+        scrollAndFlash(*target, true);
+}
+
+void NoteListView::jumpToQuoted(const Note &note)
+{
+    if (note.quoteID && m_notes.note(*note.quoteID))
+        scrollAndFlash(*note.quoteID, false);
+}
+
+void NoteListView::jumpToReply(const Note &note)
+{
+    if (const auto reply = m_notes.latestReply(note.id))
+        scrollAndFlash(reply->id, false);
+}
+
+void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
+{
+    const auto jump = [this, noteID, clearsExternalTarget] {
+        const QModelIndex index = m_timeline.indexOf(noteID);
+        if (index.isValid())
+            scrollTo(index, PositionAtCenter);
+        setFlashID(noteID);
+        if (clearsExternalTarget)
+            m_state.setJumpTargetID({});
+        QTimer::singleShot(Design::flashDuration, this, [this, noteID] {
+            if (flashID() == noteID)
+                setFlashID({});
+        });
+    };
+    if (m_timeline.indexOf(noteID).isValid()) {
+        jump();
+        return;
+    }
+    m_state.setDraft({});
+    QTimer::singleShot(0, this, jump);
+}
+
+void NoteListView::setFlashID(std::optional<QUuid> id)
+{
+    m_flashID = id;
+    viewport()->update();
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/lists/RowListView.h"
+
+#include <QUuid>
+
+#include <optional>
+
+class NoteStore;
+class PanelState;
+class ReminderStore;
+class TimelineModel;
+struct Note;
+
+/// The timeline: the notes by day, filtered by the draft, and what can be done with each.
+class NoteListView final : public RowListView
+{
+    Q_OBJECT
+
+public:
+    NoteListView(NoteStore &notes, ReminderStore &reminders, PanelState &state, TimelineModel &model,
+        QWidget *parent = nullptr);
+
+    /// Scrolls the note into the middle and lights it up for a moment. A draft that hides the note is cleared
+    /// first.
+    void scrollAndFlash(QUuid noteID, bool clearsExternalTarget);
+    [[nodiscard]] std::optional<QUuid> flashID() const { return m_flashID; }
+
+    [[nodiscard]] EmptyState emptyState() const override;
+
+protected:
+    void activate(int row) override; ///< edits the note
+    void clickPart(int row, RowPart part) override;
+    void remove(int row) override;
+    void copy(int row) override;
+    void fillMenu(QMenu &menu, int row) override;
+    [[nodiscard]] QColor groundOf(int row) const override;
+
+private:
+    void queryDidChange();
+    void quote(const Note &note);
+    void showRelated(const Note &note);
+    void jumpToExternalTarget();
+    void jumpToQuoted(const Note &note);
+    void jumpToReply(const Note &note);
+    void setFlashID(std::optional<QUuid> id);
+
+    NoteStore &m_notes;
+    ReminderStore &m_reminders;
+    PanelState &m_state;
+    TimelineModel &m_timeline;
+    std::optional<QUuid> m_flashID;
+};

@@ -1,0 +1,122 @@
+#include "ui/lists/RelatedNotesView.h"
+
+#include "model/NoteStore.h"
+#include "text/L10n.h"
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+constexpr qsizetype mostRelated = 5;
+
+/// One line of a note's text that fills the width it is given.
+class RelatedNoteButton final : public QPushButton
+{
+public:
+    RelatedNoteButton(const QString &text, QWidget *parent)
+        : QPushButton(parent)
+        , m_text(text.simplified())
+    {
+        setAccessibleName(m_text);
+        setFixedHeight(Design::fieldHeight);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        if (underMouse() || hasFocus() || isDown()) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(isDown() ? NoteStyle::flash(palette()) : NoteStyle::editing(palette()));
+            painter.drawRoundedRect(rect(), 2 * Design::grid, 2 * Design::grid);
+        }
+        const QRect place = rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0);
+        painter.setFont(NoteStyle::font());
+        painter.setPen(NoteStyle::color(palette()));
+        painter.drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,
+            painter.fontMetrics().elidedText(m_text, Qt::ElideRight, place.width()));
+    }
+
+private:
+    QString m_text;
+};
+
+/// What shines through the parent's window shines through one on top of it.
+FloatingFrame::Backdrop backdropOf(const QWidget &parent)
+{
+    return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingFrame::Backdrop::Sharp
+                                                                        : FloatingFrame::Backdrop::None;
+}
+
+QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(font);
+    label->setIndent(2 * Design::grid);
+    label->setFixedHeight(Design::headerHeight);
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, color);
+    label->setPalette(colors);
+    return label;
+}
+} // namespace
+
+RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWidget *parent)
+    : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
+    , m_frame(*this, backdropOf(*parent), {Design::popoverRadius, Design::popoverShadow, true})
+{
+    setObjectName(QStringLiteral("relatedNotes"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAccessibleName(L10n::text("相关笔记"));
+    setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * m_frame.margin());
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(
+        QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + m_frame.margin());
+    layout->setSpacing(0);
+    layout->addWidget(
+        label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
+    const QList<Note> related = store.relatedNotes(note, mostRelated);
+    if (related.isEmpty()) {
+        layout->addWidget(
+            label(L10n::text("暂无相关笔记"), NoteStyle::font(), NoteStyle::metaColor(palette()), this));
+    }
+    for (const Note &each : related) {
+        auto *button = new RelatedNoteButton(each.text, this);
+        connect(button, &QPushButton::clicked, this, [this, id = each.id] {
+            close();
+            Q_EMIT selected(id);
+        });
+        layout->addWidget(button);
+    }
+}
+
+void RelatedNotesView::popUp(const QRect &place)
+{
+    adjustSize();
+    const int margin = m_frame.margin();
+    const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin);
+    const bool fitsBelow = place.bottom() + 1 - margin + height() <= available.bottom();
+    move(std::clamp(place.left() + Design::edge - margin, available.left(), available.right() - width()),
+        fitsBelow ? place.bottom() + 1 - margin : place.top() - height() + margin);
+    show();
+}
+
+void RelatedNotesView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_frame.windowDidResize();
+}
+
+void RelatedNotesView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_frame.paint(painter);
+}

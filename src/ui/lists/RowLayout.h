@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/lists/RowContent.h"
+
+#include <QRect>
+#include <QTextLayout>
+
+class QPalette;
+
+/// Where the parts of a row stand, and its text broken into lines. The same for measuring, painting and
+/// clicking.
+class RowLayout
+{
+public:
+    /// The palette gives the colours.
+    RowLayout(RowContent content, int width, const QPalette &palette);
+
+    [[nodiscard]] const RowContent &content() const { return m_content; }
+    [[nodiscard]] int height() const { return m_height; }
+
+    // In the row's own coordinates; empty where the row has no such part.
+    [[nodiscard]] QRect leadRect() const { return m_leadRect; }
+    [[nodiscard]] QRect aboveRect() const { return m_aboveRect; }
+    [[nodiscard]] QRect quoteRect() const { return m_quoteRect; }
+    [[nodiscard]] QRect linkRect() const { return m_linkRect; }
+    [[nodiscard]] QRect markerRect() const { return m_markerRect; }
+    [[nodiscard]] QRect trailingRect() const { return m_trailingRect; }
+    [[nodiscard]] QRect symbolRect(qsizetype symbol) const;
+    [[nodiscard]] RowPart partAt(QPoint point) const;
+
+    void drawText(QPainter &painter, QPoint rowOrigin) const;
+
+private:
+    RowContent m_content;
+    QTextLayout m_text;
+    QRect m_leadRect;
+    QRect m_aboveRect;
+    QRect m_quoteRect;
+    QRect m_linkRect;
+    QRect m_markerRect;
+    QRect m_trailingRect;
+    QPoint m_symbols; ///< the first symbol's corner
+    int m_width = 0;
+    int m_height = 0;
+};

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "ui/lists/RowContent.h"
+
+#include <QAbstractListModel>
+
+#include <algorithm>
+#include <iterator>
+
+/// Rows that tell what they show. For those who listen to the screen the display role is a row's text.
+class RowModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    /// While nobody looks at the rows, what changes waits; all is brought up to date once somebody does.
+    void setSeen(bool isSeen)
+    {
+        m_isSeen = isSeen;
+        if (m_isSeen && m_isStale)
+            refreshWhenSeen();
+    }
+
+    [[nodiscard]] virtual RowContent content(int row) const = 0;
+    [[nodiscard]] virtual bool isHeader(int row) const = 0;
+    [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
+            return {};
+        return text(index.row());
+    }
+
+protected:
+    virtual void refresh() = 0; ///< shows what is so now
+    void refreshWhenSeen()
+    {
+        m_isStale = !m_isSeen;
+        if (m_isSeen)
+            refresh();
+    }
+
+private:
+    bool m_isSeen = true;
+    bool m_isStale = false;
+};
+
+/// Rows of one type. What is new is compared with what is shown, and exactly what came, went or changed is
+/// announced. Two rows stand for the same thing, whatever has become of it, where isSameRow(a, b).
+template <typename Row>
+class RowsOf : public RowModel
+{
+public:
+    using RowModel::RowModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_rows.size());
+    }
+    [[nodiscard]] const Row &row(int number) const { return m_rows[number]; }
+    [[nodiscard]] const QList<Row> &rows() const { return m_rows; }
+
+protected:
+    void show(const QList<Row> &rows)
+    {
+        // What stands before and behind the place of a change stays; what lies between comes and goes.
+        const auto isSame = [](const Row &a, const Row &b) { return isSameRow(a, b); };
+        const auto [oldFront, newFront] =
+            std::mismatch(m_rows.cbegin(), m_rows.cend(), rows.cbegin(), rows.cend(), isSame);
+        const auto [oldBack, newBack] =
+            std::mismatch(std::make_reverse_iterator(m_rows.cend()), std::make_reverse_iterator(oldFront),
+                std::make_reverse_iterator(rows.cend()), std::make_reverse_iterator(newFront), isSame);
+        const int front = int(oldFront - m_rows.cbegin());
+        const int removed = int(oldBack.base() - oldFront);
+        const int inserted = int(newBack.base() - newFront);
+
+        QList<int> changed;
+        for (int number = 0; number < rows.size(); ++number) {
+            const bool isInFront = number < front;
+            if ((isInFront || number >= front + inserted)
+                && m_rows[isInFront ? number : number - inserted + removed] != rows[number])
+                changed.append(number);
+        }
+
+        // The rows that stay are brought up to date first: whoever is told of the others may look at them.
+        for (int number = 0; number < front; ++number)
+            m_rows[number] = rows[number];
+        for (int back = 1; back <= rows.size() - front - inserted; ++back)
+            m_rows[m_rows.size() - back] = rows[rows.size() - back];
+        if (removed > 0) {
+            beginRemoveRows({}, front, front + removed - 1);
+            m_rows.remove(front, removed);
+            endRemoveRows();
+        }
+        if (inserted > 0) {
+            beginInsertRows({}, front, front + inserted - 1);
+            m_rows = rows;
+            endInsertRows();
+        }
+        for (const int number : changed)
+            Q_EMIT dataChanged(index(number), index(number));
+    }
+
+private:
+    QList<Row> m_rows;
+};

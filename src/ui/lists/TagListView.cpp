@@ -1,0 +1,183 @@
+#include "ui/lists/TagListView.h"
+
+#include "foundation/CaseFolding.h"
+#include "foundation/Characters.h"
+#include "model/NoteStore.h"
+#include "text/L10n.h"
+#include "ui/dialogs/ModalQuestion.h"
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+
+#include <QLineEdit>
+#include <QMenu>
+
+bool isSameRow(const TagSummary &a, const TagSummary &b)
+{
+    return a.name == b.name;
+}
+
+TagModel::TagModel(NoteStore &notes, QObject *parent)
+    : RowsOf(parent)
+    , m_notes(notes)
+{
+    connect(&m_notes, &NoteStore::notesChanged, this, &TagModel::refreshWhenSeen);
+    TagModel::refresh();
+}
+
+void TagModel::setQuery(const QString &query)
+{
+    m_query = query;
+    refreshWhenSeen();
+}
+
+void TagModel::refresh()
+{
+    const QString query = CaseFolding::folded(m_query.trimmed());
+    QList<TagSummary> shown;
+    for (const TagSummary &summary : m_notes.tagSummaries()) {
+        if (CaseFolding::folded(summary.name).contains(query))
+            shown.append(summary);
+    }
+    show(shown);
+}
+
+QString TagModel::text(int number) const
+{
+    return u'#' + row(number).name;
+}
+
+RowContent TagModel::content(int number) const
+{
+    RowContent content;
+    content.text = text(number);
+    content.query = m_query.trimmed();
+    content.trailing = QString::number(row(number).count);
+    return content;
+}
+
+int TagModel::rowOf(const QString &tag) const
+{
+    for (int number = 0; number < rowCount(); ++number) {
+        if (row(number).name == tag)
+            return number;
+    }
+    return -1;
+}
+
+TagListView::TagListView(NoteStore &notes, TagModel &model, QWidget *parent)
+    : RowListView(model, parent)
+    , m_notes(notes)
+    , m_tags(model)
+{
+    setObjectName(QStringLiteral("tagList"));
+    setAccessibleName(L10n::text("标签"));
+    connect(&m_rename, &TagRenameState::changed, this, &TagListView::editDidChange);
+}
+
+void TagListView::setQuery(const QString &query)
+{
+    m_tags.setQuery(query);
+    forgetHeights();
+}
+
+RowListView::EmptyState TagListView::emptyState() const
+{
+    return {QStringLiteral("number"),
+        m_notes.tagSummaries().isEmpty() ? L10n::text("无标签") : L10n::text("无匹配标签")};
+}
+
+void TagListView::activate(int row)
+{
+    Q_EMIT selected(m_tags.row(row).name);
+}
+
+void TagListView::clickPart(int row, RowPart part)
+{
+    if (part.kind == RowPart::Kind::Body)
+        activate(row);
+}
+
+void TagListView::remove(int row)
+{
+    deleteTag(m_tags.row(row).name);
+}
+
+void TagListView::fillMenu(QMenu &menu, int row)
+{
+    const QString name = m_tags.row(row).name;
+    menu.addAction(L10n::text("重命名"), this, [this, name] { m_rename.setRenaming(name); });
+    menu.addAction(L10n::text("删除"), this, [this, name] { deleteTag(name); });
+}
+
+// Renaming
+
+void TagListView::editDidChange()
+{
+    endEdit();
+    const auto &renaming = m_rename.renaming();
+    if (!renaming || m_tags.rowOf(*renaming) < 0)
+        return;
+    m_editor = new QLineEdit(*renaming, viewport());
+    m_editor->setObjectName(QStringLiteral("tagNameField"));
+    m_editor->setPlaceholderText(L10n::text("标签名"));
+    m_editor->setAccessibleName(m_editor->placeholderText());
+    m_editor->setFont(NoteStyle::font());
+    m_editor->setStyleSheet(
+        QStringLiteral("background: %1; border: 1px solid %2; border-radius: %3px; padding: 0 %3px")
+            .arg(NoteStyle::fieldColor(palette()).name(), NoteStyle::tagColor(palette()).name())
+            .arg(Design::grid));
+    m_editor->selectAll();
+    // Return, or the focus going elsewhere; whichever is first.
+    connect(m_editor, &QLineEdit::editingFinished, this, [this, from = *renaming, editor = m_editor] {
+        if (m_editor == editor)
+            commitRename(from, editor->text());
+    });
+    updateGeometries();
+    m_editor->show();
+    m_editor->setFocus();
+}
+
+void TagListView::endEdit()
+{
+    if (!m_editor)
+        return;
+    QLineEdit *editor = std::exchange(m_editor, nullptr);
+    editor->hide();
+    editor->deleteLater();
+}
+
+void TagListView::updateGeometries()
+{
+    RowListView::updateGeometries();
+    if (!m_editor || !m_rename.renaming())
+        return;
+    const QRect row = visualRect(m_tags.index(m_tags.rowOf(*m_rename.renaming())));
+    m_editor->setGeometry(row.adjusted(Design::edge + 2 * Design::grid, 1, -Design::edge, -1));
+}
+
+void TagListView::commitRename(const QString &from, const QString &to)
+{
+    const QString name = Characters::trimmedOfBlanks(to).toString();
+    m_rename.setRenaming({});
+    if (name.isEmpty() || name.contains(u'#') || name.contains(u'@') || name == from)
+        return;
+    if (m_notes.tags().contains(name)) {
+        const QString message =
+            L10n::text("把「#%@」改名为已存在的「#%@」，涉及 %@ 条笔记，合并后无法再分开。",
+                {from, name, QString::number(m_notes.noteCount(from))});
+        if (!ModalQuestion::confirm(this, L10n::text("合并标签？"), message, L10n::text("合并")))
+            return;
+    }
+    m_notes.renameTag(from, name);
+}
+
+void TagListView::deleteTag(const QString &tag)
+{
+    const QString title = L10n::text("删除标签「#%@」？", QStringList{tag});
+    const QString message = L10n::text(
+        "将从 %@ "
+        "条笔记中移除该标签（含回收站）；时间线中因此变空的笔记会移入回收站。标签文本的改动不可撤销。",
+        QStringList{QString::number(m_notes.noteCount(tag))});
+    if (ModalQuestion::confirm(this, title, message, L10n::text("删除")))
+        m_notes.removeTag(tag);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "model/TagSummary.h"
+#include "ui/lists/RowListView.h"
+#include "ui/lists/RowModel.h"
+#include "ui/lists/TagRenameState.h"
+
+class NoteStore;
+class QLineEdit;
+
+[[nodiscard]] bool isSameRow(const TagSummary &a, const TagSummary &b);
+
+/// The tags whose name contains the query, case aside.
+class TagModel final : public RowsOf<TagSummary>
+{
+    Q_OBJECT
+
+public:
+    explicit TagModel(NoteStore &notes, QObject *parent = nullptr);
+    void setQuery(const QString &query);
+
+    [[nodiscard]] RowContent content(int row) const override;
+    [[nodiscard]] bool isHeader(int) const override { return false; }
+    [[nodiscard]] QString text(int row) const override;
+    [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
+
+private:
+    void refresh() override;
+
+    NoteStore &m_notes;
+    QString m_query;
+};
+
+/// The tags: a click filters the timeline by one; each can be renamed, merged and deleted.
+class TagListView final : public RowListView
+{
+    Q_OBJECT
+
+public:
+    TagListView(NoteStore &notes, TagModel &model, QWidget *parent = nullptr);
+
+    void setQuery(const QString &query);
+    [[nodiscard]] EmptyState emptyState() const override;
+    [[nodiscard]] TagRenameState &renameState() { return m_rename; }
+
+Q_SIGNALS:
+    void selected(const QString &tag);
+
+protected:
+    void activate(int row) override; ///< selects the tag
+    void clickPart(int row, RowPart part) override;
+    void remove(int row) override; ///< asks first
+    void fillMenu(QMenu &menu, int row) override;
+    void updateGeometries() override;
+
+private:
+    void editDidChange();
+    void endEdit();
+    void commitRename(const QString &from, const QString &to);
+    void deleteTag(const QString &tag);
+
+    NoteStore &m_notes;
+    TagModel &m_tags;
+    TagRenameState m_rename;
+    QLineEdit *m_editor = nullptr; ///< over the row of the tag that is being renamed
+    QString m_query;
+};

@@ -1,0 +1,204 @@
+#include "ui/lists/TimelineModel.h"
+
+#include "foundation/Clock.h"
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "text/L10n.h"
+#include "text/NoteFormatting.h"
+
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+using namespace std::chrono_literals;
+constexpr auto untilTheFrameIsShown = 20ms;
+constexpr auto slice = 4ms; ///< of a frame of 16
+constexpr qsizetype mostHits = 20;
+} // namespace
+
+bool isSameRow(const TimelineRow &a, const TimelineRow &b)
+{
+    return a.kind == b.kind && a.id == b.id && a.day == b.day;
+}
+
+bool operator==(const TimelineRow &a, const TimelineRow &b)
+{
+    return isSameRow(a, b) && a.hasReminder == b.hasReminder && a.isRepliedTo == b.isRepliedTo
+           && a.isSemanticOnly == b.isSemanticOnly && a.text == b.text;
+}
+
+TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent)
+    : RowsOf(parent)
+    , m_notes(notes)
+    , m_reminders(reminders)
+    , m_clock(clock)
+    , m_today(clock.calendar().startOfDay(clock.now()))
+{
+    m_searchTimer.setSingleShot(true);
+    connect(&m_searchTimer, &QTimer::timeout, this, &TimelineModel::continueSearch);
+    const auto findReplies = [this] {
+        QSet<QUuid> repliedTo;
+        for (const Note &note : m_notes.notes()) {
+            if (note.quoteID)
+                repliedTo.insert(*note.quoteID);
+        }
+        m_notesDidChange = true; // and with them the places in the rows that are shown
+        m_isRepliedTo.clear();
+        for (const Note &note : m_notes.notes())
+            m_isRepliedTo.push_back(!repliedTo.isEmpty() && repliedTo.contains(note.id));
+        refresh();
+    };
+    const auto findReminded = [this] {
+        m_reminded.clear();
+        for (const Reminder &reminder : m_reminders.reminders())
+            m_reminded.insert(reminder.noteID);
+        refresh();
+    };
+    connect(&m_notes, &NoteStore::notesChanged, this, findReplies);
+    connect(&m_reminders, &ReminderStore::remindersChanged, this, findReminded);
+    findReplies();
+    findReminded();
+}
+
+TimelineModel::~TimelineModel() = default;
+
+void TimelineModel::setQuery(const QString &query)
+{
+    m_query = query;
+    refresh();
+}
+
+void TimelineModel::timeDidPass()
+{
+    const Instant today = m_clock.calendar().startOfDay(m_clock.now());
+    if (today == m_today)
+        return;
+    m_today = today;
+    refresh(); // a change of the zone moves notes to other days
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+void TimelineModel::appendNote(
+    QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const
+{
+    const Note &note = m_notes.notes()[place];
+    rows.append({TimelineRow::Kind::Note, day, note.id, note.text, place,
+        !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(place)], isSemanticOnly});
+}
+
+void TimelineModel::refresh()
+{
+    m_search.reset();
+    m_searchTimer.stop();
+    QList<TimelineRow> found;
+    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(m_query)) {
+        found.append({.kind = TimelineRow::Kind::Day, .day = section.day});
+        for (const qsizetype place : section.places)
+            appendNote(found, section.day, place, false);
+    }
+    const bool needsSearch = found.isEmpty() && !m_notes.notes().isEmpty();
+    // Until it is known what resembles this query, what resembled the last one stays.
+    const bool keepsHits =
+        needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().front().isSemanticOnly;
+    if (!keepsHits)
+        show(found);
+    m_notesDidChange = false;
+    if (needsSearch)
+        m_searchTimer.start(untilTheFrameIsShown);
+}
+
+void TimelineModel::continueSearch()
+{
+    if (!m_search)
+        m_search = m_notes.beginRankedSearch(m_query, mostHits);
+    if (!m_search->advance(QDeadlineTimer(slice))) {
+        m_searchTimer.start(0ms);
+        return;
+    }
+    const auto search = std::move(m_search);
+    QList<TimelineRow> found;
+    if (!search->matches().empty())
+        found.append({.kind = TimelineRow::Kind::Title, .isSemanticOnly = true});
+    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(*search)) {
+        found.append({.kind = TimelineRow::Kind::Day, .day = section.day, .isSemanticOnly = true});
+        for (const qsizetype place : section.places)
+            appendNote(found, section.day, place, true);
+    }
+    show(found);
+}
+
+const Note &TimelineModel::note(int number) const
+{
+    return m_notes.notes()[row(number).place];
+}
+
+QList<TimelineModel::Action> TimelineModel::actions(int number) const
+{
+    QList<Action> actions;
+    if (row(number).isRepliedTo)
+        actions.append(Action::JumpToReply);
+    if (row(number).hasReminder)
+        actions.append(Action::TellReminder);
+    return actions;
+}
+
+QString TimelineModel::text(int number) const
+{
+    switch (row(number).kind) {
+    case TimelineRow::Kind::Title:
+        return L10n::text("语义相关");
+    case TimelineRow::Kind::Day:
+        return NoteFormatting::dayTitle(row(number).day, m_clock.now(), m_clock.calendar());
+    case TimelineRow::Kind::Note:
+        return row(number).text;
+    }
+    Q_UNREACHABLE();
+}
+
+RowContent TimelineModel::content(int number) const
+{
+    const TimelineRow &row = this->row(number);
+    RowContent content;
+    if (!row.isNote()) {
+        content.header = text(number);
+        return content;
+    }
+    const Note &note = this->note(number);
+    content.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
+    content.text = note.text;
+    content.query = m_query;
+    content.quote = note.quote.value_or(QString());
+    if (note.link) {
+        const QUrl url(*note.link);
+        content.link = url.isLocalFile() ? url.toLocalFile() : *note.link;
+        if (url.isLocalFile())
+            content.linkSymbol = QStringLiteral("folder");
+    }
+    if (row.isSemanticOnly)
+        content.marker = L10n::text("仅供参考");
+    for (const Action action : actions(number)) {
+        switch (action) {
+        case Action::JumpToReply:
+            content.symbols.append({QStringLiteral("reply"), L10n::text("跳转到最新回复"), true});
+            break;
+        case Action::TellReminder:
+            if (const auto reminder = m_reminders.reminder(note.id)) {
+                const QString when =
+                    NoteFormatting::reminderTimeString(reminder->fireAt, m_clock.now(), m_clock.calendar());
+                content.symbols.append(
+                    {QStringLiteral("bell"), L10n::text("%@ 提醒", QStringList{when}), false});
+            }
+            break;
+        }
+    }
+    return content;
+}
+
+QModelIndex TimelineModel::indexOf(QUuid noteID) const
+{
+    const auto found = std::find_if(rows().begin(), rows().end(),
+        [noteID](const TimelineRow &row) { return row.isNote() && row.id == noteID; });
+    return found == rows().end() ? QModelIndex() : index(int(found - rows().begin()));
+}

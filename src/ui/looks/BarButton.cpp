@@ -1,0 +1,42 @@
+#include "ui/looks/BarButton.h"
+
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/looks/Symbol.h"
+
+#include <QPainter>
+
+BarButton::BarButton(const QString &symbol, const QString &help, QWidget *parent)
+    : QToolButton(parent)
+    , m_symbol(symbol)
+{
+    setFixedSize(Design::buttonSize, Design::buttonSize);
+    setHelp(help);
+}
+
+void BarButton::setHelp(const QString &help)
+{
+    setToolTip(help);
+    setAccessibleName(help);
+}
+
+void BarButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isMarked = isChecked() || isDown();
+    if (isMarked || underMouse() || hasFocus()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isMarked ? NoteStyle::editing(palette()) : NoteStyle::hover(palette()));
+        painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), Design::rowRadius, Design::rowRadius);
+    }
+    if (hasFocus()) {
+        painter.setPen(NoteStyle::tagColor(palette()));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), Design::rowRadius, Design::rowRadius);
+    }
+    const int inset = (Design::buttonSize - Design::buttonSymbolSize) / 2;
+    Symbol::paint(painter, {inset, inset, Design::buttonSymbolSize, Design::buttonSymbolSize}, m_symbol,
+        isMarked || underMouse() ? NoteStyle::color(palette()) : NoteStyle::metaColor(palette()));
+}

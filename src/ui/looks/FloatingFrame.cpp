@@ -1,0 +1,103 @@
+#include "ui/looks/FloatingFrame.h"
+
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+
+#include <QBitmap>
+#include <QMargins>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRegion>
+#include <QWidget>
+
+QColor FloatingFrame::ground(const QPalette &palette, Backdrop backdrop)
+{
+    QColor color = NoteStyle::background(palette);
+    switch (backdrop) {
+    case Backdrop::None:
+        break;
+    case Backdrop::Sharp:
+        color.setAlphaF(Design::sharpGroundOpacity);
+        break;
+    case Backdrop::Blurred:
+        color.setAlphaF(NoteStyle::isDark(palette) ? Design::blurredDarkGroundOpacity
+                                                   : Design::blurredLightGroundOpacity);
+        break;
+    }
+    return color;
+}
+
+FloatingFrame::FloatingFrame(QWidget &window, Backdrop backdrop, Shape shape)
+    : m_window(window)
+    , m_backdrop(backdrop)
+    , m_shape(shape)
+{
+    window.setAttribute(
+        m_backdrop == Backdrop::None ? Qt::WA_OpaquePaintEvent : Qt::WA_TranslucentBackground);
+}
+
+int FloatingFrame::margin() const
+{
+    return m_backdrop == Backdrop::None ? 0 : m_shape.shadow;
+}
+
+QRect FloatingFrame::inside() const
+{
+    return m_window.rect().marginsRemoved(QMargins() + margin());
+}
+
+QRegion FloatingFrame::outline(qreal devicePixelRatio) const
+{
+    QBitmap shape(m_window.size() * devicePixelRatio);
+    shape.fill(Qt::color0);
+    QPainter painter(&shape);
+    painter.scale(devicePixelRatio, devicePixelRatio);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(inside(), m_shape.radius, m_shape.radius);
+    painter.end();
+    return QRegion(shape);
+}
+
+void FloatingFrame::windowDidResize()
+{
+    if (m_backdrop == Backdrop::None)
+        m_window.setMask(outline(1));
+}
+
+void FloatingFrame::paintShadow(QPainter &painter) const
+{
+    // Soft at its edge and a little lower than the frame, as if the light came from above.
+    constexpr int lower = 3;
+    constexpr qreal darkest = 0.10;
+    QPainterPath around;
+    around.addRect(m_window.rect());
+    QPainterPath within;
+    within.addRoundedRect(inside(), m_shape.radius, m_shape.radius);
+    painter.save();
+    painter.setClipPath(around - within); // it would darken a ground that lets it through
+    painter.setPen(Qt::NoPen);
+    const int reach = m_shape.shadow - lower;
+    for (int spread = reach; spread > 0; --spread) {
+        const qreal nearness = 1 - qreal(spread) / reach;
+        painter.setBrush(QColor::fromRgbF(0, 0, 0, float(darkest * nearness * nearness / 3)));
+        painter.drawRoundedRect(QRectF(inside()).adjusted(-spread, -spread + lower, spread, spread + lower),
+            m_shape.radius + spread, m_shape.radius + spread);
+    }
+    painter.restore();
+}
+
+void FloatingFrame::paint(QPainter &painter)
+{
+    const QPalette palette = m_window.palette();
+    const bool isOpaque = m_backdrop == Backdrop::None;
+    const QColor color = ground(palette, m_shape.isSolid ? Backdrop::None : m_backdrop);
+    m_picture.paint(painter, m_window, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &picture) {
+        if (!isOpaque)
+            paintShadow(picture);
+        picture.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
+        picture.setPen(NoteStyle::hairline(palette));
+        picture.drawRoundedRect(
+            QRectF(inside()).adjusted(0.5, 0.5, -0.5, -0.5), m_shape.radius, m_shape.radius);
+    });
+}

@@ -1,0 +1,31 @@
+#include "ui/looks/MenuLooks.h"
+
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+
+#include <QMenu>
+
+void MenuLooks::dress(QMenu &menu)
+{
+    const QWidget *parent = menu.parentWidget();
+    const bool isRound = parent && parent->window()->testAttribute(Qt::WA_TranslucentBackground);
+    if (isRound) {
+        menu.setWindowFlag(Qt::FramelessWindowHint);
+        menu.setWindowFlag(Qt::NoDropShadowWindowHint);
+        menu.setAttribute(Qt::WA_TranslucentBackground);
+    }
+    const QPalette palette = menu.palette();
+    const QString sheet =
+        QStringLiteral("QMenu { background: %1; border: 1px solid %2; border-radius: %3px; padding: %4px }"
+                       "QMenu::item { color: %5; padding: %4px %6px; border-radius: %4px }"
+                       "QMenu::item:selected { background: %7 }"
+                       "QMenu::item:disabled { color: %8 }"
+                       "QMenu::separator { height: 1px; background: %2; margin: %4px %6px }");
+    menu.setFont(NoteStyle::font());
+    menu.setStyleSheet(sheet.arg(NoteStyle::fieldColor(palette).name(), NoteStyle::hairline(palette).name())
+                           .arg(isRound ? Design::menuRadius : 0)
+                           .arg(Design::grid)
+                           .arg(NoteStyle::color(palette).name())
+                           .arg(Design::edge)
+                           .arg(NoteStyle::editing(palette).name(), NoteStyle::metaColor(palette).name()));
+}

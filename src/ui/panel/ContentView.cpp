@@ -1,0 +1,272 @@
+#include "ui/panel/ContentView.h"
+
+#include "foundation/Clock.h"
+#include "model/NoteStore.h"
+#include "model/ReminderStore.h"
+#include "text/L10n.h"
+#include "ui/composer/ComposerView.h"
+#include "ui/lists/NoteListView.h"
+#include "ui/lists/ReminderListView.h"
+#include "ui/lists/TagListView.h"
+#include "ui/lists/TimelineModel.h"
+#include "ui/lists/TrashListView.h"
+#include "ui/looks/BarButton.h"
+#include "ui/looks/CapsuleButton.h"
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/panel/PermissionBanner.h"
+
+#include <QLabel>
+#include <QShortcut>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+namespace {
+QString title(PanelMode mode)
+{
+    switch (mode) {
+    case PanelMode::Timeline:
+        return L10n::text("笔记");
+    case PanelMode::Tags:
+        return L10n::text("标签");
+    case PanelMode::Reminders:
+        return L10n::text("提醒");
+    case PanelMode::Trash:
+        return L10n::text("回收站");
+    }
+    Q_UNREACHABLE();
+}
+} // namespace
+
+ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
+    PageTitleFetching &titles, const Clock &clock, QWidget *parent)
+    : QWidget(parent)
+    , m_notes(notes)
+    , m_reminders(reminders)
+    , m_clock(clock)
+    , m_model(new TimelineModel(notes, reminders, clock, this))
+    , m_timeline(new NoteListView(notes, reminders, m_state, *m_model, this))
+    , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
+    , m_title(new QLabel(this))
+    , m_stack(new QStackedLayout)
+    , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), this))
+{
+    setFocusProxy(m_composer);
+
+    m_title->setObjectName(QStringLiteral("title"));
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setFont(NoteStyle::headerFont());
+
+    auto *bar = new QHBoxLayout;
+    bar->setContentsMargins(Design::edge, Design::grid, 2 * Design::grid, Design::grid);
+    bar->setSpacing(Design::grid);
+    bar->addWidget(m_title, 1);
+    addModeButton(*bar, PanelMode::Tags, QStringLiteral("number"));
+    addModeButton(*bar, PanelMode::Reminders, QStringLiteral("bell"));
+    addModeButton(*bar, PanelMode::Trash, QStringLiteral("trash"));
+
+    m_stack->addWidget(m_timeline);
+    addTags(notes);
+    addReminders(reminders);
+    addTrash(notes);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 0);
+    layout->setSpacing(0);
+    layout->addLayout(bar);
+    layout->addLayout(m_stack, 1);
+    layout->addWidget(m_composer);
+    layout->addWidget(m_trashBar);
+
+    connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
+    connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
+    connect(&m_state, &PanelState::openNote, this, &ContentView::openNote);
+    connect(m_composer, &ComposerView::walkedAway, this, [this] { list().enter(); });
+    for (int page = 0; page < m_stack->count(); ++page) {
+        if (auto *rows =
+                m_stack->widget(page)->findChild<RowListView *>(QString(), Qt::FindDirectChildrenOnly))
+            connect(rows, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+        else if (auto *self = qobject_cast<RowListView *>(m_stack->widget(page)))
+            connect(self, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+    }
+    addShortcuts();
+    m_nextMinute.setSingleShot(true);
+    m_nextMinute.setTimerType(Qt::CoarseTimer);
+    connect(&m_nextMinute, &QTimer::timeout, this, &ContentView::timeDidPass);
+    modeDidChange();
+}
+
+void ContentView::addModeButton(QLayout &bar, PanelMode mode, const QString &symbol)
+{
+    auto *button = new BarButton(symbol, title(mode), this);
+    button->setObjectName(QStringLiteral("mode.") + symbol);
+    button->setCheckable(true);
+    connect(button, &BarButton::clicked, this, [this, mode] { toggleMode(mode); });
+    bar.addWidget(button);
+    m_modeButtons.append({mode, button});
+}
+
+void ContentView::addTags(NoteStore &notes)
+{
+    m_tags = new TagListView(notes, *new TagModel(notes, this), this);
+    connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
+    m_stack->addWidget(m_tags);
+}
+
+void ContentView::addReminders(ReminderStore &reminders)
+{
+    auto *page = new QWidget(this);
+    m_permissionBanner = new PermissionBanner(page);
+    m_reminderModel = new ReminderModel(m_notes, reminders, m_clock, this);
+    auto *rows = new ReminderListView(reminders, *m_reminderModel, page);
+    connect(rows, &ReminderListView::openNote, this, &ContentView::openNote);
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_permissionBanner);
+    layout->addWidget(rows, 1);
+    const auto tell = [this] {
+        m_permissionBanner->setVisible(m_reminders.authorizationStatus() == AuthorizationStatus::Denied);
+    };
+    connect(&reminders, &ReminderStore::authorizationStatusChanged, this, tell);
+    tell();
+    m_stack->addWidget(page);
+}
+
+void ContentView::addTrash(NoteStore &notes)
+{
+    m_trashModel = new TrashModel(notes, m_clock, this);
+    m_stack->addWidget(new TrashListView(notes, *m_trashModel, this));
+    m_trashBar = new QWidget(this);
+    auto *layout = new QHBoxLayout(m_trashBar);
+    layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
+    layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
+    m_emptyTrash->setObjectName(QStringLiteral("emptyTrash"));
+    connect(m_emptyTrash, &QPushButton::clicked, this, [&notes] { notes.emptyTrash(); });
+    const auto tell = [this, &notes] { m_emptyTrash->setEnabled(!notes.trash().isEmpty()); };
+    connect(&notes, &NoteStore::notesChanged, this, tell);
+    tell();
+}
+
+void ContentView::addShortcuts()
+{
+    const PanelMode modes[] = {PanelMode::Timeline, PanelMode::Tags, PanelMode::Reminders, PanelMode::Trash};
+    for (const PanelMode mode : modes) {
+        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))), this);
+        connect(shortcut, &QShortcut::activated, this, [this, mode] {
+            if (m_state.mode() != mode)
+                toggleMode(mode);
+        });
+    }
+}
+
+RowListView &ContentView::list() const
+{
+    QWidget *page = m_stack->currentWidget();
+    auto *rows = qobject_cast<RowListView *>(page);
+    return rows ? *rows : *page->findChild<RowListView *>();
+}
+
+// Modes
+
+void ContentView::toggleMode(PanelMode mode)
+{
+    m_state.setMode(m_state.mode() == mode ? PanelMode::Timeline : mode);
+    if (m_state.mode() == PanelMode::Timeline || m_state.mode() == PanelMode::Tags)
+        QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
+    else if (!list().enter())
+        list().setFocus();
+}
+
+void ContentView::modeDidChange()
+{
+    const PanelMode mode = m_state.mode();
+    m_title->setText(title(mode));
+    for (const ModeButton &each : m_modeButtons) {
+        each.button->setChecked(each.mode == mode);
+        each.button->setHelp(each.mode == mode ? L10n::text("返回时间线") : title(each.mode));
+    }
+    m_stack->setCurrentIndex(int(mode));
+    m_composer->setVisible(mode == PanelMode::Timeline || mode == PanelMode::Tags);
+    m_trashBar->setVisible(mode == PanelMode::Trash);
+    if (isVisible())
+        timeDidPass();
+}
+
+void ContentView::selectTag(const QString &tag)
+{
+    m_state.setDraft(u'#' + tag);
+    m_state.setEditingID({});
+    m_state.setQuoting({});
+    m_state.setMode(PanelMode::Timeline);
+    QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
+}
+
+void ContentView::openNote(QUuid id)
+{
+    m_state.setMode(PanelMode::Timeline);
+    m_state.setJumpTargetID(id);
+}
+
+bool ContentView::isComposing() const
+{
+    return m_composer->isComposing();
+}
+
+bool ContentView::escape()
+{
+    // One layer at a time, from the inside out.
+    if (m_composer->completion().isActive())
+        m_composer->completion().dismiss();
+    else if (m_tags->renameState().renaming())
+        m_tags->renameState().setRenaming({});
+    else if (list().hasFocus() && m_composer->isVisible())
+        m_composer->setFocus();
+    else if (!m_state.draft().isEmpty() && m_composer->isVisible())
+        Q_EMIT m_state.clearComposer();
+    else
+        return false;
+    return true;
+}
+
+// The passing of time
+
+void ContentView::timeDidPass()
+{
+    // What is not seen waits until it is.
+    switch (m_state.mode()) {
+    case PanelMode::Timeline:
+        m_model->timeDidPass();
+        break;
+    case PanelMode::Reminders:
+        m_reminderModel->timeDidPass();
+        break;
+    case PanelMode::Trash:
+        m_trashModel->refresh();
+        break;
+    case PanelMode::Tags:
+        break;
+    }
+    m_composer->timeDidPass();
+    waitForNextMinute();
+}
+
+void ContentView::waitForNextMinute()
+{
+    using namespace std::chrono;
+    const auto sinceMinute = m_clock.now().time_since_epoch() % minutes(1);
+    m_nextMinute.start(duration_cast<milliseconds>(minutes(1) - sinceMinute));
+}
+
+void ContentView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_reminders.pruneExpired();
+    timeDidPass();
+}
+
+void ContentView::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_nextMinute.stop(); // nobody sees it
+}

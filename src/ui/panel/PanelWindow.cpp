@@ -1,0 +1,105 @@
+#include "ui/panel/PanelWindow.h"
+
+#include "ui/looks/Design.h"
+#include "ui/panel/ContentView.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMargins>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , m_content(content)
+    , m_frame(*this, backdrop, {Design::panelRadius, Design::shadowMargin})
+{
+    setWindowTitle(QStringLiteral("Quillet"));
+    setObjectName(QStringLiteral("panel"));
+    setFixedSize(Design::panelSize.grownBy(QMargins() + m_frame.margin()));
+    setFocusProxy(m_content);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(QMargins() + m_frame.margin());
+    layout->addWidget(m_content);
+    qApp->installEventFilter(this);
+
+    m_focusCheck.setSingleShot(true);
+    connect(&m_focusCheck, &QTimer::timeout, this, &PanelWindow::checkFocus);
+}
+
+bool PanelWindow::event(QEvent *event)
+{
+    // A dialog has ended. To whom the desktop then gives the focus, it decides by itself, and mostly not for
+    // a window that is in no taskbar.
+    if (event->type() == QEvent::WindowUnblocked && isVisible())
+        activateWindow();
+    return QWidget::event(event);
+}
+
+bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        return false;
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || widget->window() != this || m_content->isComposing())
+        return false;
+    if (!m_content->escape())
+        Q_EMIT escaped();
+    return true;
+}
+
+void PanelWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange)
+        return;
+    // A grabbed key takes the focus for a moment and gives it back.
+    constexpr std::chrono::milliseconds moment{50};
+    if (isActiveWindow()) {
+        if (m_focusCheck.isActive())
+            m_reopening = QDeadlineTimer(); // the next loss is a real one
+        m_focusCheck.stop();
+    } else if (isVisible()) { // on Wayland a window hears of it after it was closed
+        m_focusCheck.start(std::max(moment, std::chrono::milliseconds(m_reopening.remainingTime())));
+    }
+}
+
+void PanelWindow::expectFocusAgain()
+{
+    constexpr std::chrono::seconds patience{1};
+    m_reopening.setRemainingTime(patience);
+    QApplication::setActiveWindow(this);
+}
+
+void PanelWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_focusCheck.stop(); // or it would close a panel that is opened again at once
+}
+
+void PanelWindow::checkFocus()
+{
+    // A menu or dialog of our own has it for us.
+    if (!QApplication::activePopupWidget() && !QApplication::activeModalWidget())
+        Q_EMIT focusLost();
+}
+
+void PanelWindow::releaseContent()
+{
+    layout()->removeWidget(m_content);
+    m_content->setParent(nullptr);
+}
+
+void PanelWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_frame.windowDidResize();
+}
+
+void PanelWindow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_frame.paint(painter);
+}
