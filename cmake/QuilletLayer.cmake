@@ -18,12 +18,11 @@ function(quillet_precompiled kind)
     target_link_libraries(quillet_precompiled_${kind} PRIVATE ${arg_LIBRARIES})
     target_precompile_headers(quillet_precompiled_${kind} PRIVATE ${arg_HEADERS})
 endfunction()
-set(core <QByteArray> <QDateTime> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString> <QTimer> <QUuid>
+set(quillet_core_headers <QByteArray> <QDateTime> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString> <QTimer> <QUuid>
     <algorithm> <array> <chrono> <functional> <memory> <optional> <span> <utility> <vector>)
-quillet_precompiled(core HEADERS ${core} LIBRARIES Qt6::Core)
-quillet_precompiled(gui HEADERS ${core} <QAbstractListModel> <QBoxLayout> <QEvent> <QLabel> <QMenu> <QPainter>
+quillet_precompiled(core HEADERS ${quillet_core_headers} LIBRARIES Qt6::Core)
+quillet_precompiled(gui HEADERS ${quillet_core_headers} <QAbstractListModel> <QBoxLayout> <QEvent> <QLabel> <QMenu> <QPainter>
     <QTextLayout> <QWidget> LIBRARIES Qt6::Widgets)
-quillet_precompiled(test HEADERS ${core} <QTest> <QSignalSpy> <QTemporaryDir> LIBRARIES Qt6::Test)
 
 function(quillet_use_precompiled target kind)
     if(QUILLET_PRECOMPILED)
