@@ -43,7 +43,7 @@ void AppDelegate::didReceiveNotification(const QString &noteID)
     if (id.isNull())
         return;
     m_panel.open();
-    Q_EMIT m_panel.state().openNote(id);
+    m_panel.state().openNote(id);
 }
 
 void AppDelegate::didSnoozeNotification(const NotificationRequest &request)

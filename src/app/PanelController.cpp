@@ -66,7 +66,7 @@ void PanelController::makeWindow()
     });
     connect(m_window.get(), &PanelWindow::escaped, this, [this] {
         close();
-        Q_EMIT m_content->state().panelDidToggle();
+        m_content->state().panelDidToggle();
     });
     m_window->winId(); // the platform's window too
     if (backdrop == FloatingFrame::Backdrop::Blurred)
@@ -108,7 +108,7 @@ void PanelController::open()
     m_window->activateWindow();
     if (QGuiApplication::focusWindow() == m_window->windowHandle())
         m_window->expectFocusAgain();
-    Q_EMIT m_content->state().panelDidToggle();
+    m_content->state().panelDidToggle();
 }
 
 void PanelController::close()
@@ -123,7 +123,7 @@ void PanelController::toggle()
         return;
     }
     close();
-    Q_EMIT m_content->state().panelDidToggle();
+    m_content->state().panelDidToggle();
 }
 
 void PanelController::toggleByClick()

@@ -39,7 +39,7 @@ public:
         notes.setReminderStore(&reminders);
         window.show();
         window.activateWindow();
-        Q_EMIT state().panelDidToggle();
+        state().panelDidToggle();
     }
 
     ComposerField *field() { return window.findChild<ComposerField *>(); }

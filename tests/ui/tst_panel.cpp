@@ -201,7 +201,7 @@ private Q_SLOTS:
             panel.notes.add(u"一条写得比较长、在面板里要占上好几行才能显示完的笔记，第%1条"_s.arg(i));
         }
         panel.type(u"别的"_s); // hides it
-        Q_EMIT panel.state().openNote(target.id);
+        panel.state().openNote(target.id);
         QTRY_COMPARE(panel.list().flashID(), target.id);
         QCOMPARE(panel.field()->text(), QString());
         QVERIFY(!panel.state().jumpTargetID());

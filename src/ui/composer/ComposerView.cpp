@@ -82,9 +82,8 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
         updateQuoteBar();
         updateReminderPreview();
     });
-    connect(&m_state, &PanelState::panelDidToggle, m_field, qOverload<>(&QLineEdit::setFocus));
-    connect(&m_state, &PanelState::focusComposer, this, &ComposerView::focusAtEnd);
-    connect(&m_state, &PanelState::clearComposer, this, [this] { m_state.setDraft({}); });
+    connect(&m_state, &PanelState::panelToggled, m_field, qOverload<>(&QLineEdit::setFocus));
+    connect(&m_state, &PanelState::composerFocusRequested, this, &ComposerView::focusAtEnd);
 }
 
 bool ComposerView::isFilterOnly() const

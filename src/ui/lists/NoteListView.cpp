@@ -61,14 +61,14 @@ void NoteListView::activate(int row)
     m_state.setDraft(note.text);
     m_state.setEditingID(note.id);
     m_state.setQuoting({});
-    Q_EMIT m_state.focusComposer();
+    m_state.focusComposer();
 }
 
 void NoteListView::quote(const Note &note)
 {
     m_state.setQuoting(note);
     m_state.setEditingID({});
-    Q_EMIT m_state.focusComposer();
+    m_state.focusComposer();
 }
 
 void NoteListView::copy(int row)

@@ -98,7 +98,7 @@ QUuid ReminderListView::noteOf(int row) const
 
 void ReminderListView::activate(int row)
 {
-    Q_EMIT openNote(noteOf(row));
+    Q_EMIT noteChosen(noteOf(row));
 }
 
 void ReminderListView::clickPart(int row, RowPart part)
@@ -114,6 +114,6 @@ void ReminderListView::remove(int row)
 
 void ReminderListView::fillMenu(QMenu &menu, int row)
 {
-    menu.addAction(L10n::text("跳转到笔记"), this, [this, id = noteOf(row)] { Q_EMIT openNote(id); });
+    menu.addAction(L10n::text("跳转到笔记"), this, [this, id = noteOf(row)] { Q_EMIT noteChosen(id); });
     menu.addAction(L10n::text("取消提醒"), this, [this, id = noteOf(row)] { m_reminders.cancelForNote(id); });
 }

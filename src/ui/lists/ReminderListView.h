@@ -48,7 +48,7 @@ public:
     [[nodiscard]] EmptyState emptyState() const override;
 
 Q_SIGNALS:
-    void openNote(QUuid noteID);
+    void noteChosen(QUuid noteID);
 
 protected:
     void activate(int row) override; ///< opens the note

@@ -80,7 +80,6 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
 
     connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
-    connect(&m_state, &PanelState::openNote, this, &ContentView::openNote);
     connect(m_composer, &ComposerView::walkedAway, this, [this] { list().enter(); });
     for (int page = 0; page < m_stack->count(); ++page) {
         if (auto *rows =
@@ -119,7 +118,7 @@ void ContentView::addReminders(ReminderStore &reminders)
     m_permissionBanner = new PermissionBanner(page);
     m_reminderModel = new ReminderModel(m_notes, reminders, m_clock, this);
     auto *rows = new ReminderListView(reminders, *m_reminderModel, page);
-    connect(rows, &ReminderListView::openNote, this, &ContentView::openNote);
+    connect(rows, &ReminderListView::noteChosen, &m_state, &PanelState::openNote);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -202,12 +201,6 @@ void ContentView::selectTag(const QString &tag)
     QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
 }
 
-void ContentView::openNote(QUuid id)
-{
-    m_state.setMode(PanelMode::Timeline);
-    m_state.setJumpTargetID(id);
-}
-
 bool ContentView::isComposing() const
 {
     return m_composer->isComposing();
@@ -223,7 +216,7 @@ bool ContentView::escape()
     else if (list().hasFocus() && m_composer->isVisible())
         m_composer->setFocus();
     else if (!m_state.draft().isEmpty() && m_composer->isVisible())
-        Q_EMIT m_state.clearComposer();
+        m_state.clearComposer();
     else
         return false;
     return true;

@@ -51,7 +51,6 @@ private:
     void toggleMode(PanelMode mode);
     void modeDidChange();
     void selectTag(const QString &tag);
-    void openNote(QUuid id);
     void timeDidPass();
     void waitForNextMinute();
     [[nodiscard]] RowListView &list() const; ///< of the present mode

@@ -39,3 +39,19 @@ void PanelState::setMode(PanelMode mode)
     m_mode = mode;
     Q_EMIT modeChanged();
 }
+
+void PanelState::focusComposer()
+{
+    Q_EMIT composerFocusRequested();
+}
+
+void PanelState::openNote(QUuid noteID)
+{
+    setMode(PanelMode::Timeline);
+    setJumpTargetID(noteID);
+}
+
+void PanelState::panelDidToggle()
+{
+    Q_EMIT panelToggled();
+}

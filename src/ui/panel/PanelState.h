@@ -9,10 +9,10 @@
 
 #include <optional>
 
-/// The panel's working state, which composer and timeline share, and what is posted to them within the
-/// program.
+/// The panel's working state, shared by composer and timeline. Functions change it or ask for something,
+/// signals announce what happened.
 ///
-/// The draft is at once what is being written and what the timeline is filtered by.
+/// The draft is both the text being written and the filter of the timeline and the tag list.
 class PanelState final : public QObject
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] const QString &draft() const { return m_draft; }
     [[nodiscard]] std::optional<QUuid> editingID() const { return m_editingID; }
     [[nodiscard]] const std::optional<Note> &quoting() const { return m_quoting; }
-    /// A note that the timeline is to scroll to and flash, once.
     [[nodiscard]] PanelMode mode() const { return m_mode; }
+    /// A note that the timeline scrolls to and flashes once.
     [[nodiscard]] std::optional<QUuid> jumpTargetID() const { return m_jumpTargetID; }
 
     void setDraft(const QString &draft);
@@ -33,18 +33,20 @@ public:
     void setMode(PanelMode mode);
     void setJumpTargetID(std::optional<QUuid> id);
 
+    void clearComposer() { setDraft({}); }
+    void focusComposer();        ///< with the caret behind the text
+    void openNote(QUuid noteID); ///< in the timeline; the draft stays
+    /// To be called after the program, not a click on the status item, has opened or closed the panel.
+    void panelDidToggle();
+
 Q_SIGNALS:
     void draftChanged();
     void editingIDChanged();
     void quotingChanged();
     void modeChanged();
     void jumpTargetIDChanged();
-
-    // Posted, not kept.
-    void panelDidToggle();
-    void focusComposer();
-    void clearComposer();
-    void openNote(QUuid noteID);
+    void composerFocusRequested();
+    void panelToggled();
 
 private:
     QString m_draft;
