@@ -3,6 +3,7 @@
 #include "foundation/Clock.h"
 #include "model/NoteCoding.h"
 #include "stage/Road.h"
+#include "ui/looks/Design.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,8 +18,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-constexpr QRgb panelColor = qRgb(0xfa, 0xfa, 0xf8);
-
 struct Sample {
     double startToTray = 0;  ///< ms
     double keyToPixels = 0;  ///< ms, the median of several presses
@@ -49,7 +48,7 @@ bool spinUntil(XServer &screen, QPoint where, bool isPanel)
 {
     QElapsedTimer timer;
     timer.start();
-    while ((screen.screenshot(QRect(where, QSize(1, 1))).pixel(0, 0) == panelColor) != isPanel) {
+    while ((screen.screenshot(QRect(where, QSize(1, 1))).pixel(0, 0) == Design::ground.light) != isPanel) {
         if (timer.elapsed() > 3000)
             return false;
     }

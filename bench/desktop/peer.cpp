@@ -1,5 +1,6 @@
 // An empty program of Quillet's kind: a tray icon, the hot key, a panel of the same size with nothing in it.
 #include "desktop/X11HotKey.h"
+#include "ui/looks/Design.h"
 
 #include <QApplication>
 #include <QSystemTrayIcon>
@@ -18,10 +19,9 @@ int main(int argc, char *argv[])
 
     QWidget panel;
     panel.setWindowTitle(QStringLiteral("Quillet"));
-    panel.setFixedSize(340, 480);
+    panel.setFixedSize(Design::panelSize);
     QPalette colors = panel.palette();
-    colors.setColor(
-        QPalette::Window, QColor(0xfa, 0xfa, 0xf8)); // as Quillet's panel, to be found the same way
+    colors.setColor(QPalette::Window, Design::ground.light); // as Quillet's panel, to be found the same way
     panel.setPalette(colors);
     panel.winId();
 

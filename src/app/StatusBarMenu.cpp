@@ -52,7 +52,7 @@ void StatusBarMenu::makeIcon(TrayHost::Kind kind)
     m_menu->addAction(L10n::text("导出"), this, &StatusBarMenu::exportChosen);
     m_menu->addSeparator();
     m_menu->addAction(L10n::text("退出"), qApp, &QApplication::quit);
-    connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { MenuLooks::dress(*m_menu); });
+    connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { MenuLooks::apply(*m_menu); });
     m_icon = std::make_unique<QSystemTrayIcon>(icon(kind));
     m_icon->setToolTip(QStringLiteral("Quillet"));
     m_icon->setContextMenu(m_menu.get());

@@ -2,14 +2,12 @@
 
 #include "foundation/Clock.h"
 #include "model/NoteCoding.h"
+#include "ui/looks/Design.h"
 
 #include <QDebug>
 #include <QFile>
 
 namespace {
-/// As ui/NoteStyle.cpp has it for a light appearance.
-constexpr QRgb flashColor = qRgb(0xff, 0xee, 0xc4);
-
 /// The title of the panel, and the class of panel and tray icon.
 const QString name = QStringLiteral("Quillet");
 constexpr int smallestPanel = 100;
@@ -78,7 +76,7 @@ bool Road::isFlashing() const
     const QImage image = m_desktop.screen().screenshot(*place);
     int lit = 0;
     for (int y = 0; y < image.height(); ++y)
-        lit += (image.pixel(8, y) & RGB_MASK) == (flashColor & RGB_MASK);
+        lit += (image.pixel(8, y) & RGB_MASK) == (Design::flashGround.light & RGB_MASK);
     return lit > 20;
 }
 

@@ -5,6 +5,7 @@
 #include "stage/NotificationRecorder.h"
 #include "stage/Road.h"
 #include "stage/SettingsPortal.h"
+#include "ui/looks/Design.h"
 
 #include <QDir>
 #include <QFile>
@@ -233,8 +234,9 @@ private:
         expect(m_road.waitForPanel(true), "the panel");
         settle();
         const bool isShadowed = m_look.hasCompositor;
-        m_panel = m_road.panel().value_or(QRect()).topLeft()
-                  + (isShadowed ? QPoint(20, 20) * m_look.scale : QPoint());
+        m_panel =
+            m_road.panel().value_or(QRect()).topLeft()
+            + (isShadowed ? QPoint(Design::shadowMargin, Design::shadowMargin) * m_look.scale : QPoint());
     }
     void mode(std::uint32_t digit)
     {

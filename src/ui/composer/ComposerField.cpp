@@ -77,7 +77,7 @@ void ComposerField::contextMenuEvent(QContextMenuEvent *event)
             connect(action, &QAction::triggered, this, &ComposerField::pasteAsOneLine);
         }
     }
-    MenuLooks::dress(*menu);
+    MenuLooks::apply(*menu);
     menu->popup(event->globalPos());
 }
 

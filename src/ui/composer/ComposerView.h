@@ -2,7 +2,7 @@
 
 #include "reminders/ParsedReminder.h"
 #include "text/TagCompletion.h"
-#include "ui/looks/StillPicture.h"
+#include "ui/looks/CachedImage.h"
 
 #include <QWidget>
 
@@ -68,5 +68,5 @@ private:
     ReminderBar *m_reminderBar = nullptr;
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
-    StillPicture m_capsule;
+    CachedImage m_capsule;
 };

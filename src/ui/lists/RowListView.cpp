@@ -202,7 +202,7 @@ void RowListView::popUpMenu(int row, QPoint globalPlace)
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, row);
-    MenuLooks::dress(*menu);
+    MenuLooks::apply(*menu);
     if (!menu->isEmpty())
         menu->popup(globalPlace);
 }

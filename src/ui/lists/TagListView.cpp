@@ -1,68 +1,15 @@
 #include "ui/lists/TagListView.h"
 
-#include "foundation/CaseFolding.h"
 #include "foundation/Characters.h"
 #include "model/NoteStore.h"
 #include "text/L10n.h"
 #include "ui/dialogs/ModalQuestion.h"
+#include "ui/lists/TagModel.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 
 #include <QLineEdit>
 #include <QMenu>
-
-bool isSameRow(const TagSummary &a, const TagSummary &b)
-{
-    return a.name == b.name;
-}
-
-TagModel::TagModel(NoteStore &notes, QObject *parent)
-    : RowsOf(parent)
-    , m_notes(notes)
-{
-    connect(&m_notes, &NoteStore::notesChanged, this, &TagModel::refreshWhenSeen);
-    TagModel::refresh();
-}
-
-void TagModel::setQuery(const QString &query)
-{
-    m_query = query;
-    refreshWhenSeen();
-}
-
-void TagModel::refresh()
-{
-    const QString query = CaseFolding::folded(m_query.trimmed());
-    QList<TagSummary> shown;
-    for (const TagSummary &summary : m_notes.tagSummaries()) {
-        if (CaseFolding::folded(summary.name).contains(query))
-            shown.append(summary);
-    }
-    show(shown);
-}
-
-QString TagModel::text(int number) const
-{
-    return u'#' + row(number).name;
-}
-
-RowContent TagModel::content(int number) const
-{
-    RowContent content;
-    content.text = text(number);
-    content.query = m_query.trimmed();
-    content.trailing = QString::number(row(number).count);
-    return content;
-}
-
-int TagModel::rowOf(const QString &tag) const
-{
-    for (int number = 0; number < rowCount(); ++number) {
-        if (row(number).name == tag)
-            return number;
-    }
-    return -1;
-}
 
 TagListView::TagListView(NoteStore &notes, TagModel &model, QWidget *parent)
     : RowListView(model, parent)

@@ -1,35 +1,11 @@
 #pragma once
 
-#include "model/TagSummary.h"
 #include "ui/lists/RowListView.h"
-#include "ui/lists/RowModel.h"
 #include "ui/lists/TagRenameState.h"
 
 class NoteStore;
 class QLineEdit;
-
-[[nodiscard]] bool isSameRow(const TagSummary &a, const TagSummary &b);
-
-/// The tags whose name contains the query, case aside.
-class TagModel final : public RowsOf<TagSummary>
-{
-    Q_OBJECT
-
-public:
-    explicit TagModel(NoteStore &notes, QObject *parent = nullptr);
-    void setQuery(const QString &query);
-
-    [[nodiscard]] RowContent content(int row) const override;
-    [[nodiscard]] bool isHeader(int) const override { return false; }
-    [[nodiscard]] QString text(int row) const override;
-    [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
-
-private:
-    void refresh() override;
-
-    NoteStore &m_notes;
-    QString m_query;
-};
+class TagModel;
 
 /// The tags: a click filters the timeline by one; each can be renamed, merged and deleted.
 class TagListView final : public RowListView
@@ -63,5 +39,4 @@ private:
     TagModel &m_tags;
     TagRenameState m_rename;
     QLineEdit *m_editor = nullptr; ///< over the row of the tag that is being renamed
-    QString m_query;
 };

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QRgb>
 #include <QSize>
 
 #include <chrono>
 
-/// Sizes in logical pixels, on a grid of four, and durations: all that the panel's looks are measured by.
+/// The numbers of the panel's design: sizes in logical pixels on a grid of four, durations, and the colours
+/// that tools look for on the screen. NoteStyle gives the colours to the panel itself.
 namespace Design {
 inline constexpr QSize panelSize{340, 480};
 inline constexpr int panelRadius = 12;
@@ -40,6 +42,21 @@ inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;
 inline constexpr int buttonSize = 28;
 inline constexpr int buttonSymbolSize = 16;
+
+/// A colour in a light and in a dark appearance.
+struct Tint {
+    QRgb light;
+    QRgb dark;
+};
+inline constexpr Tint text{0xff26282c, 0xffe6e7ea};
+inline constexpr Tint metaText{0xff60646c, 0xffa6abb4};
+inline constexpr Tint ground{0xfffafaf8, 0xff24262a};
+inline constexpr Tint fieldGround{0xffffffff, 0xff303338};
+inline constexpr Tint quoteGround{0xfff0f0ed, 0xff303338};
+inline constexpr Tint hoverGround{0xfff1f1ee, 0xff2f3238};
+inline constexpr Tint hairline{0xffd9d9d5, 0xff3d4046};
+inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642};
+inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};

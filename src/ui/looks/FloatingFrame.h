@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/looks/StillPicture.h"
+#include "ui/looks/CachedImage.h"
 
 #include <QRect>
 
@@ -46,5 +46,5 @@ private:
     QWidget &m_window;
     Backdrop m_backdrop;
     Shape m_shape;
-    StillPicture m_picture;
+    CachedImage m_picture;
 };

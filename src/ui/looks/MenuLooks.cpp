@@ -5,7 +5,7 @@
 
 #include <QMenu>
 
-void MenuLooks::dress(QMenu &menu)
+void MenuLooks::apply(QMenu &menu)
 {
     const QWidget *parent = menu.parentWidget();
     const bool isRound = parent && parent->window()->testAttribute(Qt::WA_TranslucentBackground);

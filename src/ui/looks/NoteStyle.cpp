@@ -10,6 +10,11 @@ QColor byAppearance(const QPalette &palette, QColor light, QColor dark)
     return NoteStyle::isDark(palette) ? dark : light;
 }
 
+QColor byAppearance(const QPalette &palette, Design::Tint tint)
+{
+    return byAppearance(palette, QColor(tint.light), QColor(tint.dark));
+}
+
 QFont systemFont(int pixelSize)
 {
     QFont font = QApplication::font();
@@ -74,47 +79,47 @@ QColor NoteStyle::destructiveColor(const QPalette &palette)
 
 QColor NoteStyle::color(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0x26, 0x28, 0x2c), QColor(0xe6, 0xe7, 0xea));
+    return byAppearance(palette, Design::text);
 }
 
 QColor NoteStyle::metaColor(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0x60, 0x64, 0x6c), QColor(0xa6, 0xab, 0xb4));
+    return byAppearance(palette, Design::metaText);
 }
 
 QColor NoteStyle::background(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xfa, 0xfa, 0xf8), QColor(0x24, 0x26, 0x2a));
+    return byAppearance(palette, Design::ground);
 }
 
 QColor NoteStyle::fieldColor(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xff, 0xff, 0xff), QColor(0x30, 0x33, 0x38));
+    return byAppearance(palette, Design::fieldGround);
 }
 
 QColor NoteStyle::quoteGround(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xf0, 0xf0, 0xed), QColor(0x30, 0x33, 0x38));
+    return byAppearance(palette, Design::quoteGround);
 }
 
 QColor NoteStyle::hover(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xf1, 0xf1, 0xee), QColor(0x2f, 0x32, 0x38));
+    return byAppearance(palette, Design::hoverGround);
 }
 
 QColor NoteStyle::hairline(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xd9, 0xd9, 0xd5), QColor(0x3d, 0x40, 0x46));
+    return byAppearance(palette, Design::hairline);
 }
 
 QColor NoteStyle::editing(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xec, 0xf2, 0xf9), QColor(0x2c, 0x36, 0x42));
+    return byAppearance(palette, Design::editingGround);
 }
 
 QColor NoteStyle::flash(const QPalette &palette)
 {
-    return byAppearance(palette, QColor(0xff, 0xee, 0xc4), QColor(0x45, 0x3c, 0x22));
+    return byAppearance(palette, Design::flashGround);
 }
 
 QColor NoteStyle::segmentColor(NoteHighlighting::SegmentKind kind, const QPalette &palette)

@@ -1,9 +1,9 @@
-#include "ui/looks/StillPicture.h"
+#include "ui/looks/CachedImage.h"
 
 #include <QPainter>
 #include <QWidget>
 
-void StillPicture::paint(QPainter &painter, const QWidget &widget, const QColor &ground,
+void CachedImage::paint(QPainter &painter, const QWidget &widget, const QColor &ground,
     const std::function<void(QPainter &)> &draw)
 {
     const qreal ratio = widget.devicePixelRatioF();

@@ -9,7 +9,7 @@ class QWidget;
 
 /// A part of a widget that is drawn once and kept until the widget's size, scale or palette change: rounded
 /// lines would take a good part of the time in which the panel opens.
-class StillPicture final
+class CachedImage final
 {
 public:
     /// @p draw paints it in the widget's own coordinates, on @p ground.

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/TagSummary.h"
+#include "ui/lists/RowModel.h"
+
+class NoteStore;
+
+[[nodiscard]] bool isSameRow(const TagSummary &a, const TagSummary &b);
+
+/// The tags whose name contains the query, case aside.
+class TagModel final : public RowsOf<TagSummary>
+{
+    Q_OBJECT
+
+public:
+    explicit TagModel(NoteStore &notes, QObject *parent = nullptr);
+    void setQuery(const QString &query);
+
+    [[nodiscard]] RowContent content(int row) const override;
+    [[nodiscard]] bool isHeader(int) const override { return false; }
+    [[nodiscard]] QString text(int row) const override;
+    [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
+
+private:
+    void refresh() override;
+
+    NoteStore &m_notes;
+    QString m_query;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/Note.h"
+#include "ui/lists/RowModel.h"
+
+#include <optional>
+
+class Clock;
+class NoteStore;
+
+struct TrashRow {
+    Instant day;
+    std::optional<Note> note; ///< nothing for the header of the day
+    bool operator==(const TrashRow &) const = default;
+};
+[[nodiscard]] bool isSameRow(const TrashRow &a, const TrashRow &b);
+
+/// The trashed notes by the day on which they were written.
+class TrashModel final : public RowsOf<TrashRow>
+{
+    Q_OBJECT
+
+public:
+    TrashModel(NoteStore &notes, const Clock &clock, QObject *parent = nullptr);
+    void refresh() override;
+
+    [[nodiscard]] RowContent content(int row) const override;
+    [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
+    [[nodiscard]] QString text(int row) const override;
+
+private:
+    NoteStore &m_notes;
+    const Clock &m_clock;
+};
