@@ -44,7 +44,7 @@ public:
 
     ComposerField *field() { return window.findChild<ComposerField *>(); }
     ReminderBar *reminderBar() { return window.findChild<ReminderBar *>(); }
-    NoteListView &list() { return content->timeline(); }
+    NoteListView &list() { return *window.findChild<NoteListView *>(); }
     PanelState &state() { return content->state(); }
 
     /// As an input method commits it, since key clicks know nothing but ASCII.

@@ -17,7 +17,7 @@
 #include "ui/looks/CapsuleButton.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
-#include "ui/panel/PermissionBanner.h"
+#include "ui/panel/WarningBanner.h"
 
 #include <QLabel>
 #include <QShortcut>
@@ -39,6 +39,11 @@ QString title(PanelMode mode)
     }
     Q_UNREACHABLE();
 }
+
+bool hasComposer(PanelMode mode)
+{
+    return mode == PanelMode::Timeline || mode == PanelMode::Tags;
+}
 } // namespace
 
 ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
@@ -47,8 +52,8 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     , m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
-    , m_model(new TimelineModel(notes, reminders, clock, this))
-    , m_timeline(new NoteListView(notes, reminders, m_state, *m_model, this))
+    , m_timelineModel(new TimelineModel(notes, reminders, clock, this))
+    , m_timeline(new NoteListView(notes, reminders, m_state, *m_timelineModel, this))
     , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
     , m_title(new QLabel(this))
     , m_stack(new QStackedLayout)
@@ -68,10 +73,11 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     addModeButton(*bar, PanelMode::Reminders, QStringLiteral("bell"));
     addModeButton(*bar, PanelMode::Trash, QStringLiteral("trash"));
 
-    m_stack->addWidget(m_timeline);
-    addTags(notes);
-    addReminders(reminders);
-    addTrash(notes);
+    addPage({PanelMode::Timeline, m_timeline, m_timeline});
+    m_tags = new TagListView(notes, *new TagModel(notes, this), this);
+    addPage({PanelMode::Tags, m_tags, m_tags});
+    addReminders();
+    addTrash();
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 0);
@@ -84,13 +90,7 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
     connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
     connect(m_composer, &ComposerView::walkedAway, this, [this] { list().enter(); });
-    for (int page = 0; page < m_stack->count(); ++page) {
-        if (auto *rows =
-                m_stack->widget(page)->findChild<RowListView *>(QString(), Qt::FindDirectChildrenOnly))
-            connect(rows, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
-        else if (auto *self = qobject_cast<RowListView *>(m_stack->widget(page)))
-            connect(self, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
-    }
+    connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
     addShortcuts();
     m_nextMinute.setSingleShot(true);
     m_nextMinute.setTimerType(Qt::CoarseTimer);
@@ -103,81 +103,87 @@ void ContentView::addModeButton(QLayout &bar, PanelMode mode, const QString &sym
     auto *button = new BarButton(symbol, title(mode), this);
     button->setObjectName(QStringLiteral("mode.") + symbol);
     button->setCheckable(true);
-    connect(button, &BarButton::clicked, this, [this, mode] { toggleMode(mode); });
+    connect(button, &BarButton::clicked, this, [this, mode] { toggle(mode); });
     bar.addWidget(button);
     m_modeButtons.append({mode, button});
 }
 
-void ContentView::addTags(NoteStore &notes)
+void ContentView::addPage(const Page &page)
 {
-    m_tags = new TagListView(notes, *new TagModel(notes, this), this);
-    connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
-    m_stack->addWidget(m_tags);
+    Q_ASSERT(m_pages.size() == qsizetype(page.mode));
+    m_stack->addWidget(page.widget);
+    m_pages.append(page);
+    connect(page.list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
 }
 
-void ContentView::addReminders(ReminderStore &reminders)
+void ContentView::addReminders()
 {
     auto *page = new QWidget(this);
-    m_permissionBanner = new PermissionBanner(page);
-    m_reminderModel = new ReminderModel(m_notes, reminders, m_clock, this);
-    auto *rows = new ReminderListView(reminders, *m_reminderModel, page);
-    connect(rows, &ReminderListView::noteChosen, &m_state, &PanelState::openNote);
+    auto *banner = new WarningBanner(QStringLiteral("bell.slash"),
+        L10n::text("通知权限未开启，到点不会弹通知。请到 系统设置 → 通知 → Quillet 开启。"), page);
+    banner->setObjectName(QStringLiteral("permissionBanner"));
+    m_reminderModel = new ReminderModel(m_notes, m_reminders, m_clock, this);
+    auto *list = new ReminderListView(m_reminders, *m_reminderModel, page);
+    connect(list, &ReminderListView::noteChosen, &m_state, &PanelState::openNote);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_permissionBanner);
-    layout->addWidget(rows, 1);
-    const auto tell = [this] {
-        m_permissionBanner->setVisible(m_reminders.authorizationStatus() == AuthorizationStatus::Denied);
+    layout->addWidget(banner);
+    layout->addWidget(list, 1);
+    const auto updateBanner = [this, banner] {
+        banner->setVisible(m_reminders.authorizationStatus() == AuthorizationStatus::Denied);
     };
-    connect(&reminders, &ReminderStore::authorizationStatusChanged, this, tell);
-    tell();
-    m_stack->addWidget(page);
+    connect(&m_reminders, &ReminderStore::authorizationStatusChanged, banner, updateBanner);
+    updateBanner();
+    addPage({PanelMode::Reminders, page, list});
 }
 
-void ContentView::addTrash(NoteStore &notes)
+void ContentView::addTrash()
 {
-    m_trashModel = new TrashModel(notes, m_clock, this);
-    m_stack->addWidget(new TrashListView(notes, *m_trashModel, this));
+    m_trashModel = new TrashModel(m_notes, m_clock, this);
+    auto *list = new TrashListView(m_notes, *m_trashModel, this);
+    addPage({PanelMode::Trash, list, list});
     m_trashBar = new QWidget(this);
     auto *layout = new QHBoxLayout(m_trashBar);
     layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
     layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
     m_emptyTrash->setObjectName(QStringLiteral("emptyTrash"));
-    connect(m_emptyTrash, &QPushButton::clicked, this, [&notes] { notes.emptyTrash(); });
-    const auto tell = [this, &notes] { m_emptyTrash->setEnabled(!notes.trash().isEmpty()); };
-    connect(&notes, &NoteStore::notesChanged, this, tell);
-    tell();
+    connect(m_emptyTrash, &QPushButton::clicked, &m_notes, &NoteStore::emptyTrash);
+    const auto updateButton = [this] { m_emptyTrash->setEnabled(!m_notes.trash().isEmpty()); };
+    connect(&m_notes, &NoteStore::notesChanged, this, updateButton);
+    updateButton();
 }
 
 void ContentView::addShortcuts()
 {
-    const PanelMode modes[] = {PanelMode::Timeline, PanelMode::Tags, PanelMode::Reminders, PanelMode::Trash};
-    for (const PanelMode mode : modes) {
-        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))), this);
-        connect(shortcut, &QShortcut::activated, this, [this, mode] {
+    for (const Page &page : std::as_const(m_pages)) {
+        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(page.mode))), this);
+        connect(shortcut, &QShortcut::activated, this, [this, mode = page.mode] {
             if (m_state.mode() != mode)
-                toggleMode(mode);
+                enter(mode);
         });
     }
 }
 
 RowListView &ContentView::list() const
 {
-    QWidget *page = m_stack->currentWidget();
-    auto *rows = qobject_cast<RowListView *>(page);
-    return rows ? *rows : *page->findChild<RowListView *>();
+    return *m_pages[qsizetype(m_state.mode())].list;
 }
 
 // Modes
 
-void ContentView::toggleMode(PanelMode mode)
+void ContentView::enter(PanelMode mode)
 {
-    m_state.setMode(m_state.mode() == mode ? PanelMode::Timeline : mode);
-    if (m_state.mode() == PanelMode::Timeline || m_state.mode() == PanelMode::Tags)
+    m_state.setMode(mode);
+    if (hasComposer(mode))
         QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
     else if (!list().enter())
         list().setFocus();
+}
+
+void ContentView::toggle(PanelMode mode)
+{
+    enter(m_state.mode() == mode ? PanelMode::Timeline : mode);
 }
 
 void ContentView::modeDidChange()
@@ -189,7 +195,7 @@ void ContentView::modeDidChange()
         each.button->setHelp(each.mode == mode ? L10n::text("返回时间线") : title(each.mode));
     }
     m_stack->setCurrentIndex(int(mode));
-    m_composer->setVisible(mode == PanelMode::Timeline || mode == PanelMode::Tags);
+    m_composer->setVisible(hasComposer(mode));
     m_trashBar->setVisible(mode == PanelMode::Trash);
     if (isVisible())
         timeDidPass();
@@ -229,10 +235,10 @@ bool ContentView::escape()
 
 void ContentView::timeDidPass()
 {
-    // What is not seen waits until it is.
+    // The other lists are brought up to date when they are shown.
     switch (m_state.mode()) {
     case PanelMode::Timeline:
-        m_model->timeDidPass();
+        m_timelineModel->timeDidPass();
         break;
     case PanelMode::Reminders:
         m_reminderModel->timeDidPass();
@@ -264,5 +270,5 @@ void ContentView::showEvent(QShowEvent *event)
 void ContentView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    m_nextMinute.stop(); // nobody sees it
+    m_nextMinute.stop();
 }

@@ -22,8 +22,8 @@ class TagListView;
 class TimelineModel;
 class TrashModel;
 
-/// The whole content of the panel: the top bar, the list of the present mode, and what stands below it. Owns
-/// the panel's working state.
+/// The content of the panel: the top bar, the list of the current mode, and the composer or what takes its
+/// place below. Owns the panel's working state.
 class ContentView final : public QWidget
 {
     Q_OBJECT
@@ -33,8 +33,7 @@ public:
         PageTitleFetching &titles, const Clock &clock, QWidget *parent = nullptr);
 
     [[nodiscard]] PanelState &state() { return m_state; }
-    [[nodiscard]] NoteListView &timeline() { return *m_timeline; }
-    [[nodiscard]] bool isComposing() const;
+    [[nodiscard]] bool isComposing() const; ///< an input method is composing in the field
     /// Undoes the innermost thing that Escape undoes within the panel; false when there is none.
     bool escape();
 
@@ -43,37 +42,43 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    struct Page {
+        PanelMode mode;
+        QWidget *widget = nullptr; ///< between top bar and composer: the list, perhaps with more around it
+        RowListView *list = nullptr;
+    };
+    struct ModeButton {
+        PanelMode mode;
+        BarButton *button = nullptr;
+    };
+
     void addModeButton(QLayout &bar, PanelMode mode, const QString &symbol);
+    void addPage(const Page &page);
+    void addReminders();
+    void addTrash();
     void addShortcuts();
-    void addReminders(ReminderStore &reminders);
-    void addTags(NoteStore &notes);
-    void addTrash(NoteStore &notes);
-    void toggleMode(PanelMode mode);
+    [[nodiscard]] RowListView &list() const; ///< of the current mode
+    void enter(PanelMode mode);
+    void toggle(PanelMode mode);
     void modeDidChange();
     void selectTag(const QString &tag);
     void timeDidPass();
     void waitForNextMinute();
-    [[nodiscard]] RowListView &list() const; ///< of the present mode
-
-    struct ModeButton {
-        PanelMode mode;
-        BarButton *button;
-    };
 
     PanelState m_state;
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;
-    TimelineModel *m_model = nullptr;
+    TimelineModel *m_timelineModel = nullptr;
     NoteListView *m_timeline = nullptr;
     ComposerView *m_composer = nullptr;
     TagListView *m_tags = nullptr;
     ReminderModel *m_reminderModel = nullptr;
     TrashModel *m_trashModel = nullptr;
-    QWidget *m_permissionBanner = nullptr;
     QLabel *m_title = nullptr;
-    QList<ModeButton> m_modeButtons;
-    QStackedLayout *m_stack = nullptr; ///< a page for each mode, in their order
+    QList<ModeButton> m_modeButtons; ///< the timeline has none
+    QStackedLayout *m_stack = nullptr;
+    QList<Page> m_pages; ///< in the order of the modes
     CapsuleButton *m_emptyTrash = nullptr;
     QWidget *m_trashBar = nullptr; ///< below the trash, in place of the composer
     QTimer m_nextMinute;
