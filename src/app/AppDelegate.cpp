@@ -1,34 +1,18 @@
 #include "app/AppDelegate.h"
 
 #include "app/PanelController.h"
-#include "desktop/DesktopNotificationCenter.h"
 #include "model/NoteStore.h"
+#include "model/NotificationScheduling.h"
 #include "model/ReminderStore.h"
 #include "ui/panel/PanelState.h"
 
 #include <QUuid>
 
-AppDelegate::AppDelegate(
-    DesktopNotificationCenter &notifications, NoteStore &notes, PanelController &panel, QObject *parent)
+AppDelegate::AppDelegate(NoteStore &notes, PanelController &panel, QObject *parent)
     : QObject(parent)
-    , m_notifications(notifications)
     , m_notes(notes)
     , m_panel(panel)
 {
-}
-
-void AppDelegate::didFinishLaunching()
-{
-    connect(&m_notifications, &DesktopNotificationCenter::willPresent, this,
-        &AppDelegate::willPresentNotification);
-    connect(
-        &m_notifications, &DesktopNotificationCenter::didReceive, this, &AppDelegate::didReceiveNotification);
-    connect(
-        &m_notifications, &DesktopNotificationCenter::didSnooze, this, &AppDelegate::didSnoozeNotification);
-    m_hotKey.registerHandler([this] {
-        m_panel.toggle();
-        m_hotKey.handOnKeysTo(m_panel.openWindow());
-    });
 }
 
 void AppDelegate::willPresentNotification()

@@ -11,33 +11,31 @@ void GlobalHotKey::registerHandler(std::function<void()> handler)
     m_handler = std::move(handler);
     if (!isFirst)
         return;
-    const auto tellFailure = [](const QString &message) {
-        Log::line(QStringLiteral("failed to register global hotkey: ") + message);
+    const auto request = [this]<typename Key>(std::unique_ptr<Key> &key) {
+        key = std::make_unique<Key>();
+        connect(key.get(), &Key::pressed, this, &GlobalHotKey::fire);
+        connect(key.get(), &Key::failed, this, [](const QString &message) {
+            Log::line(QStringLiteral("failed to register global hotkey: ") + message);
+        });
+        key->request();
     };
-    if (X11HotKey::isPossible()) {
-        connect(&m_x11, &X11HotKey::pressed, this, &GlobalHotKey::fire);
-        if (const Outcome grabbed = m_x11.grab(); !grabbed)
-            tellFailure(grabbed.message());
-    } else {
-        m_portal = std::make_unique<PortalHotKey>();
-        connect(m_portal.get(), &PortalHotKey::pressed, this, &GlobalHotKey::fire);
-        connect(m_portal.get(), &PortalHotKey::failed, this, tellFailure);
-        m_portal->request();
-    }
+    if (X11HotKey::isPossible())
+        request(m_x11);
+    else
+        request(m_portal);
 }
 
-void GlobalHotKey::handOnKeysTo(const QWindow *window)
+void GlobalHotKey::releaseKeyboardTo(const QWindow *window)
 {
+    if (!m_x11)
+        return;
     if (window)
-        m_x11.releaseKeyboardTo(std::uint32_t(window->winId()));
+        m_x11->releaseKeyboardTo(std::uint32_t(window->winId()));
     else
-        m_x11.releaseKeyboard();
+        m_x11->releaseKeyboard();
 }
 
 void GlobalHotKey::fire()
 {
-    QTimer::singleShot(0, this, [this] {
-        if (m_handler)
-            m_handler();
-    });
+    QTimer::singleShot(0, this, [this] { m_handler(); });
 }

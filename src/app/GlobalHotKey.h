@@ -10,8 +10,8 @@
 
 class QWindow;
 
-/// Control+Alt+Space, whatever program has the focus: taken by ourselves on X11, through the desktop's portal
-/// elsewhere. A key that cannot be had is one line in the log.
+/// Control+Alt+Space, whichever program has the focus: grabbed on X11, requested from the desktop portal
+/// elsewhere. A failure is logged.
 class GlobalHotKey final : public QObject
 {
     Q_OBJECT
@@ -23,14 +23,14 @@ public:
     /// runs.
     void registerHandler(std::function<void()> handler);
 
-    /// To be called when the handler has done its work: what is typed after the press goes to @p window once
-    /// it has the focus, or without one to whoever has it.
-    void handOnKeysTo(const QWindow *window);
+    /// To be called at the end of the handler: keys typed since the press go to @p window once it has the
+    /// focus, or without one to the window that has it.
+    void releaseKeyboardTo(const QWindow *window);
 
 private:
     void fire();
 
-    X11HotKey m_x11;
-    std::unique_ptr<PortalHotKey> m_portal; ///< only where there is no X11
+    std::unique_ptr<X11HotKey> m_x11; ///< one of the two, once a handler is registered
+    std::unique_ptr<PortalHotKey> m_portal;
     std::function<void()> m_handler;
 };

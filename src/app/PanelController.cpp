@@ -15,7 +15,7 @@
 #include <algorithm>
 
 namespace {
-FloatingFrame::Backdrop presentBackdrop()
+FloatingFrame::Backdrop currentBackdrop()
 {
     switch (Compositor::kind()) {
     case Compositor::Kind::None:
@@ -30,15 +30,15 @@ FloatingFrame::Backdrop presentBackdrop()
 } // namespace
 
 PanelController::PanelController(
-    std::function<ContentView *()> makeContent, std::function<QRect()> iconPlace, QObject *parent)
+    std::function<ContentView *()> makeContent, std::function<QRect()> iconRect, QObject *parent)
     : QObject(parent)
     , m_makeContent(std::move(makeContent))
-    , m_iconPlace(std::move(iconPlace))
+    , m_iconRect(std::move(iconRect))
 {
-    constexpr std::chrono::milliseconds aMoment{100};
-    m_placeCheck.setSingleShot(true);
-    m_placeCheck.setInterval(aMoment);
-    connect(&m_placeCheck, &QTimer::timeout, this, &PanelController::insistOnPlace);
+    constexpr std::chrono::milliseconds checkInterval{100};
+    m_positionCheck.setSingleShot(true);
+    m_positionCheck.setInterval(checkInterval);
+    connect(&m_positionCheck, &QTimer::timeout, this, &PanelController::keepPosition);
 }
 
 PanelController::~PanelController() = default;
@@ -53,25 +53,25 @@ void PanelController::prepare()
 
 void PanelController::makeWindow()
 {
-    const FloatingFrame::Backdrop backdrop = presentBackdrop();
+    const FloatingFrame::Backdrop backdrop = currentBackdrop();
     if (m_window && m_window->frame().backdrop() == backdrop)
         return;
     if (m_window)
         m_window->releaseContent();
     m_window = std::make_unique<PanelWindow>(m_content, backdrop);
     connect(m_window.get(), &PanelWindow::focusLost, this, [this] {
-        constexpr std::chrono::milliseconds aClick{400};
-        m_sameClick.setRemainingTime(aClick);
+        constexpr std::chrono::milliseconds clickDuration{400};
+        m_closingClick.setRemainingTime(clickDuration);
         close();
     });
     connect(m_window.get(), &PanelWindow::escaped, this, [this] {
         close();
         m_content->state().panelDidToggle();
     });
-    m_window->winId(); // the platform's window too
+    m_window->winId(); // creates the native window
     if (backdrop == FloatingFrame::Backdrop::Blurred)
         X11::blurBehind(*m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
-    m_window->grab(); // and all that the first painting costs: fonts, layouts, symbols
+    m_window->grab(); // does what the first painting needs: fonts, layouts, symbols
 }
 
 PanelState &PanelController::state()
@@ -93,15 +93,16 @@ const QWindow *PanelController::openWindow() const
 void PanelController::open()
 {
     prepare();
-    // A window manager may call it iconic while another workspace is shown, and Qt would show it so.
+    // Some window managers report the window as minimized while another workspace is shown; Qt would show it
+    // minimized.
     m_window->setWindowState(Qt::WindowNoState);
     if (isOpen()) {
         m_window->raise();
         m_window->activateWindow();
         return;
     }
-    makeWindow(); // a compositor may have come or gone
-    place();
+    makeWindow(); // anew if a compositor has come or gone
+    moveToIcon();
     if (X11::connection())
         X11::keepOutOfTaskbars(*m_window->windowHandle());
     m_window->show();
@@ -128,42 +129,43 @@ void PanelController::toggle()
 
 void PanelController::toggleByClick()
 {
-    if (isOpen() || m_sameClick.hasExpired())
+    if (isOpen() || m_closingClick.hasExpired())
         toggle();
 }
 
-void PanelController::place()
+void PanelController::moveToIcon()
 {
-    // On the screen where the person is; before it is shown, or it would be seen jumping.
+    // On the screen that holds the pointer; before the window is shown, or it would be seen jumping.
     const QScreen *screen = QGuiApplication::primaryScreen();
-    if (QGuiApplication::screens().size() > 1) { // to ask where the pointer is takes a while
+    if (QGuiApplication::screens().size() > 1) { // asking for the pointer's position is slow
         if (const QScreen *pointed = QGuiApplication::screenAt(QCursor::pos()))
             screen = pointed;
     }
-    // Beside the icon, as close as the bar that holds it leaves room; else in the corner.
+    // Next to the icon, within the space that panels and docks leave free; in the corner if the icon is
+    // unknown.
     const int margin = Design::panelMargin - m_window->frame().margin();
     const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
-    const QRect icon = m_iconPlace();
+    const QRect icon = m_iconRect();
     QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
     const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
-    m_place = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
+    m_position = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),
         std::max(available.top(), std::min(panel.top(), available.bottom() + 1 - panel.height()))};
-    m_window->move(m_place);
+    m_window->move(m_position);
     if (X11::connection()) {
-        m_placeChecks = 3;
-        m_placeCheck.start();
+        m_positionChecks = 3;
+        m_positionCheck.start();
     }
 }
 
-void PanelController::insistOnPlace()
+void PanelController::keepPosition()
 {
-    // While a window manager puts the window into its frame, Qt may take it to be in the corner of the
-    // screen, and with it the input method and the popovers. A window manager that wants it elsewhere gets
-    // its way in the end.
+    // While a window manager reparents the window into its frame, Qt may believe the window to be in the
+    // corner of the screen, and would open input method windows and popovers there. After a few attempts a
+    // window manager that wants another position gets it.
     QWindow *window = m_window->windowHandle();
-    if (!window->isVisible() || window->position() == m_place || --m_placeChecks < 0)
+    if (!window->isVisible() || window->position() == m_position || --m_positionChecks < 0)
         return;
-    window->setPosition(m_place);
-    m_placeCheck.start();
+    window->setPosition(m_position);
+    m_positionCheck.start();
 }

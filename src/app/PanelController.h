@@ -13,41 +13,40 @@ class PanelState;
 class PanelWindow;
 class QWindow;
 
-/// Opens and closes the panel. The window is built before it is first needed and kept, so that it opens at
-/// once.
+/// Opens and closes the panel. The window is built before it is first needed, and kept, so that it opens
+/// without delay.
 class PanelController final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p iconPlace tells where the tray's icon is on the screen, or an empty place.
-    PanelController(std::function<ContentView *()> makeContent, std::function<QRect()> iconPlace,
+    /// @p iconRect returns the tray icon's rectangle on the screen, empty if unknown.
+    PanelController(std::function<ContentView *()> makeContent, std::function<QRect()> iconRect,
         QObject *parent = nullptr);
     ~PanelController() override;
 
     void prepare(); ///< builds the panel, hidden
     void open();    ///< a panel that is open already only gets the focus
     void toggle();
-    /// As toggle(), but for the click that took the focus from the panel, which so is closed already.
+    /// Like toggle(), but ignores the click that has just closed the panel.
     void toggleByClick();
-    [[nodiscard]] bool isOpen() const;
-    [[nodiscard]] const QWindow *openWindow() const; ///< nothing while the panel is closed
+    [[nodiscard]] const QWindow *openWindow() const; ///< null while the panel is closed
 
-    /// What is posted to the panel from outside.
-    [[nodiscard]] PanelState &state();
+    [[nodiscard]] PanelState &state(); ///< builds the panel if necessary
 
 private:
+    [[nodiscard]] bool isOpen() const;
     void makeWindow();
     void close();
-    void place();
-    void insistOnPlace();
+    void moveToIcon();
+    void keepPosition();
 
     std::function<ContentView *()> m_makeContent;
-    std::function<QRect()> m_iconPlace;
-    QPoint m_place;        ///< of the window
-    int m_placeChecks = 0; ///< still to come
-    QTimer m_placeCheck;
-    QDeadlineTimer m_sameClick;       ///< until when a click may be the one that closed the panel
+    std::function<QRect()> m_iconRect;
+    QPoint m_position;
+    int m_positionChecks = 0; ///< left to do
+    QTimer m_positionCheck;
+    QDeadlineTimer m_closingClick;    ///< until when a click may be the one that has closed the panel
     ContentView *m_content = nullptr; ///< owned by the window
     std::unique_ptr<PanelWindow> m_window;
 };

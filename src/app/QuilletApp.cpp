@@ -10,8 +10,8 @@
 #include <QTimer>
 
 namespace {
-/// The panel is built after the desktop has taken in the icon, unless it is wanted sooner.
-constexpr std::chrono::milliseconds timeToSettle{200};
+/// The panel is built after the desktop has received the icon, unless it is opened before.
+constexpr std::chrono::milliseconds panelDelay{200};
 } // namespace
 
 QuilletApp::QuilletApp(Start start)
@@ -24,45 +24,59 @@ QuilletApp::QuilletApp(Start start)
               m_dateDetector.prepare();
               m_notes.prepareSearch();
               m_appearance.follow();
-              // Not before the tray has its icon: it takes a library more.
+              // After the tray has its icon, because this loads a library more.
               QApplication::setWindowIcon(
                   QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
               return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
           },
-          [this] { return m_statusBar.iconPlace(); })
-    , m_delegate(m_notifications, m_notes, m_panel)
+          [this] { return m_statusBar.iconRect(); })
+    , m_delegate(m_notes, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);
     m_notes.setEmbeddingProvider(&m_embeddings);
-    connect(&m_notifications, &DesktopNotificationCenter::authorizationChanged, &m_reminders,
-        &ReminderStore::refreshAuthorizationStatus);
-
-    connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggleByClick);
-    connect(&m_statusBar, &StatusBarMenu::importChosen, this,
-        [this] { ImportExport::importNotes(m_notes, m_clock); });
-    connect(&m_statusBar, &StatusBarMenu::exportChosen, this,
-        [this] { ImportExport::exportNotes(m_notes, m_clock); });
+    connectAll();
     if (start != Start::Hidden)
-        connect(&m_statusBar, &StatusBarMenu::noTray, &m_panel, &PanelController::open);
-    connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
-    connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
-
-    connect(&m_appearance, &Appearance::schemeChanged, this, &QuilletApp::applyAppearance);
+        connect(&m_statusBar, &StatusBarMenu::trayMissing, &m_panel, &PanelController::open);
     applyAppearance();
 
-    m_delegate.didFinishLaunching(); // whoever sees the icon can press the hot key
+    // Before the icon: once that is visible, the hot key must work.
+    m_hotKey.registerHandler([this] {
+        m_panel.toggle();
+        m_hotKey.releaseKeyboardTo(m_panel.openWindow());
+    });
     m_statusBar.install();
     presentMissedReminders();
     m_service.publish();
     if (start == Start::Open)
         m_panel.open();
     else
-        QTimer::singleShot(timeToSettle, &m_panel, &PanelController::prepare);
+        QTimer::singleShot(panelDelay, &m_panel, &PanelController::prepare);
+}
+
+void QuilletApp::connectAll()
+{
+    connect(&m_notifications, &DesktopNotificationCenter::authorizationChanged, &m_reminders,
+        &ReminderStore::refreshAuthorizationStatus);
+    connect(&m_notifications, &DesktopNotificationCenter::willPresent, &m_delegate,
+        &AppDelegate::willPresentNotification);
+    connect(&m_notifications, &DesktopNotificationCenter::didReceive, &m_delegate,
+        &AppDelegate::didReceiveNotification);
+    connect(&m_notifications, &DesktopNotificationCenter::didSnooze, &m_delegate,
+        &AppDelegate::didSnoozeNotification);
+
+    connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggleByClick);
+    connect(&m_statusBar, &StatusBarMenu::importChosen, this,
+        [this] { ImportExport::importNotes(m_notes, m_clock); });
+    connect(&m_statusBar, &StatusBarMenu::exportChosen, this,
+        [this] { ImportExport::exportNotes(m_notes, m_clock); });
+    connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
+    connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
+    connect(&m_appearance, &Appearance::schemeChanged, this, &QuilletApp::applyAppearance);
 }
 
 void QuilletApp::applyAppearance()
 {
-    // Without a preference it is as the desktop's own palette.
+    // Without a preference the desktop's own palette decides.
     static const bool isDarkByPalette = NoteStyle::isDark(QGuiApplication::palette());
     const bool isDark = m_appearance.scheme() == Appearance::Scheme::NoPreference
                             ? isDarkByPalette
@@ -72,8 +86,8 @@ void QuilletApp::applyAppearance()
 
 void QuilletApp::presentMissedReminders()
 {
-    // The store submits only what is still to come; what came due while nobody was there to show it is shown
-    // now.
+    // The store submits only future reminders. Those that came due while the program was not running are
+    // shown now.
     const Instant now = m_clock.now();
     for (const Reminder &reminder : m_reminders.reminders()) {
         if (reminder.fireAt <= now)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/GlobalHotKey.h"
 #include "app/PanelController.h"
 #include "app/StatusBarMenu.h"
 #include "desktop/Appearance.h"
@@ -15,35 +16,40 @@
 
 #include <QObject>
 
-/// The wiring of the program. Members stand in the order in which they start and are destroyed in reverse.
+/// The wiring of the program. Members are declared in the order in which they start, and destroyed in
+/// reverse.
 class QuilletApp final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// With the panel open; in the tray, or open where there is none; or in the tray whether there is one or
-    /// not.
-    enum class Start { Open, Quiet, Hidden };
+    enum class Start {
+        Open,
+        Quiet, ///< without the panel, unless there is no tray
+        Hidden,
+    };
 
     explicit QuilletApp(Start start);
 
 private:
-    void presentMissedReminders();
+    void connectAll();
     void applyAppearance();
+    void presentMissedReminders();
 
-    // What the machine provides
+    // Services of the system
     SystemClock m_clock;
     DateDetector m_dateDetector;
     PageTitleFetcher m_titles;
     ConceptEmbeddingProvider m_embeddings;
     Appearance m_appearance;
     DesktopNotificationCenter m_notifications;
-    // What is owned
+    // Data
     ReminderStore m_reminders;
     NoteStore m_notes;
-    // What is seen
+    // User interface
     PanelController m_panel;
     StatusBarMenu m_statusBar;
     ApplicationService m_service;
     AppDelegate m_delegate;
+    GlobalHotKey m_hotKey;
 };

@@ -11,16 +11,18 @@
 #include <QTimer>
 
 namespace {
-constexpr std::chrono::seconds aWhile{2};
+constexpr std::chrono::seconds embedTimeout{2};
 
 QIcon icon(TrayHost::Kind kind)
 {
-    // An XEmbed tray tells nobody its colour: a light drawing with a dark edge can be seen on any. Other
-    // hosts colour a symbolic icon as they do their own.
-    const auto own = [](const QList<int> &sizes) { return Symbol::icon(QStringLiteral("tray"), {}, sizes); };
+    // The colour of an XEmbed tray is unknown: a light drawing with a dark edge is visible on any. Other
+    // hosts recolour a symbolic icon to match their own.
+    const auto drawn = [](const QList<int> &sizes) {
+        return Symbol::icon(QStringLiteral("tray"), {}, sizes);
+    };
     if (kind == TrayHost::Kind::XEmbed)
-        return own({22, 44});
-    return QIcon::fromTheme(ApplicationIdentity::id + QStringLiteral("-symbolic"), own({16, 22, 32, 64}));
+        return drawn({22, 44});
+    return QIcon::fromTheme(ApplicationIdentity::id + QStringLiteral("-symbolic"), drawn({16, 22, 32, 64}));
 }
 } // namespace
 
@@ -28,7 +30,7 @@ StatusBarMenu::StatusBarMenu(QObject *parent)
     : QObject(parent)
 {
     connect(&m_host, &TrayHost::appeared, this, &StatusBarMenu::makeIcon);
-    connect(&m_host, &TrayHost::missing, this, &StatusBarMenu::noTray);
+    connect(&m_host, &TrayHost::missing, this, &StatusBarMenu::trayMissing);
 }
 
 StatusBarMenu::~StatusBarMenu() = default;
@@ -38,11 +40,11 @@ void StatusBarMenu::install()
     m_host.watch();
 }
 
-QRect StatusBarMenu::iconPlace() const
+QRect StatusBarMenu::iconRect() const
 {
-    const QRect place = m_icon ? m_icon->geometry() : QRect();
-    // Until the tray has taken it in, it says that it is in the very corner.
-    return place.topLeft().isNull() ? QRect() : place;
+    const QRect rect = m_icon ? m_icon->geometry() : QRect();
+    // The corner of the screen is reported until the tray has embedded the icon.
+    return rect.topLeft().isNull() ? QRect() : rect;
 }
 
 void StatusBarMenu::makeIcon(TrayHost::Kind kind)
@@ -58,20 +60,19 @@ void StatusBarMenu::makeIcon(TrayHost::Kind kind)
     m_icon->setContextMenu(m_menu.get());
     connect(
         m_icon.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-            // Where one click opens the menu, a second or the middle button comes here.
+            // Where a click opens the menu, a double click or the middle button arrives here.
             if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
                 Q_EMIT clicked();
         });
     m_icon->show();
     if (kind == TrayHost::Kind::XEmbed) {
-        // Started right after it was killed, its window bears the number of the one before, and a tray that
-        // has not noticed yet leaves it alone.
-        QTimer::singleShot(aWhile, this, [this] {
-            if (iconPlace().isEmpty()) {
+        // Right after the program was killed and restarted, the icon's window may get the id of the previous
+        // one, and a tray that has not noticed the end of that one ignores it.
+        QTimer::singleShot(embedTimeout, this, [this] {
+            if (iconRect().isEmpty()) {
                 m_icon->hide();
                 m_icon->show();
             }
         });
     }
-    Q_EMIT shown();
 }

@@ -10,7 +10,7 @@
 class QMenu;
 class QSystemTrayIcon;
 
-/// The icon in the tray and its menu. The icon is made when there is a tray to show it.
+/// The icon in the tray and its menu. The icon is created when there is a tray to show it.
 class StatusBarMenu final : public QObject
 {
     Q_OBJECT
@@ -20,14 +20,13 @@ public:
     ~StatusBarMenu() override;
 
     void install();
-    [[nodiscard]] QRect iconPlace() const; ///< on the screen; empty where the desktop does not tell
+    [[nodiscard]] QRect iconRect() const; ///< on the screen; empty if the desktop does not report it
 
 Q_SIGNALS:
     void clicked();
     void importChosen();
     void exportChosen();
-    void shown();
-    void noTray(); ///< none has come for a while
+    void trayMissing(); ///< none after two seconds; one may still appear
 
 private:
     void makeIcon(TrayHost::Kind kind);

@@ -16,7 +16,7 @@ struct Options {
     bool isHidden = false;
 };
 
-/// For a start with any argument: to tell the options takes no window and disturbs no running program.
+/// Needs neither a display nor the data folder, so that --help works while the program runs.
 Options optionsOf(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
@@ -29,7 +29,7 @@ Options optionsOf(int argc, char *argv[])
     const QCommandLineOption hidden(
         QStringLiteral("hidden"), QStringLiteral("Shows no window, the very first time too."));
     parser.addOptions({toggle, hidden});
-    // What is not known here is Qt's, as -session is, with which a session brings back what ran at its end.
+    // Unknown options belong to Qt, for example -session.
     (void)parser.parse(QCoreApplication::arguments());
     if (parser.isSet(help))
         parser.showHelp();
@@ -58,11 +58,12 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(ApplicationIdentity::id);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    // Qt's own words, in the file dialogs and in the menu of the field, are in the interface language too.
-    QTranslator qtWords;
-    if (qtWords.load(QStringLiteral("qtbase_") + QString::fromLatin1(L10n::locale(L10n::currentLanguage())),
+    // For Qt's own texts, in the file dialogs and in the menu of the field.
+    QTranslator qtTranslator;
+    if (qtTranslator.load(
+            QStringLiteral("qtbase_") + QString::fromLatin1(L10n::locale(L10n::currentLanguage())),
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&qtWords);
+        QCoreApplication::installTranslator(&qtTranslator);
     using Start = QuilletApp::Start;
     const QuilletApp quillet(options.isHidden                                 ? Start::Hidden
                              : options.toggles || instance.isVeryFirstStart() ? Start::Open

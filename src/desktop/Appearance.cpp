@@ -1,12 +1,9 @@
 #include "desktop/Appearance.h"
 
+#include "desktop/DBusCall.h"
 #include "desktop/DesktopPortal.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 namespace {
 using DesktopPortal::path;
@@ -18,18 +15,16 @@ const QString key = QStringLiteral("color-scheme");
 
 void Appearance::follow()
 {
-    qDBusRegisterMetaType<QDBusVariant>(); // which Qt itself does later than the first signal is connected
+    // The signal cannot be connected before; Qt itself registers the type only at its first call.
+    qDBusRegisterMetaType<QDBusVariant>();
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
         SLOT(onSettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
     call << group << key;
-    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {
-        const QDBusPendingReply<QDBusVariant> reply = *finished;
+    DBusCall::send<QDBusVariant>(bus, call, this, [this](const auto &reply) {
         if (reply.isValid())
-            take(reply.value().variant());
-        finished->deleteLater();
+            setScheme(reply.value().variant());
     });
 }
 
@@ -37,12 +32,12 @@ void Appearance::onSettingChanged(
     const QString &changedGroup, const QString &changedKey, const QDBusVariant &value)
 {
     if (changedGroup == group && changedKey == key)
-        take(value.variant());
+        setScheme(value.variant());
 }
 
-void Appearance::take(const QVariant &value)
+void Appearance::setScheme(const QVariant &value)
 {
-    // The answer to a question is wrapped once more than the news of a change.
+    // The reply to Read is wrapped in a variant once more than the signal's value.
     const bool isWrapped = value.metaType() == QMetaType::fromType<QDBusVariant>();
     const QVariant plain = isWrapped ? value.value<QDBusVariant>().variant() : value;
     const uint number = plain.toUInt();

@@ -3,7 +3,7 @@
 #include <QDBusVariant>
 #include <QObject>
 
-/// Whether the desktop is light or dark, as its settings portal tells, and when that changes.
+/// Whether the desktop is light or dark, as reported by its settings portal, and when that changes.
 class Appearance final : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
 
     using QObject::QObject;
 
-    /// Asks, and listens from then on. Never blocks; without a portal there is no preference.
+    /// Asks the portal and follows its changes. Never blocks; without a portal there is no preference.
     void follow();
     [[nodiscard]] Scheme scheme() const { return m_scheme; }
 
@@ -24,7 +24,7 @@ private Q_SLOTS:
     void onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
-    void take(const QVariant &value);
+    void setScheme(const QVariant &value);
 
     Scheme m_scheme = Scheme::NoPreference;
 };

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-/// The one name under which the desktop knows Quillet: of its desktop file, its bus name, its icon, its
-/// notifications.
+/// The application ID: the name of the desktop file, the icon and the service on the session bus.
 namespace ApplicationIdentity {
 inline const QString id = QStringLiteral("io.github.quillet.Quillet");
 inline const QString objectPath = QStringLiteral("/io/github/quillet/Quillet");

@@ -1,5 +1,6 @@
 #include "desktop/ApplicationService.h"
 
+#include "desktop/ActivationToken.h"
 #include "desktop/ApplicationIdentity.h"
 #include "foundation/Log.h"
 
@@ -9,15 +10,12 @@
 
 namespace {
 const QString activationToken = QStringLiteral("activation-token");
-const QString toggleAction = QStringLiteral("toggle");
 const QString startupID = QStringLiteral("desktop-startup-id");
+const QString toggleAction = QStringLiteral("toggle");
 
-/// Hands the leave to take the focus on to where Qt looks for it.
-void takeToken(const QVariantMap &platformData)
+void setActivationToken(const QVariantMap &platformData)
 {
-    const QString token = platformData.value(activationToken, platformData.value(startupID)).toString();
-    if (!token.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    ActivationToken::set(platformData.value(activationToken, platformData.value(startupID)).toString());
 }
 } // namespace
 
@@ -28,7 +26,7 @@ ApplicationService::ApplicationService(QObject *parent)
 
 void ApplicationService::publish()
 {
-    // The object before the name: whoever sees the name may call at once.
+    // The object before the name: the name may be called as soon as it is seen.
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.registerObject(ApplicationIdentity::objectPath, this, QDBusConnection::ExportAllSlots)
         || !bus.registerService(ApplicationIdentity::id))
@@ -38,8 +36,8 @@ void ApplicationService::publish()
 void ApplicationService::callRunning(Call call)
 {
     QVariantMap platformData;
-    if (qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
-        platformData.insert(activationToken, qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
+    if (const QString token = ActivationToken::current(); !token.isEmpty())
+        platformData.insert(activationToken, token);
     if (qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"))
         platformData.insert(startupID, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
     const bool toggles = call == Call::Toggle;
@@ -51,12 +49,12 @@ void ApplicationService::callRunning(Call call)
     message << platformData;
     const QDBusMessage reply = QDBusConnection::sessionBus().call(message, QDBus::Block, 5000);
     if (reply.type() == QDBusMessage::ErrorMessage)
-        Log::line(QStringLiteral("already runs, and cannot be asked to open: ") + reply.errorMessage());
+        Log::line(QStringLiteral("cannot call the running instance: ") + reply.errorMessage());
 }
 
 void ApplicationService::Activate(const QVariantMap &platformData)
 {
-    takeToken(platformData);
+    setActivationToken(platformData);
     Q_EMIT activated();
 }
 
@@ -68,7 +66,7 @@ void ApplicationService::Open(const QStringList &, const QVariantMap &platformDa
 void ApplicationService::ActivateAction(
     const QString &name, const QVariantList &, const QVariantMap &platformData)
 {
-    takeToken(platformData);
+    setActivationToken(platformData);
     if (name == toggleAction)
         Q_EMIT toggled();
 }

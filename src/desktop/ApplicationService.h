@@ -4,8 +4,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// What the desktop, a launcher or a second start may ask of the running program:
-/// org.freedesktop.Application.
+/// The D-Bus service org.freedesktop.Application, by which the desktop, a launcher or a second start opens
+/// the panel of the running program.
 class ApplicationService final : public QObject
 {
     Q_OBJECT
@@ -14,11 +14,11 @@ class ApplicationService final : public QObject
 public:
     explicit ApplicationService(QObject *parent = nullptr);
 
-    /// Offers the service on the session bus; without a bus, or with the name taken, only a line in the log.
+    /// Registers the service on the session bus. A failure is logged.
     void publish();
 
     enum class Call { Activate, Toggle };
-    /// Asks the process that runs already to open its panel, or to close it where it is open.
+    /// Asks the running process to open its panel, or to toggle it. Blocks for at most five seconds.
     static void callRunning(Call call);
 
 public Q_SLOTS:

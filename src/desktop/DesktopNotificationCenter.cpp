@@ -5,14 +5,14 @@
 #include <algorithm>
 
 namespace {
-/// As many as are shown one by one; the older ones are gathered in one more.
-constexpr qsizetype mostShownAtOnce = 5;
+/// Shown one by one; all older ones are merged into one more notification.
+constexpr qsizetype maxSingleNotifications = 5;
 
-/// After a refusal: some servers answer a burst with one.
-constexpr std::chrono::seconds timeToRetry{2};
+/// After a refusal: some servers limit the rate.
+constexpr std::chrono::seconds retryDelay{2};
 
-/// Some servers refuse what is identical to one they have just shown, others take both for one.
-constexpr std::chrono::milliseconds timeBetweenIdenticalOnes{1100};
+/// Some servers refuse a notification identical to the previous one, others merge the two.
+constexpr std::chrono::milliseconds identicalDelay{1100};
 } // namespace
 
 QString DesktopNotificationCenter::body(const Bubble &bubble)
@@ -27,7 +27,7 @@ QList<DesktopNotificationCenter::Bubble> DesktopNotificationCenter::bubbles(
     const QList<NotificationRequest> &due)
 {
     QList<Bubble> bubbles;
-    const qsizetype older = std::max<qsizetype>(0, due.size() - mostShownAtOnce);
+    const qsizetype older = std::max<qsizetype>(0, due.size() - maxSingleNotifications);
     if (older > 0)
         bubbles.append(due.first(older));
     for (const NotificationRequest &request : due.sliced(older))
@@ -40,8 +40,8 @@ DesktopNotificationCenter::DesktopNotificationCenter(const Clock &clock, QObject
     , m_clock(clock)
 {
     connect(&m_timer, &WallClockTimer::woke, this, &DesktopNotificationCenter::presentDue);
-    connect(&m_server, &NotificationServer::availabilityChanged, this,
-        &DesktopNotificationCenter::onAvailabilityChanged);
+    connect(&m_server, &NotificationServer::availabilityDetermined, this,
+        &DesktopNotificationCenter::availabilityWasDetermined);
     connect(&m_server, &NotificationServer::closed, this, [this](uint id) { m_shown.remove(id); });
     connect(&m_server, &NotificationServer::clicked, this, [this](uint id) {
         if (const Bubble bubble = m_shown.take(id); !bubble.isEmpty())
@@ -53,34 +53,29 @@ DesktopNotificationCenter::DesktopNotificationCenter(const Clock &clock, QObject
     });
 }
 
-void DesktopNotificationCenter::whenKnown(std::function<void(bool)> completion)
-{
-    if (const auto isAvailable = m_server.isAvailable())
-        completion(*isAvailable);
-    else
-        m_waiting.push_back(std::move(completion));
-}
-
 void DesktopNotificationCenter::requestAuthorization(
     int, std::function<void(bool granted, const QString &error)> completion)
 {
-    whenKnown([completion = std::move(completion)](bool isAvailable) { completion(isAvailable, QString()); });
+    if (m_server.isAvailable()) {
+        completion(true, {});
+        return;
+    }
+    const auto complete = [this, completion = std::move(completion)] {
+        completion(m_server.isAvailable(), {});
+    };
+    connect(&m_server, &NotificationServer::availabilityDetermined, this, complete, Qt::SingleShotConnection);
+    m_server.query();
 }
 
 void DesktopNotificationCenter::notificationAuthorizationStatus(
     std::function<void(AuthorizationStatus)> completion)
 {
-    whenKnown([completion = std::move(completion)](bool isAvailable) {
-        completion(isAvailable ? AuthorizationStatus::Authorized : AuthorizationStatus::Denied);
-    });
+    completion(m_server.isAvailable() ? AuthorizationStatus::Authorized : AuthorizationStatus::Denied);
 }
 
-void DesktopNotificationCenter::onAvailabilityChanged()
+void DesktopNotificationCenter::availabilityWasDetermined()
 {
-    m_shown.clear(); // a new server counts anew
-    const bool isAvailable = *m_server.isAvailable();
-    for (const auto &completion : std::exchange(m_waiting, {}))
-        completion(isAvailable);
+    m_shown.clear(); // a new server starts its ids anew
     Q_EMIT authorizationChanged();
     presentDue();
 }
@@ -91,17 +86,17 @@ void DesktopNotificationCenter::add(const NotificationRequest &request)
         return other.identifier == request.identifier;
     };
     m_pending.removeIf(isSame);
-    const auto place = std::upper_bound(m_pending.begin(), m_pending.end(), request,
+    const auto position = std::upper_bound(m_pending.begin(), m_pending.end(), request,
         [](const NotificationRequest &a, const NotificationRequest &b) { return a.minute < b.minute; });
-    m_pending.insert(place, request);
+    m_pending.insert(position, request);
     armTimer();
 }
 
 void DesktopNotificationCenter::removePendingNotificationRequests(const QStringList &identifiers)
 {
-    // A request that is due but whose timer has not been heard yet must not be withdrawn by whoever tidies up
-    // what has expired: it is shown first.
-    if (m_server.isAvailable() == true)
+    // Pruning expired reminders withdraws their requests. One that is due, but whose timer event has not been
+    // handled yet, must be shown first.
+    if (m_server.isAvailable())
         presentDue();
     const auto isNamed = [&identifiers](const NotificationRequest &request) {
         return identifiers.contains(request.identifier);
@@ -132,9 +127,9 @@ bool DesktopNotificationCenter::collectDue()
 void DesktopNotificationCenter::presentDue()
 {
     const bool hasNew = collectDue();
-    if (m_server.isAvailable() != true) {
-        if (hasNew && m_server.isAvailable() == false)
-            m_server.query(); // there may be one that only needs to be started
+    if (!m_server.isAvailable()) {
+        if (hasNew)
+            m_server.query();
         return;
     }
     m_unshown += bubbles(std::exchange(m_due, {}));
@@ -143,25 +138,25 @@ void DesktopNotificationCenter::presentDue()
 
 void DesktopNotificationCenter::showBubbles()
 {
-    if (m_server.isAvailable() != true)
-        return; // they are shown when it comes back
-    m_shownLately.removeIf(
-        [](QHash<QString, QDeadlineTimer>::iterator lately) { return lately.value().hasExpired(); });
+    if (!m_server.isAvailable())
+        return; // shown when it is back
+    m_recentBodies.removeIf(
+        [](QHash<QString, QDeadlineTimer>::iterator recent) { return recent.value().hasExpired(); });
     const QList<Bubble> unshown = std::exchange(m_unshown, {});
     for (const Bubble &bubble : unshown) {
-        if (!m_shownLately.contains(body(bubble))) {
+        if (!m_recentBodies.contains(body(bubble))) {
             show(bubble);
             continue;
         }
         m_unshown.append(bubble);
-        QTimer::singleShot(timeBetweenIdenticalOnes, this, &DesktopNotificationCenter::showBubbles);
+        QTimer::singleShot(identicalDelay, this, &DesktopNotificationCenter::showBubbles);
     }
 }
 
 void DesktopNotificationCenter::show(const Bubble &bubble)
 {
     const QString text = body(bubble);
-    m_shownLately.insert(text, QDeadlineTimer(timeBetweenIdenticalOnes));
+    m_recentBodies.insert(text, QDeadlineTimer(identicalDelay));
     Q_EMIT willPresent();
     m_server.show({bubble.first().title, text}, [this, bubble](std::optional<uint> id) {
         if (id) {
@@ -169,6 +164,6 @@ void DesktopNotificationCenter::show(const Bubble &bubble)
             return;
         }
         m_unshown.append(bubble);
-        QTimer::singleShot(timeToRetry, this, &DesktopNotificationCenter::showBubbles);
+        QTimer::singleShot(retryDelay, this, &DesktopNotificationCenter::showBubbles);
     });
 }

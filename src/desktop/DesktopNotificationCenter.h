@@ -11,12 +11,11 @@
 #include <QObject>
 
 #include <functional>
-#include <vector>
 
 /// Holds notification requests in memory and shows each when its minute begins.
 ///
-/// A desktop has no permission to ask for: "authorized" means that a notification server answers, "denied"
-/// that none does. What comes due meanwhile is shown when one does.
+/// A desktop asks for no permission: "authorized" means that a notification server answers, "denied" that
+/// none does. Requests that come due without a server are shown when one answers.
 class DesktopNotificationCenter final : public QObject, public NotificationScheduling
 {
     Q_OBJECT
@@ -34,9 +33,9 @@ public:
 Q_SIGNALS:
     void willPresent();                     ///< a notification is about to be shown
     void didReceive(const QString &noteID); ///< a notification was clicked
-    /// What a notification said is to be said again later; once for each request that it stood for.
+    /// A notification was snoozed; once for each request that it stood for.
     void didSnooze(const NotificationRequest &request);
-    void authorizationChanged(); ///< a server came or went
+    void authorizationChanged(); ///< a server may have come or gone
 
 private:
     /// One notification on screen, which may stand for several requests.
@@ -45,20 +44,18 @@ private:
     [[nodiscard]] static QList<Bubble> bubbles(const QList<NotificationRequest> &due);
 
     void armTimer();
-    bool collectDue(); ///< whether there was any
+    bool collectDue(); ///< whether any has come due
     void presentDue();
     void showBubbles();
     void show(const Bubble &bubble);
-    void onAvailabilityChanged();
-    void whenKnown(std::function<void(bool isAvailable)> completion);
+    void availabilityWasDetermined();
 
     const Clock &m_clock;
     NotificationServer m_server;
     WallClockTimer m_timer;
-    QList<NotificationRequest> m_pending;         ///< the next one first
-    QList<NotificationRequest> m_due;             ///< while there is no server
-    QList<Bubble> m_unshown;                      ///< about to be shown
-    QHash<uint, Bubble> m_shown;                  ///< by the server's ids
-    QHash<QString, QDeadlineTimer> m_shownLately; ///< bodies, and until when the same may not be shown
-    std::vector<std::function<void(bool)>> m_waiting;
+    QList<NotificationRequest> m_pending;          ///< the next one first
+    QList<NotificationRequest> m_due;              ///< while there is no server
+    QList<Bubble> m_unshown;                       ///< about to be shown
+    QHash<uint, Bubble> m_shown;                   ///< by the server's ids
+    QHash<QString, QDeadlineTimer> m_recentBodies; ///< until when the same may not be shown
 };

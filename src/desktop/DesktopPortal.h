@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Where the desktop's portal is found on the session bus.
+/// The XDG desktop portal on the session bus.
 namespace DesktopPortal {
 inline const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
 inline const QString path = QStringLiteral("/org/freedesktop/portal/desktop");

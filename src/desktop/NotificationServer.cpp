@@ -1,12 +1,10 @@
 #include "desktop/NotificationServer.h"
 
+#include "desktop/ActivationToken.h"
 #include "desktop/ApplicationIdentity.h"
+#include "desktop/DBusCall.h"
 #include "text/L10n.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QTimer>
 #include <QVariantMap>
@@ -22,41 +20,34 @@ const QString defaultAction = QStringLiteral("default"); // a click on the body
 const QString openAction = QStringLiteral("open");
 const QString snoozeAction = QStringLiteral("snooze");
 
-/// To ask for the server may start it, which should not hold up the start of the program.
-constexpr std::chrono::milliseconds timeToStart{100};
+/// The first call may start the server, which should not delay the start of the program.
+constexpr std::chrono::milliseconds startDelay{100};
 
-/// A server that went away may be coming back on its own, or be startable; asking too soon would start a
-/// second one.
-constexpr std::chrono::seconds timeToComeBack{2};
+/// A server that has gone may be restarting; calling too soon would make the bus start a second one.
+constexpr std::chrono::seconds restartDelay{2};
 
 QDBusConnection bus()
 {
     return QDBusConnection::sessionBus();
 }
 
-/// Calls a method and hands the finished call on, to nobody when @p context has gone meanwhile.
-template <typename Handler>
-void call(const QString &method, const QVariantList &arguments, QObject *context, Handler &&handler)
+QDBusMessage call(const QString &method, const QVariantList &arguments = {})
 {
     QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, method);
     message.setArguments(arguments);
-    auto *watcher = new QDBusPendingCallWatcher(bus().asyncCall(message), context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
-        [handler = std::forward<Handler>(handler)](QDBusPendingCallWatcher *finished) {
-            finished->deleteLater();
-            handler(*finished);
-        });
+    return message;
 }
 } // namespace
 
 NotificationServer::NotificationServer(QObject *parent)
     : QObject(parent)
 {
-    QTimer::singleShot(timeToStart, this, &NotificationServer::attach);
+    QTimer::singleShot(startDelay, this, &NotificationServer::attach);
 }
 
 void NotificationServer::attach()
 {
+    m_isQuerying = false;
     auto *watcher = new QDBusServiceWatcher(service, bus(), QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString &, const QString &, const QString &newOwner) { onOwnerChanged(newOwner); });
@@ -72,41 +63,41 @@ void NotificationServer::attach()
 
 void NotificationServer::query()
 {
-    call(QStringLiteral("GetCapabilities"), {}, this, [this](const QDBusPendingCall &finished) {
-        const QDBusPendingReply<QStringList> reply(finished);
-        setAvailable(!reply.isError());
-    });
+    if (std::exchange(m_isQuerying, true))
+        return;
+    DBusCall::send<QStringList>(
+        bus(), call(QStringLiteral("GetCapabilities")), this, [this](const auto &reply) {
+            m_isQuerying = false;
+            setAvailable(!reply.isError());
+        });
 }
 
 void NotificationServer::onOwnerChanged(const QString &newOwner)
 {
-    if (m_isAvailable == true)
+    if (m_isAvailable)
         setAvailable(false);
     if (!newOwner.isEmpty()) {
         query();
         return;
     }
-    QTimer::singleShot(timeToComeBack, this, [this] {
-        if (m_isAvailable == false)
+    QTimer::singleShot(restartDelay, this, [this] {
+        if (!m_isAvailable)
             query();
     });
 }
 
 void NotificationServer::setAvailable(bool isAvailable)
 {
-    if (m_isAvailable == isAvailable)
-        return;
     m_isAvailable = isAvailable;
-    Q_EMIT availabilityChanged();
+    Q_EMIT availabilityDetermined();
 }
 
 void NotificationServer::show(
     const Notification &notification, std::function<void(std::optional<uint> id)> shown)
 {
-    // Asked each time: some servers show no buttons while the person is not to be disturbed.
-    call(QStringLiteral("GetCapabilities"), {}, this,
-        [this, notification, shown = std::move(shown)](const QDBusPendingCall &finished) {
-            const QDBusPendingReply<QStringList> reply(finished);
+    // Queried each time: some servers show no buttons in their do-not-disturb mode.
+    DBusCall::send<QStringList>(bus(), call(QStringLiteral("GetCapabilities")), this,
+        [this, notification, shown = std::move(shown)](const auto &reply) {
             if (reply.isError())
                 shown(std::nullopt);
             else
@@ -120,7 +111,8 @@ void NotificationServer::notify(const Notification &notification, const QStringL
     const bool readsMarkup = capabilities.contains(QStringLiteral("body-markup"));
     QStringList actions;
     if (capabilities.contains(QStringLiteral("actions"))) {
-        // Some servers know no click on the body, or show it as a button of its own when it has a label.
+        // Some servers do not support a click on the body, others show the default action as a button if it
+        // has a label.
         actions = {
             defaultAction, QString(), openAction, L10n::text("打开"), snoozeAction, L10n::text("稍后提醒")};
     }
@@ -130,15 +122,14 @@ void NotificationServer::notify(const Notification &notification, const QStringL
         {QStringLiteral("urgency"), QVariant::fromValue(uchar(1))},
     };
     constexpr uint replacesNone = 0;
-    constexpr int neverExpires = 0; // a reminder stays until it is seen
-    call(QStringLiteral("Notify"),
+    constexpr int neverExpires = 0; // a reminder stays until it is closed
+    const QDBusMessage message = call(QStringLiteral("Notify"),
         {QStringLiteral("Quillet"), replacesNone, ApplicationIdentity::id, notification.title,
             readsMarkup ? notification.body.toHtmlEscaped() : notification.body, actions, hints,
-            neverExpires},
-        this, [shown = std::move(shown)](const QDBusPendingCall &finished) {
-            const QDBusPendingReply<uint> reply(finished);
-            shown(reply.isError() ? std::nullopt : std::optional(reply.value()));
-        });
+            neverExpires});
+    DBusCall::send<uint>(bus(), message, this, [shown = std::move(shown)](const auto &reply) {
+        shown(reply.isError() ? std::nullopt : std::optional(reply.value()));
+    });
 }
 
 void NotificationServer::onActionInvoked(uint id, const QString &action)
@@ -151,8 +142,7 @@ void NotificationServer::onActionInvoked(uint id, const QString &action)
 
 void NotificationServer::onActivationToken(uint, const QString &token)
 {
-    // Sent just before the click; whoever then asks for the focus finds it where Qt looks for it.
-    qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    ActivationToken::set(token); // sent just before the click
 }
 
 void NotificationServer::onNotificationClosed(uint id, uint)

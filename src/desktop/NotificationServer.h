@@ -15,24 +15,24 @@ class NotificationServer final : public QObject
 public:
     struct Notification {
         QString title;
-        QString body; ///< plain text, escaped here where the server reads markup
+        QString body; ///< plain text, escaped here if the server interprets markup
     };
 
     explicit NotificationServer(QObject *parent = nullptr);
 
-    /// Whether a server answers; nothing before the first answer.
-    [[nodiscard]] std::optional<bool> isAvailable() const { return m_isAvailable; }
-    /// Asks whether a server answers, which starts one where the desktop can.
+    /// Whether a server answers. False until the first answer.
+    [[nodiscard]] bool isAvailable() const { return m_isAvailable; }
+    /// Finds out whether a server answers, and makes the bus start one if it can.
     void query();
 
-    /// With buttons to open and to snooze, where the server shows any. @p shown is told the id by which the
-    /// server names the notification, or nothing when it refused.
+    /// With the buttons "open" and "snooze" if the server supports actions. @p shown gets the server's id of
+    /// the notification, or nothing when the server refused.
     void show(const Notification &notification, std::function<void(std::optional<uint> id)> shown);
 
 Q_SIGNALS:
-    /// A server answers now, or none does any more. When one takes the place of another both are told, in
+    /// After each query, and when the server is gone. When one server replaces another, both are announced in
     /// turn.
-    void availabilityChanged();
+    void availabilityDetermined();
     void clicked(uint id);
     void snoozed(uint id);
     void closed(uint id);
@@ -49,5 +49,6 @@ private:
     void onOwnerChanged(const QString &newOwner);
     void setAvailable(bool isAvailable);
 
-    std::optional<bool> m_isAvailable;
+    bool m_isAvailable = false;
+    bool m_isQuerying = true; ///< the first query is sent by attach()
 };

@@ -1,14 +1,13 @@
 #include "desktop/PortalHotKey.h"
 
+#include "desktop/ActivationToken.h"
 #include "desktop/ApplicationIdentity.h"
+#include "desktop/DBusCall.h"
 #include "desktop/DesktopPortal.h"
 #include "text/L10n.h"
 
 #include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
@@ -25,10 +24,10 @@ const QString connectionName = QStringLiteral("quillet-hotkey");
 
 const QString shortcutID = QStringLiteral("toggle");
 
-using Shortcut = QPair<QString, QVariantMap>; // of the bus type (sa{sv})
+using Shortcut = QPair<QString, QVariantMap>; // D-Bus type (sa{sv})
 using Shortcuts = QList<Shortcut>;
 
-Shortcuts wanted()
+Shortcuts wantedShortcuts()
 {
     return {{shortcutID, {{QStringLiteral("description"), L10n::text("打开或关闭 Quillet")},
                              {QStringLiteral("preferred_trigger"), QStringLiteral("CTRL+ALT+space")}}}};
@@ -45,14 +44,15 @@ PortalHotKey::PortalHotKey(const QString &busAddress, QObject *parent)
     : QObject(parent)
     , m_bus(connectTo(busAddress))
 {
-    qDBusRegisterMetaType<QDBusObjectPath>(); // which Qt itself does later than the first signal is connected
+    // The signals cannot be connected before; Qt itself registers the type only at its first call.
+    qDBusRegisterMetaType<QDBusObjectPath>();
     qDBusRegisterMetaType<Shortcut>();
     qDBusRegisterMetaType<Shortcuts>();
 }
 
 PortalHotKey::~PortalHotKey()
 {
-    QDBusConnection::disconnectFromBus(connectionName); // which ends the session too
+    QDBusConnection::disconnectFromBus(connectionName); // also closes the portal's session
 }
 
 void PortalHotKey::request()
@@ -61,7 +61,7 @@ void PortalHotKey::request()
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString &, const QString &oldOwner, const QString &newOwner) {
             if (oldOwner.isEmpty() && m_step != Step::None)
-                return; // our own call has started it
+                return; // started by our own call
             forgetSession();
             if (!newOwner.isEmpty())
                 registerIdentity();
@@ -71,15 +71,13 @@ void PortalHotKey::request()
     registerIdentity();
 }
 
-void PortalHotKey::whenFinished(
-    const QDBusPendingCall &call, std::function<void(const QDBusPendingCall &)> handler)
+template <typename... Values, typename Handler>
+void PortalHotKey::send(const QDBusMessage &message, Handler handler)
 {
-    auto *watcher = new QDBusPendingCallWatcher(call, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-        [this, handler = std::move(handler), round = m_round](QDBusPendingCallWatcher *finished) {
-            finished->deleteLater();
+    DBusCall::send<Values...>(
+        m_bus, message, this, [this, handler = std::move(handler), round = m_round](const auto &reply) {
             if (round == m_round)
-                handler(*finished);
+                handler(reply);
         });
 }
 
@@ -88,17 +86,16 @@ void PortalHotKey::registerIdentity()
     m_step = Step::CreatingSession;
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, registry, QStringLiteral("Register"));
     call << ApplicationIdentity::id << QVariantMap();
-    // Portals before 1.19.4 do not know the call, and need none.
-    whenFinished(m_bus.asyncCall(call), [this](const QDBusPendingCall &) { checkVersion(); });
+    // Portals before 1.19.4 do not have the method, and do not need it.
+    send(call, [this](const auto &) { checkVersion(); });
 }
 
 void PortalHotKey::checkVersion()
 {
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, properties, QStringLiteral("Get"));
     call << interface << QStringLiteral("version");
-    whenFinished(m_bus.asyncCall(call), [this](const QDBusPendingCall &finished) {
-        const QDBusPendingReply<QDBusVariant> reply(finished);
-        // Only this tells that somebody is behind the interface.
+    send<QDBusVariant>(call, [this](const auto &reply) {
+        // An error means that no backend implements the interface.
         if (reply.isError())
             fail(reply.error().message());
         else
@@ -112,25 +109,25 @@ void PortalHotKey::ask(Step step, const QString &method, const QVariantList &arg
     const QString token = QStringLiteral("quillet%1_%2").arg(m_round).arg(int(step));
     const QString sender = m_bus.baseService().sliced(1).replace(u'.', u'_');
     m_request = QStringLiteral("%1/request/%2/%3").arg(path, sender, token);
-    // Heard before it is asked, or the answer may come first.
+    // Connected before the call, since the response may arrive before the reply.
     m_bus.connect(service, m_request, requestInterface, QStringLiteral("Response"), this,
         SLOT(onResponse(uint, QVariantMap)));
     options.insert(QStringLiteral("handle_token"), token);
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, method);
     call.setArguments(arguments + QVariantList{options});
-    whenFinished(m_bus.asyncCall(call), [this](const QDBusPendingCall &finished) {
-        if (finished.isError())
-            fail(finished.error().message());
+    send(call, [this](const auto &reply) {
+        if (reply.isError())
+            fail(reply.error().message());
     });
 }
 
 void PortalHotKey::createSession()
 {
-    // The token is the same at each start: some desktops know a program's keys by it. Some register only what
-    // they are told here, others only what they are told when it is bound.
+    // The token is the same at each start: some desktops store a program's shortcuts under it. Some register
+    // only the shortcuts passed here, others only those passed to BindShortcuts.
     ask(Step::CreatingSession, QStringLiteral("CreateSession"), {},
         {{QStringLiteral("session_handle_token"), QStringLiteral("quillet")},
-            {QStringLiteral("shortcuts"), QVariant::fromValue(wanted())}});
+            {QStringLiteral("shortcuts"), QVariant::fromValue(wantedShortcuts())}});
 }
 
 void PortalHotKey::listShortcuts()
@@ -142,7 +139,8 @@ void PortalHotKey::listShortcuts()
 void PortalHotKey::bindShortcuts()
 {
     ask(Step::BindingShortcuts, QStringLiteral("BindShortcuts"),
-        {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wanted()), QString()}, {});
+        {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wantedShortcuts()), QString()},
+        {});
 }
 
 void PortalHotKey::onResponse(uint code, const QVariantMap &results)
@@ -153,31 +151,26 @@ void PortalHotKey::onResponse(uint code, const QVariantMap &results)
         fail(QString::number(code));
         return;
     }
-    switch (m_step) {
+    switch (std::exchange(m_step, Step::None)) {
     case Step::None:
+    case Step::BindingShortcuts:
         break;
     case Step::CreatingSession: {
-        const QVariant handle = results.value(QStringLiteral("session_handle")); // a string, by mistake
+        const QVariant handle = results.value(QStringLiteral("session_handle")); // a string in practice
         m_session =
             handle.canConvert<QDBusObjectPath>() ? handle.value<QDBusObjectPath>().path() : handle.toString();
         listShortcuts();
         break;
     }
     case Step::ListingShortcuts: {
-        // What is there already need not be asked for, which may open a dialog.
+        // Binding may open a dialog, so a shortcut that exists already is not bound again.
         const auto known = qdbus_cast<Shortcuts>(results.value(QStringLiteral("shortcuts")));
         const bool isKnown = std::any_of(
             known.begin(), known.end(), [](const Shortcut &each) { return each.first == shortcutID; });
-        if (!isKnown) {
+        if (!isKnown)
             bindShortcuts();
-            break;
-        }
-        [[fallthrough]];
-    }
-    case Step::BindingShortcuts:
-        m_step = Step::None;
-        Q_EMIT bound();
         break;
+    }
     }
 }
 
@@ -186,9 +179,7 @@ void PortalHotKey::onActivated(
 {
     if (session.path() != m_session || id != shortcutID)
         return;
-    const QString token = options.value(QStringLiteral("activation_token")).toString();
-    if (!token.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt looks for it
+    ActivationToken::set(options.value(QStringLiteral("activation_token")).toString());
     Q_EMIT pressed();
 }
 

@@ -5,32 +5,28 @@
 #include <QObject>
 #include <QVariantMap>
 
-#include <functional>
+class QDBusMessage;
 
-class QDBusPendingCall;
-
-/// Control+Alt+Space where programs cannot take keys themselves: the desktop is asked for it through its
-/// portal, and may ask the person, who may choose another key or none.
+/// Control+Alt+Space through the desktop portal's GlobalShortcuts, where programs cannot grab keys
+/// themselves. The desktop may ask the user, who may choose another key or none.
 ///
-/// Whatever the portal cannot do is one line in the log. A portal that goes away and comes back is asked
-/// anew.
+/// When the portal is restarted, the key is requested again.
 class PortalHotKey final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p busAddress is the session bus's where empty.
+    /// An empty @p busAddress means the session bus.
     explicit PortalHotKey(const QString &busAddress = {}, QObject *parent = nullptr);
     ~PortalHotKey() override;
     Q_DISABLE_COPY_MOVE(PortalHotKey)
 
-    /// Asks, and answers nothing: the key works once the desktop has agreed. Never blocks.
+    /// The key works once the desktop has agreed. Never blocks.
     void request();
 
 Q_SIGNALS:
     void pressed();
-    void bound();                        ///< the desktop has agreed
-    void failed(const QString &message); ///< until the portal comes back
+    void failed(const QString &message); ///< no key until the portal is restarted
 
 private Q_SLOTS:
     void onResponse(uint code, const QVariantMap &results);
@@ -45,15 +41,17 @@ private:
     void createSession();
     void listShortcuts();
     void bindShortcuts();
-    /// Calls a method that answers through a request object, and hears that answer in onResponse().
+    /// Calls a method whose result arrives in onResponse(), as the portal's request objects deliver it.
     void ask(Step step, const QString &method, const QVariantList &arguments, QVariantMap options);
     void forgetSession();
     void fail(const QString &message);
-    void whenFinished(const QDBusPendingCall &call, std::function<void(const QDBusPendingCall &)> handler);
+    /// Ignores the reply when the session has been forgotten by then.
+    template <typename... Values, typename Handler>
+    void send(const QDBusMessage &message, Handler handler);
 
-    QDBusConnection m_bus; ///< its own: the portal takes an identity only before any other call
+    QDBusConnection m_bus; ///< its own: the portal accepts an identity only before any other call
     Step m_step = Step::None;
-    uint m_round = 0; ///< answers to the calls of earlier rounds are ignored
+    uint m_round = 0; ///< replies to calls of earlier rounds are ignored
     QString m_request;
     QString m_session;
 };

@@ -1,11 +1,8 @@
 #include "desktop/TrayHost.h"
 
+#include "desktop/DBusCall.h"
 #include "desktop/X11.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QGuiApplication>
@@ -22,9 +19,9 @@ const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 TrayHost::TrayHost(QObject *parent)
     : QObject(parent)
 {
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(2s);
-    connect(&m_patience, &QTimer::timeout, this, &TrayHost::missing);
+    m_timeout.setSingleShot(true);
+    m_timeout.setInterval(2s);
+    connect(&m_timeout, &QTimer::timeout, this, &TrayHost::missing);
 }
 
 TrayHost::~TrayHost()
@@ -37,7 +34,7 @@ void TrayHost::watch()
     m_isWatching = true;
     if (X11::connection()) {
         m_selection = X11::atom("_NET_SYSTEM_TRAY_S0");
-        if (hasX11Tray()) { // before the bus is asked, which takes a while
+        if (hasX11Tray()) { // first, since asking the bus takes longer
             found(Kind::XEmbed);
             return;
         }
@@ -50,7 +47,7 @@ void TrayHost::watch()
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::look);
     bus.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierHostRegistered"),
         this, SLOT(look()));
-    m_patience.start();
+    m_timeout.start();
     look();
 }
 
@@ -63,7 +60,7 @@ bool TrayHost::nativeEventFilter(const QByteArray &eventType, void *message, qin
         return false;
     const auto *announcement = reinterpret_cast<const xcb_client_message_event_t *>(event);
     if (announcement->type == m_announcement && announcement->data.data32[1] == m_selection)
-        QMetaObject::invokeMethod(this, &TrayHost::look, Qt::QueuedConnection); // Qt is to hear of it first
+        QMetaObject::invokeMethod(this, &TrayHost::look, Qt::QueuedConnection); // after Qt has handled it
     return false;
 }
 
@@ -75,14 +72,11 @@ void TrayHost::look()
         found(Kind::XEmbed);
         return;
     }
-    QDBusMessage question = QDBusMessage::createMethodCall(watcherService, watcherPath,
+    QDBusMessage call = QDBusMessage::createMethodCall(watcherService, watcherPath,
         QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
-    question.setAutoStartService(false);
-    auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply(*watcher);
+    call.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
+    call.setAutoStartService(false);
+    DBusCall::send<QDBusVariant>(QDBusConnection::sessionBus(), call, this, [this](const auto &reply) {
         if (!reply.isError() && reply.value().variant().toBool())
             found(Kind::StatusNotifier);
     });
@@ -93,7 +87,7 @@ void TrayHost::found(Kind kind)
     if (!m_isWatching)
         return;
     m_isWatching = false;
-    m_patience.stop();
+    m_timeout.stop();
     qApp->removeNativeEventFilter(this);
     Q_EMIT appeared(kind);
 }

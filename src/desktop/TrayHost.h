@@ -8,8 +8,7 @@
 
 /// Waits for something that shows tray icons: a StatusNotifierItem host, or on X11 an XEmbed tray.
 ///
-/// Qt looks for one once per process, at the first touch of QSystemTrayIcon, and never again. So nobody may
-/// touch it before appeared().
+/// Qt looks for one only once, when QSystemTrayIcon is first used. So it must not be used before appeared().
 class TrayHost final : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -21,12 +20,12 @@ public:
     ~TrayHost() override;
     Q_DISABLE_COPY_MOVE(TrayHost)
 
-    /// Looks now, and from then on whenever one announces itself, until a host is found.
+    /// Checks now, and whenever a host announces itself, until one is found.
     void watch();
 
 Q_SIGNALS:
     void appeared(Kind kind); ///< once
-    void missing();           ///< once, when none has come for a while; it may still
+    void missing();           ///< once, after two seconds without one; one may still appear
 
 private Q_SLOTS:
     void look();
@@ -37,7 +36,7 @@ private:
     [[nodiscard]] bool hasX11Tray() const;
 
     bool m_isWatching = false;
-    std::uint32_t m_selection = 0;    ///< the atom that an XEmbed tray owns; 0 where there is no X11
-    std::uint32_t m_announcement = 0; ///< the atom of the message that tells of a new owner
-    QTimer m_patience;
+    std::uint32_t m_selection = 0;    ///< atom of the selection owned by an XEmbed tray; 0 without X11
+    std::uint32_t m_announcement = 0; ///< atom of the message that announces a new owner
+    QTimer m_timeout;
 };

@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 namespace {
 constexpr xcb_keysym_t space = 0x20;
 constexpr uint16_t hotModifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1;
-/// Caps Lock and, on every common keyboard map, Num Lock: a grab holds for exactly one state of them.
+/// Caps Lock and, on every common keyboard map, Num Lock: a grab is valid for exactly one state of them.
 constexpr std::array<uint16_t, 4> lockStates{
     0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
 constexpr uint16_t locks = XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2;
@@ -37,16 +37,16 @@ std::vector<uint8_t> keycodes(xcb_connection_t *connection, xcb_keysym_t keysym)
 X11HotKey::X11HotKey(QObject *parent)
     : QObject(parent)
 {
-    // A change of the keyboard map comes as a burst of events.
+    // A change of the keyboard map arrives as a burst of events.
     m_remapped.setSingleShot(true);
     m_remapped.setInterval(20ms);
     connect(&m_remapped, &QTimer::timeout, this, [this] {
         if (keycodes(m_connection, space) != m_keycodes)
             (void)grab();
     });
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(1s); // on a busy machine the window manager takes its time
-    connect(&m_patience, &QTimer::timeout, this, &X11HotKey::releaseKeyboard);
+    m_releaseTimeout.setSingleShot(true);
+    m_releaseTimeout.setInterval(1s); // a window manager may be slow on a busy machine
+    connect(&m_releaseTimeout, &QTimer::timeout, this, &X11HotKey::releaseKeyboard);
 }
 
 X11HotKey::~X11HotKey()
@@ -56,8 +56,14 @@ X11HotKey::~X11HotKey()
 
 bool X11HotKey::isPossible()
 {
-    // A program on XWayland could grab, but would hear the key only while an X11 window has the focus.
+    // On XWayland the grab would succeed, but work only while an X11 window has the focus.
     return X11::connection() && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+void X11HotKey::request()
+{
+    if (const Outcome grabbed = grab(); !grabbed)
+        Q_EMIT failed(grabbed.message());
 }
 
 Outcome X11HotKey::grab()
@@ -83,7 +89,7 @@ Outcome X11HotKey::grab()
     }
     if (error == 0)
         return Done{};
-    // Some may have succeeded; a key that works only while Num Lock is on helps nobody.
+    // Some may have succeeded, but a key that depends on the state of Num Lock is of no use.
     ungrab();
     return Failure{QString::number(error)};
 }
@@ -103,11 +109,9 @@ void X11HotKey::ungrab()
 
 void X11HotKey::releaseKeyboard()
 {
-    if (!m_connection)
-        return;
-    m_patience.stop();
+    m_releaseTimeout.stop();
     m_awaitsFocus = 0;
-    // What the server has kept back it hands out as if it were typed now.
+    // The server now delivers the keys it has held back.
     xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
 }
@@ -115,7 +119,7 @@ void X11HotKey::releaseKeyboard()
 void X11HotKey::releaseKeyboardTo(uint32_t window)
 {
     m_awaitsFocus = window;
-    m_patience.start(); // to make the window may have taken a while
+    m_releaseTimeout.start(); // anew: creating the window may have taken long
 }
 
 bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
@@ -132,12 +136,12 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
         const auto &key = *reinterpret_cast<const xcb_key_press_event_t *>(event);
         if (!isHotKey(key))
             break;
-        // While the key is held the server sends pairs of release and press that bear one time.
+        // While the key is held the server sends pairs of release and press with equal times.
         if (key.time != m_lastRelease) {
-            m_patience.start();
+            m_releaseTimeout.start();
             Q_EMIT pressed();
         } else if (m_awaitsFocus == 0) {
-            releaseKeyboard(); // the repetition has taken it again, and with it the window's focus
+            releaseKeyboard(); // the repeated press has activated the grab again
         }
         break;
     }
@@ -148,9 +152,9 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
     }
     case XCB_FOCUS_IN: {
         const auto &focus = *reinterpret_cast<const xcb_focus_in_event_t *>(event);
-        const bool isGiven =
+        const bool isRealFocus =
             focus.mode == XCB_NOTIFY_MODE_NORMAL || focus.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
-        if (isGiven && m_awaitsFocus != 0 && focus.event == m_awaitsFocus)
+        if (isRealFocus && m_awaitsFocus != 0 && focus.event == m_awaitsFocus)
             releaseKeyboard();
         break;
     }
@@ -160,5 +164,5 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
     default:
         break;
     }
-    return false; // Qt takes the time of the press from it, by which the panel may ask for the focus
+    return false; // Qt takes the time of the press from it, which entitles the panel to the focus
 }

@@ -1,4 +1,4 @@
-// The notification centre on a private bus, in front of a server that the test brings and takes away.
+// The notification center on a private bus, with a server that the test starts and stops.
 #include "desktop/DesktopNotificationCenter.h"
 #include "stage/NotificationRecorder.h"
 #include "stage/PrivateSession.h"
@@ -33,12 +33,11 @@ class NotificationsTest final : public QObject
             bodies.append(shown.body);
         return bodies;
     }
-    std::optional<AuthorizationStatus> status()
+    AuthorizationStatus status()
     {
-        // The answer may come when nobody waits for it any more.
-        const auto status = std::make_shared<std::optional<AuthorizationStatus>>();
-        m_center->notificationAuthorizationStatus([status](AuthorizationStatus told) { *status = told; });
-        return *status;
+        AuthorizationStatus result = AuthorizationStatus::NotDetermined;
+        m_center->notificationAuthorizationStatus([&result](AuthorizationStatus status) { result = status; });
+        return result;
     }
 
 private Q_SLOTS:
@@ -79,8 +78,7 @@ private Q_SLOTS:
         m_server->click(m_server->shown().last().id);
         QTRY_COMPARE(received.count(), 1);
         QCOMPARE(received.first().first().toString(), u"note of replacing"_s);
-        QCOMPARE(
-            qgetenv("XDG_ACTIVATION_TOKEN"), "token 2"); // where Qt looks for the leave to take the focus
+        QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "token 2"); // where Qt looks for it
         QSignalSpy snoozed(m_center.get(), &DesktopNotificationCenter::didSnooze);
         m_server->click(m_server->shown().first().id, u"snooze"_s);
         QTRY_COMPARE(snoozed.count(), 1);
@@ -102,7 +100,15 @@ private Q_SLOTS:
 
     void what_is_due_without_a_server_is_shown_when_one_comes()
     {
-        QTRY_COMPARE(status(), AuthorizationStatus::Denied);
+        QCOMPARE(status(), AuthorizationStatus::Denied);
+        QList<bool> answers;
+        const auto requestAuthorization = [&] {
+            m_center->requestAuthorization(
+                0, [&](bool granted, const QString &) { answers.append(granted); });
+        };
+        requestAuthorization();
+        QCOMPARE(answers, QList<bool>());
+        QTRY_COMPARE(answers, QList<bool>{false});
         m_center->add(request(u"waits"_s, -1h));
         m_center->add(request(u"cancelled"_s, -1h));
         QTest::qWait(100);
@@ -112,6 +118,8 @@ private Q_SLOTS:
         QTRY_COMPARE(bodies(), QStringList{u"waits"_s});
         QVERIFY(changed.count() > 0);
         QCOMPARE(status(), AuthorizationStatus::Authorized);
+        requestAuthorization();
+        QCOMPARE(answers, (QList<bool>{false, true}));
 
         m_server.reset();
         QTRY_COMPARE(status(), AuthorizationStatus::Denied);
@@ -132,7 +140,7 @@ private Q_SLOTS:
         QTRY_COMPARE(snoozed.count(), 3);
     }
 
-    void tidying_up_does_not_swallow_what_is_due_but_not_yet_shown()
+    void withdrawing_does_not_lose_what_is_due_but_not_yet_shown()
     {
         startServer();
         QTRY_COMPARE(status(), AuthorizationStatus::Authorized);
@@ -141,7 +149,7 @@ private Q_SLOTS:
         });
         m_center->add(request(u"one"_s, 100ms));
         m_center->add(request(u"two"_s, 100ms));
-        QTest::qSleep(200); // both have come due, and nobody has heard the timer yet
+        QTest::qSleep(200); // both have come due, and the timer event is not handled yet
         m_center->removePendingNotificationRequests({u"one"_s, u"two"_s});
         QTRY_COMPARE(bodies(), (QStringList{u"one"_s, u"two"_s}));
     }
