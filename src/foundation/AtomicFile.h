@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/ByteSink.h"
+#include "foundation/FileCalls.h"
 #include "foundation/Result.h"
 
 #include <QByteArray>
@@ -9,34 +10,37 @@
 
 #include <optional>
 
-/// Files that are replaced as a whole or not at all, whenever the process or the power goes.
+/// Files that are replaced together or not at all, even if the process or the power fails in between.
 ///
-/// Every file of a commit is first staged beside its target (a symbolic link is followed) as "<name>.staged",
-/// all are synced, and only then renamed, in the order given. So a staged file that is missing while a later
-/// one is there means that the renaming had begun: recover() completes it. Any other staged file belongs to a
-/// commit that never was.
+/// Each file of a commit is first written and synced as "<name>.staged" beside its target (symbolic links are
+/// followed); then the staged files are renamed, in the order given. Of several files each change of a name
+/// is synced before the next, so the changes reach the disk in this order. A staged file that is missing
+/// while a later one exists therefore means that renaming had begun: recover() completes it. Any other staged
+/// file belongs to a commit that did not take place.
+///
+/// A failure keeps the errno of the system call that failed.
 namespace AtomicFile {
 struct Content {
     QString path;
     ByteSource bytes;
 };
 
-/// Replaces all files, or none. New files are readable by their owner alone; the folders must exist.
-Outcome replace(const QList<Content> &contents);
+/// Replaces all files, or none. New files are readable by their owner only; the folders must exist. After a
+/// failure the files are still as before, or as they should have become; the next replace() or recover() of
+/// the same files, in the same order, decides which.
+Outcome replace(const QList<Content> &contents, FileCalls &calls = FileCalls::system());
 
-/// Completes or discards what an earlier replace() of these files, in this order, left behind.
-Outcome recover(const QStringList &paths);
+/// Completes or discards an earlier replace() of these files, in this order, that was interrupted.
+Outcome recover(const QStringList &paths, FileCalls &calls = FileCalls::system());
 
-/// The path behind any symbolic links, whether there is a file or not.
-[[nodiscard]] QString target(const QString &path);
+/// Creates the folder and its missing parents, accessible to their owner only.
+Outcome createFolder(const QString &path, FileCalls &calls = FileCalls::system());
 
-/// Creates the folder, and what is missing above it, open to its owner alone.
-Outcome createFolder(const QString &path);
+/// Nothing if the file does not exist; a failure if it exists but cannot be read, or if that is unknown.
+[[nodiscard]] Result<std::optional<QByteArray>> read(
+    const QString &path, FileCalls &calls = FileCalls::system());
 
-/// Nothing when there is no such file; a failure when there is one that cannot be read.
-[[nodiscard]] Result<std::optional<QByteArray>> read(const QString &path);
-
-/// Moves a file out of the way, to its name followed by @p suffix (and a number where that is taken). A file
-/// that has gone meanwhile needs no keeping.
-Outcome keepAside(const QString &path, const QString &suffix);
+/// Renames the file by appending @p suffix, and a number if that name is taken. Succeeds if the file does not
+/// exist.
+Outcome keepAside(const QString &path, const QString &suffix, FileCalls &calls = FileCalls::system());
 } // namespace AtomicFile

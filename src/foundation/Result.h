@@ -5,12 +5,13 @@
 #include <utility>
 #include <variant>
 
-/// Why something could not be done: one line for the log.
+/// Why something could not be done.
 struct Failure {
-    QString message;
+    QString message;     ///< one line for the log
+    int systemError = 0; ///< the errno behind it; 0 when no system call failed
 };
 
-/// A value, or the message that tells why there is none.
+/// A value, or the reason why there is none.
 template <typename T>
 class [[nodiscard]] Result
 {
@@ -28,7 +29,8 @@ public:
     explicit operator bool() const { return hasValue(); }
     [[nodiscard]] const T &value() const { return std::get<T>(m_state); }
     [[nodiscard]] T &value() { return std::get<T>(m_state); }
-    [[nodiscard]] const QString &message() const { return std::get<Failure>(m_state).message; }
+    [[nodiscard]] const Failure &failure() const { return std::get<Failure>(m_state); }
+    [[nodiscard]] const QString &message() const { return failure().message; }
 
 private:
     std::variant<T, Failure> m_state;
@@ -37,5 +39,5 @@ private:
 struct Done {
 };
 
-/// The result of something that is done for its effect.
+/// The result of an operation that has an effect but no value.
 using Outcome = Result<Done>;

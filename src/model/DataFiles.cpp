@@ -15,31 +15,40 @@ QString timeInFileName(Instant now)
 
 void DataFiles::recover()
 {
-    if (const Outcome recovered = AtomicFile::recover(m_paths); !recovered)
-        Log::line(QStringLiteral("failed to recover an unfinished save: %1").arg(recovered.message()));
+    const Outcome recovered = AtomicFile::recover(m_paths, m_calls);
+    if (recovered)
+        return;
+    Log::line(QStringLiteral("failed to recover an unfinished save: %1").arg(recovered.message()));
+    // The files that are loaded now may lack what the unfinished save contains.
+    m_toKeepAside = m_paths;
 }
 
 void DataFiles::load(qsizetype index, const std::function<bool(const QByteArray &)> &decode)
 {
     const QString &path = m_paths[index];
-    const auto bytes = AtomicFile::read(path);
+    const auto bytes = AtomicFile::read(path, m_calls);
     const bool isMissing = bytes && !bytes.value();
-    if (!isMissing && (!bytes || !decode(*bytes.value())))
-        m_unreadable.append(path);
+    if (!isMissing && (!bytes || !decode(*bytes.value())) && !m_toKeepAside.contains(path))
+        m_toKeepAside.append(path);
 }
 
 Outcome DataFiles::save(const QList<ByteSource> &contents, Instant now)
 {
-    if (Outcome created = AtomicFile::createFolder(QFileInfo(m_paths.first()).absolutePath()); !created)
+    const QString folder = QFileInfo(m_paths.first()).absolutePath();
+    if (Outcome created = AtomicFile::createFolder(folder, m_calls); !created)
         return created;
-    while (!m_unreadable.isEmpty()) {
+    if (!m_toKeepAside.isEmpty()) {
+        if (Outcome recovered = AtomicFile::recover(m_paths, m_calls); !recovered)
+            return recovered;
+    }
+    while (!m_toKeepAside.isEmpty()) {
         const QString suffix = QStringLiteral(".unreadable-") + timeInFileName(now);
-        if (Outcome kept = AtomicFile::keepAside(m_unreadable.first(), suffix); !kept)
+        if (Outcome kept = AtomicFile::keepAside(m_toKeepAside.first(), suffix, m_calls); !kept)
             return kept;
-        m_unreadable.removeFirst();
+        m_toKeepAside.removeFirst();
     }
     QList<AtomicFile::Content> files;
     for (qsizetype i = 0; i < m_paths.size(); ++i)
         files.append({m_paths[i], contents[i]});
-    return AtomicFile::replace(files);
+    return AtomicFile::replace(files, m_calls);
 }

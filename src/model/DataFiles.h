@@ -11,26 +11,28 @@
 
 /// The files of one store, which are saved together.
 ///
-/// A file that is there but could not be read, or not be understood, is kept aside under another name before
-/// the first save replaces it.
+/// A file that exists but could not be read or decoded is renamed before the first save replaces it.
 class DataFiles
 {
 public:
-    explicit DataFiles(QStringList paths)
+    explicit DataFiles(QStringList paths, FileCalls &calls = FileCalls::system())
         : m_paths(std::move(paths))
+        , m_calls(calls)
     {
     }
 
-    /// Completes or discards what a process that died in a save left behind. To be called before any load().
+    /// Completes or discards a save that was interrupted. Call it before load().
     void recover();
 
-    /// Hands the bytes of the file, if there is one, to @p decode, which tells whether it understood them.
+    /// Passes the content of the file, if it exists, to @p decode, which returns whether it could decode it.
     void load(qsizetype index, const std::function<bool(const QByteArray &)> &decode);
 
-    /// Replaces all files, in the order of their paths, or none. @p now names what is kept aside.
+    /// Replaces all files, in the order of their paths, or none. @p now is part of the names of files kept
+    /// aside.
     Outcome save(const QList<ByteSource> &contents, Instant now);
 
 private:
     QStringList m_paths;
-    QStringList m_unreadable;
+    FileCalls &m_calls;
+    QStringList m_toKeepAside; ///< before the next save
 };

@@ -1,20 +1,87 @@
 #include "foundation/AtomicFile.h"
+#include "support/SimulatedDisk.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <set>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 AtomicFile::Content content(const QString &path, const QByteArray &bytes)
 {
     return {path, [bytes](const ByteSink &sink) { sink(bytes); }};
+}
+
+/// What every file holds after the commit of this number, longer than one call writes.
+QByteArray bytesOf(int number)
+{
+    return QByteArray::number(number) + " and the rest of it";
+}
+
+Outcome commit(int number, const QStringList &paths, SimulatedDisk &disk)
+{
+    QList<AtomicFile::Content> contents;
+    for (const QString &path : paths)
+        contents.append(content(path, bytesOf(number)));
+    return AtomicFile::replace(contents, disk);
+}
+
+struct Range {
+    int least = 1;
+    int most = 1;
+    auto operator<=>(const Range &) const = default;
+};
+
+/// Commits 2 and 3, and which commits may be found afterwards.
+Range commitTwice(const QStringList &paths, SimulatedDisk &disk)
+{
+    Range allowed;
+    for (int number = 2; number <= 3 && !disk.hasStopped(); ++number) {
+        allowed.most = number;
+        const Outcome committed = commit(number, paths, disk);
+        if (committed)
+            allowed.least = number;
+        else if (committed.failure().systemError != disk.error)
+            qFatal("the error is lost: %s", qPrintable(committed.message()));
+        if (disk.hasOpenFiles())
+            qFatal("a file stays open");
+    }
+    return allowed;
+}
+
+/// What is wrong with what is found, after a recovery that may itself stop at any call. Nothing if all is
+/// well.
+QString faultAfterRecovery(const SimulatedDisk &stopped, const QStringList &paths, Range allowed)
+{
+    static std::set<std::tuple<std::map<QByteArray, QByteArray>, QStringList, Range>> examined;
+    for (const SimulatedDisk &start : stopped.afterStop()) {
+        if (start.isSynced() && !examined.emplace(start.files(), paths, allowed).second)
+            continue;
+        for (int last = 1, isDone = 0; !isDone; ++last) {
+            SimulatedDisk recovering = start;
+            recovering.lastCall = last;
+            isDone = AtomicFile::recover(paths, recovering).hasValue();
+            for (SimulatedDisk &disk : isDone ? QList{recovering} : recovering.afterStop()) {
+                if (!AtomicFile::recover(paths, disk))
+                    return u"not recovered"_s;
+                const auto files = disk.files();
+                QByteArrayList found;
+                for (const auto &[path, bytes] : files)
+                    found.append(bytes);
+                const int number = found.value(0).first(1).toInt();
+                if (found != QByteArrayList(paths.size(), bytesOf(number)) || number < allowed.least
+                    || number > allowed.most)
+                    return u"found "_s + QString::fromUtf8(found.join(" | "));
+            }
+        }
+    }
+    return {};
 }
 } // namespace
 
@@ -25,111 +92,72 @@ class AtomicFileTest final : public QObject
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_notes;
-    QString m_trash;
-
-    QStringList names() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
 
 private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_notes = m_folder->filePath(QStringLiteral("notes.json"));
-        m_trash = m_folder->filePath(QStringLiteral("trash.json"));
     }
 
-    void what_a_dead_process_left_is_completed_or_discarded_data()
+    void wherever_it_fails_and_stops_one_commit_is_found_whole_data()
     {
-        QTest::addColumn<bool>("notesStaged");
-        QTest::addColumn<bool>("trashStaged");
-        QTest::addColumn<QByteArray>("notes");
-        QTest::addColumn<QByteArray>("trash");
-        QTest::newRow("nothing staged")
-            << false << false << QByteArray("old notes") << QByteArray("old trash");
-        QTest::newRow("died while staging notes")
-            << true << false << QByteArray("old notes") << QByteArray("old trash");
-        QTest::newRow("died before the renames")
-            << true << true << QByteArray("old notes") << QByteArray("old trash");
-        QTest::newRow("died between the renames")
-            << false << true << QByteArray("old notes") << QByteArray("new trash");
+        QTest::addColumn<QStringList>("paths");
+        QTest::newRow("one file") << QStringList{u"/data/a"_s};
+        QTest::newRow("two files") << QStringList{u"/data/a"_s, u"/data/b"_s};
     }
-    void what_a_dead_process_left_is_completed_or_discarded()
+    void wherever_it_fails_and_stops_one_commit_is_found_whole()
     {
-        QFETCH(bool, notesStaged);
-        QFETCH(bool, trashStaged);
-        writeFile(m_notes, "old notes");
-        writeFile(m_trash, "old trash");
-        if (notesStaged)
-            writeFile(m_notes + QStringLiteral(".staged"), "new no");
-        if (trashStaged)
-            writeFile(m_trash + QStringLiteral(".staged"), "new trash");
-        QVERIFY(AtomicFile::recover({m_notes, m_trash}));
-        QTEST(readFile(m_notes), "notes");
-        QTEST(readFile(m_trash), "trash");
-        QCOMPARE(names(), (QStringList{QStringLiteral("notes.json"), QStringLiteral("trash.json")}));
-    }
+        QFETCH(QStringList, paths);
+        SimulatedDisk before;
+        before.putFolder("/data");
+        for (const QString &path : paths)
+            before.putFile(path.toUtf8(), bytesOf(1));
+        for (const int error : {EIO, ENOSPC, EACCES}) {
+            for (int failing = 0;; ++failing) {
+                SimulatedDisk running = before;
+                running.failingCall = failing;
+                running.error = error;
+                Range allowed = commitTwice(paths, running);
+                if (failing != 0 && !running.hasFailed())
+                    break;
+                QVERIFY2(allowed.least == 3 || commit(allowed.least = allowed.most = 4, paths, running),
+                    qPrintable(u"no commit succeeds after call %1 has failed"_s.arg(failing)));
+                QCOMPARE(faultAfterRecovery(running, paths, allowed), QString());
 
-    void a_process_killed_at_any_moment_leaves_one_commit_whole()
-    {
-        // The child writes pairs that agree; whenever it is killed, the pair that is found must agree.
-        const QByteArray padding(200'000, ' ');
-        for (int round = 0; round < 30; ++round) {
-            const pid_t child = fork();
-            if (child == 0) {
-                for (int i = 0;; ++i) {
-                    const QByteArray number = QByteArray::number(i);
-                    (void)AtomicFile::replace(
-                        {content(m_notes, number + padding), content(m_trash, number + padding)});
+                for (int last = failing + 1; error == EIO; ++last) {
+                    SimulatedDisk stopping = before;
+                    stopping.failingCall = failing;
+                    stopping.lastCall = last;
+                    allowed = commitTwice(paths, stopping);
+                    if (!stopping.hasStopped())
+                        break;
+                    const QString fault = faultAfterRecovery(stopping, paths, allowed);
+                    QVERIFY2(fault.isEmpty(),
+                        qPrintable(u"call %1 fails, %2 is the last: %3"_s.arg(failing).arg(last).arg(fault)));
                 }
             }
-            usleep(useconds_t(1000 + round * 700));
-            kill(child, SIGKILL);
-            waitpid(child, nullptr, 0);
-            QVERIFY(AtomicFile::recover({m_notes, m_trash}));
-            const QByteArray notes = readFile(m_notes);
-            QCOMPARE(notes, readFile(m_trash));
-            QVERIFY(notes.isEmpty() || notes.endsWith(padding));
         }
     }
 
-    void a_commit_that_cannot_be_staged_changes_nothing()
+    void a_link_is_followed_and_stays_data()
     {
-        writeFile(m_notes, "old notes");
-        const QString nowhere = m_folder->filePath(QStringLiteral("missing/trash.json"));
-        QVERIFY(!AtomicFile::replace({content(m_notes, "new"), content(nowhere, "new")}));
-        QCOMPARE(readFile(m_notes), "old notes");
-        QCOMPARE(names(), QStringList{QStringLiteral("notes.json")});
+        QTest::addColumn<QString>("link");
+        QTest::newRow("absolute") << u"%1/synced/real.json"_s;
+        QTest::newRow("relative") << u"synced/real.json"_s;
+        QTest::newRow("through another link") << u"other/../real.json"_s; // ".." of the folder behind it
     }
-
-    void a_full_disk_leaves_the_old_file_and_no_staged_one()
-    {
-        writeFile(m_notes, "old notes");
-        // A limit on the size of files fails a write half-way, as a full disk does.
-        const pid_t child = fork();
-        if (child == 0) {
-            signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit{1000, 1000};
-            setrlimit(RLIMIT_FSIZE, &limit);
-            _exit(AtomicFile::replace({content(m_notes, QByteArray(5000, 'x'))}) ? 1 : 0);
-        }
-        int status = -1;
-        waitpid(child, &status, 0);
-        QCOMPARE(status, 0);
-        QCOMPARE(readFile(m_notes), "old notes");
-        QCOMPARE(names(), QStringList{QStringLiteral("notes.json")});
-    }
-
     void a_link_is_followed_and_stays()
     {
-        const QString elsewhere = m_folder->filePath(QStringLiteral("synced"));
-        QDir().mkdir(elsewhere);
-        QVERIFY(QFile::link(elsewhere + QStringLiteral("/real.json"), m_notes)); // to nothing, as yet
+        QFETCH(QString, link);
+        QVERIFY(QDir(m_folder->path()).mkpath(u"synced/inner"_s));
+        QVERIFY(QFile::link(u"synced/inner"_s, m_folder->filePath(u"other"_s)));
+        QVERIFY(QFile::link(link.replace(u"%1"_s, m_folder->path()), m_notes)); // to nothing, as yet
         QVERIFY(AtomicFile::replace({content(m_notes, "one")}));
         QVERIFY(AtomicFile::replace({content(m_notes, "two")}));
-        QCOMPARE(QFile::symLinkTarget(m_notes), elsewhere + QStringLiteral("/real.json"));
-        QCOMPARE(readFile(elsewhere + QStringLiteral("/real.json")), "two");
+        QCOMPARE(QFileInfo(m_notes).isSymLink(), true);
+        QCOMPARE(readFile(m_folder->filePath(u"synced/real.json"_s)), "two");
+        QCOMPARE(AtomicFile::read(m_notes).value(), QByteArray("two"));
     }
 
     void files_and_folders_are_their_owners_alone()
@@ -144,12 +172,27 @@ private Q_SLOTS:
         QCOMPARE(QFile::permissions(folder), owner | QFile::ExeOwner | QFile::ExeUser);
     }
 
+    void what_stands_in_the_way_is_reported()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"notes.json"_s));
+        QCOMPARE(AtomicFile::replace({content(m_notes, "x")}).failure().systemError, EISDIR);
+        QCOMPARE(AtomicFile::read(m_notes).failure().systemError, EISDIR);
+        const QString file = m_folder->filePath(u"file"_s);
+        writeFile(file, "x");
+        QCOMPARE(AtomicFile::createFolder(file).failure().systemError, ENOTDIR);
+        QVERIFY(!AtomicFile::read(file + u"/notes.json"_s).value());
+        const QString circle = m_folder->filePath(u"circle"_s);
+        QVERIFY(QFile::link(circle, circle));
+        QCOMPARE(AtomicFile::replace({content(circle, "x")}).failure().systemError, ELOOP);
+    }
+
     void what_is_kept_aside_never_replaces_what_was()
     {
         for (const char *bytes : {"one", "two", "three"}) {
             writeFile(m_notes, bytes);
             QVERIFY(AtomicFile::keepAside(m_notes, QStringLiteral(".old")));
         }
+        QVERIFY(AtomicFile::keepAside(m_notes, QStringLiteral(".old"))); // which is gone
         QCOMPARE(readFile(m_notes + QStringLiteral(".old")), "one");
         QCOMPARE(readFile(m_notes + QStringLiteral(".old-2")), "two");
         QCOMPARE(readFile(m_notes + QStringLiteral(".old-3")), "three");
