@@ -1,5 +1,6 @@
 // A reminder always says something, on a full minute; a date stands where the detector says.
 #include "FuzzInput.h"
+#include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
 #include "reminders/dates/DateDetector.h"
 
@@ -9,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const FixedClock clock(fuzzNow, fuzzCalendar());
     const DateDetector detector(clock);
     qsizetype end = 0;
-    for (const DateDetection &detection : detector.detectDates(text)) {
+    for (const DateDetection &detection : detector.detectDates(text, LanguageDetection::detect(text))) {
         require(detection.range.start >= end && detection.range.end > detection.range.start);
         end = detection.range.end;
         require(text.sliced(detection.range.start, detection.range.length()) == detection.text);

@@ -3,6 +3,7 @@
 #include "foundation/CaseFolding.h"
 #include "model/NoteFileCodec.h"
 #include "model/NoteMarkdown.h"
+#include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
 #include "reminders/dates/DateDetector.h"
 #include "support/TestClock.h"
@@ -88,7 +89,8 @@ QList<Function> functions()
         {"decodeImport",
             [](const QString &text) { use(NoteFileCodec::decode(text.toUtf8(), now, calendar)); }},
         {"detect", [](const QString &text) { use(ReminderDetector::detect(text, now, calendar, detector)); }},
-        {"detectDates", [](const QString &text) { use(detector.detectDates(text)); }},
+        {"detectDates",
+            [](const QString &text) { use(detector.detectDates(text, LanguageDetection::detect(text))); }},
         {"detect, a reminder",
             [](const QString &text) {
                 use(ReminderDetector::detect(u"tomorrow 9am remind me"_s + text, now, calendar, detector));

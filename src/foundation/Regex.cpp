@@ -3,12 +3,12 @@
 #include <unicode/regex.h>
 
 namespace {
-/// In ICU's units, roughly milliseconds: far more than any honest text needs.
+/// In ICU's units, roughly milliseconds: far more than an ordinary text needs.
 constexpr int32_t timeLimit = 200;
 } // namespace
 
 struct Regex::Compiled {
-    std::unique_ptr<icu::RegexPattern> pattern; ///< null where nothing is to be matched
+    std::unique_ptr<icu::RegexPattern> pattern;
 };
 
 std::optional<TextRange> Regex::Match::group(int number) const
@@ -17,51 +17,39 @@ std::optional<TextRange> Regex::Match::group(int number) const
     return range.start < 0 ? std::nullopt : std::optional(range);
 }
 
-Regex::Regex(QString pattern, Case caseRule)
-    : m_pattern(std::move(pattern))
-    , m_case(caseRule)
+Regex::Regex(const QString &pattern, Case caseRule)
 {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString source(
+        false, reinterpret_cast<const char16_t *>(pattern.utf16()), int32_t(pattern.size()));
+    const uint32_t flags = caseRule == Case::Insensitive ? uint32_t(UREGEX_CASE_INSENSITIVE) : 0;
+    std::unique_ptr<icu::RegexPattern> compiled(icu::RegexPattern::compile(source, flags, status));
+    if (U_FAILURE(status))
+        qFatal("%s in the pattern \"%s\"", u_errorName(status), qPrintable(pattern));
+    m_compiled = std::make_unique<const Compiled>(Compiled{std::move(compiled)});
 }
 
 Regex::~Regex() = default;
-
-const Regex::Compiled &Regex::compiled() const
-{
-    std::call_once(m_once, [this] {
-        m_compiled = std::make_unique<Compiled>();
-        if (m_pattern.isEmpty())
-            return;
-        UErrorCode status = U_ZERO_ERROR;
-        const icu::UnicodeString source(
-            false, reinterpret_cast<const char16_t *>(m_pattern.utf16()), int32_t(m_pattern.size()));
-        const uint32_t flags = m_case == Case::Insensitive ? uint32_t(UREGEX_CASE_INSENSITIVE) : 0;
-        std::unique_ptr<icu::RegexPattern> pattern(icu::RegexPattern::compile(source, flags, status));
-        if (U_SUCCESS(status))
-            m_compiled->pattern = std::move(pattern);
-    });
-    return *m_compiled;
-}
+Regex::Regex(Regex &&) noexcept = default;
+Regex &Regex::operator=(Regex &&) noexcept = default;
 
 class Regex::Search
 {
 public:
-    Search(const icu::RegexPattern *pattern, QStringView text)
+    Search(const icu::RegexPattern &pattern, QStringView text)
         : m_input(false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()))
     {
-        if (!pattern)
-            return;
         UErrorCode status = U_ZERO_ERROR;
-        m_matcher.reset(pattern->matcher(m_input, status));
-        if (U_SUCCESS(status))
-            m_matcher->setTimeLimit(timeLimit, status);
-        if (U_FAILURE(status))
-            m_matcher.reset();
+        m_matcher.reset(pattern.matcher(m_input, status));
+        m_matcher->setTimeLimit(timeLimit, status);
+        Q_ASSERT_X(U_SUCCESS(status), "Regex::Search", u_errorName(status));
     }
 
     bool next()
     {
         UErrorCode status = U_ZERO_ERROR;
-        if (!m_matcher || !m_matcher->find(status) || U_FAILURE(status))
+        // A failure is the time limit or ICU's limit on its stack: the text does not match.
+        if (!m_matcher->find(status) || U_FAILURE(status))
             return false;
         m_match.m_groups.clear();
         for (int32_t number = 0; number <= m_matcher->groupCount(); ++number)
@@ -97,13 +85,13 @@ Regex::Matches::Iterator &Regex::Matches::Iterator::operator++()
 
 std::optional<Regex::Match> Regex::firstMatch(QStringView text) const
 {
-    Search search(compiled().pattern.get(), text);
+    Search search(*m_compiled->pattern, text);
     return search.next() ? std::optional(search.match()) : std::nullopt;
 }
 
 Regex::Matches Regex::allMatches(QStringView text) const
 {
-    return Matches(std::make_unique<Search>(compiled().pattern.get(), text));
+    return Matches(std::make_unique<Search>(*m_compiled->pattern, text));
 }
 
 QString Regex::replaced(QStringView text, QStringView replacement) const

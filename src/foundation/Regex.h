@@ -6,13 +6,12 @@
 #include <QVarLengthArray>
 
 #include <memory>
-#include <mutex>
 #include <optional>
 
 /// A regular expression in ICU syntax over UTF-16, where \d, \s and \b know all of Unicode.
 ///
-/// Compiled on first use and then shared read-only. A pattern that does not compile matches nothing, and so
-/// does a search that runs over its limit of time: no text may hold up the program.
+/// A pattern that does not compile is a fault of the program and ends it, naming the pattern. A search that
+/// exceeds its time limit matches nothing, so no text can block the program.
 class Regex
 {
 public:
@@ -22,7 +21,7 @@ public:
     class Match
     {
     public:
-        /// Nothing when the group took no part in the match.
+        /// Empty when the group did not take part in the match.
         [[nodiscard]] std::optional<TextRange> group(int number) const;
         [[nodiscard]] TextRange range() const { return m_groups.front(); }
 
@@ -33,8 +32,7 @@ public:
 
     class Search;
 
-    /// The matches from left to right, not overlapping, each looked for when it is its turn. To be walked
-    /// once, while the text lives.
+    /// Lazy, single-pass range over the non-overlapping matches from left to right. The text must outlive it.
     class Matches
     {
     public:
@@ -56,7 +54,7 @@ public:
             bool operator==(End) const { return !m_search; }
 
         private:
-            Search *m_search; ///< null behind the last match
+            Search *m_search; ///< null after the last match
         };
         [[nodiscard]] Iterator begin() { return Iterator(m_search.get()); }
         [[nodiscard]] End end() const { return {}; }
@@ -65,27 +63,18 @@ public:
         std::unique_ptr<Search> m_search;
     };
 
-    Regex()
-        : Regex(QString())
-    {
-    } ///< matches nothing
-    explicit Regex(QString pattern, Case caseRule = Case::Sensitive);
+    explicit Regex(const QString &pattern, Case caseRule = Case::Sensitive);
     ~Regex();
-    Regex(const Regex &) = delete;
-    Regex &operator=(const Regex &) = delete;
+    Regex(Regex &&) noexcept;
+    Regex &operator=(Regex &&) noexcept;
 
     [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
     [[nodiscard]] Matches allMatches(QStringView text) const;
-    /// The text with every match written as @p replacement, which is taken as it is.
+    /// The text with every match replaced by @p replacement, taken literally.
     [[nodiscard]] QString replaced(QStringView text, QStringView replacement) const;
     [[nodiscard]] bool matchesIn(QStringView text) const { return firstMatch(text).has_value(); }
 
 private:
     struct Compiled;
-    [[nodiscard]] const Compiled &compiled() const;
-
-    QString m_pattern;
-    Case m_case;
-    mutable std::once_flag m_once;
-    mutable std::unique_ptr<Compiled> m_compiled;
+    std::unique_ptr<const Compiled> m_compiled; ///< read-only, so searches may run on several threads
 };

@@ -1,55 +1,42 @@
 #include "reminders/LanguageDetection.h"
 
 #include "foundation/Regex.h"
+#include "foundation/Scripts.h"
 #include "reminders/languages/Languages.h"
 
-#include <QList>
+#include <QStringList>
 
 #include <algorithm>
 #include <optional>
-#include <span>
 
 namespace {
-struct ScalarRange {
-    char32_t first;
-    char32_t last; ///< included
-};
-
-constexpr ScalarRange hangul[] = {{0x1100, 0x11FF}, {0x3130, 0x318F}, {0xA960, 0xA97F}, {0xAC00, 0xD7A3},
-    {0xD7B0, 0xD7FF}, {0xFFA0, 0xFFDC}};
-constexpr ScalarRange kana[] = {{0x3040, 0x30FF}, {0x31F0, 0x31FF}, {0xFF66, 0xFF9F}};
-constexpr ScalarRange han[] = {{0x4E00, 0x9FFF}, {0x3400, 0x4DBF}, {0x20000, 0x2A6DF}, {0xF900, 0xFAFF}};
-
-/// The scripts seen in a text, found in one walk over it.
-struct Scripts {
-    bool hangul = false;
-    bool kana = false;
-    bool han = false;
-
-    explicit Scripts(QStringView text)
+/// A list of markers, split once.
+class Markers
+{
+public:
+    Markers(WordList list, const LanguageRules &rules)
+        : m_markers(WordLists::expanded(list, rules).split(u'|', Qt::SkipEmptyParts))
     {
-        const auto within = [](std::span<const ScalarRange> ranges, char32_t scalar) {
-            return std::any_of(ranges.begin(), ranges.end(),
-                [scalar](ScalarRange range) { return scalar >= range.first && scalar <= range.last; });
-        };
-        const QList<uint> scalars = text.toUcs4();
-        for (const char32_t scalar : scalars) {
-            if (scalar < hangulStart)
-                continue;
-            hangul = hangul || within(::hangul, scalar);
-            kana = kana || within(::kana, scalar);
-            han = han || within(::han, scalar);
-        }
+    }
+    explicit Markers(const LanguageRules &rules)
+        : Markers(rules.markers, rules)
+    {
+    }
+
+    [[nodiscard]] bool areIn(QStringView text) const
+    {
+        return std::any_of(m_markers.begin(), m_markers.end(),
+            [text](const QString &marker) { return text.contains(marker); });
     }
 
 private:
-    static constexpr char32_t hangulStart = 0x1100; ///< below it there is none of the three
+    QStringList m_markers;
 };
 
-bool containsAny(QStringView text, const std::vector<QStringView> &markers)
+bool hasMarker(QStringView text, ReminderLanguage language)
 {
-    return std::any_of(
-        markers.begin(), markers.end(), [text](QStringView marker) { return text.contains(marker); });
+    static const Languages::Compilation<Markers> markers;
+    return markers.of(language).areIn(text);
 }
 
 bool containsAnyLetter(QStringView text, QStringView letters)
@@ -61,70 +48,68 @@ bool containsAnyLetter(QStringView text, QStringView letters)
 std::optional<ReminderLanguage> detectScandinavian(QStringView lowered)
 {
     static const Regex clock(QStringLiteral(R"(\bkl\.?\s*\d)"));
-    const ScandinavianMarkers &markers = Languages::scandinavianMarkers();
-    if (!containsAny(lowered, markers.dateWords) && !containsAny(lowered, markers.timeWords)
-        && !(lowered.contains(u"kl") && clock.matchesIn(lowered)))
+    static const LanguageRules &rules = Languages::scandinavian();
+    static const Languages::ScandinavianMarkers &lists = Languages::scandinavianMarkers();
+    static const Markers anyOfThem(lists.anyOfThem, rules);
+    static const Markers swedish(lists.swedish, rules);
+    static const Markers danish(lists.danish, rules);
+    static const Markers norwegian(lists.norwegian, rules);
+    if (!anyOfThem.areIn(lowered) && !(lowered.contains(u"kl") && clock.matchesIn(lowered)))
         return std::nullopt;
 
-    if (containsAnyLetter(lowered, u"äö") || containsAny(lowered, markers.swedishWords))
+    if (containsAnyLetter(lowered, u"äö") || swedish.areIn(lowered))
         return ReminderLanguage::Swedish;
-    if (containsAny(lowered, markers.danishWords))
+    if (danish.areIn(lowered))
         return ReminderLanguage::Danish;
-    if (containsAny(lowered, markers.norwegianWords))
+    if (norwegian.areIn(lowered))
         return ReminderLanguage::Norwegian;
     return ReminderLanguage::Danish;
 }
 
-/// The order decides: "morgen om 9 uur" is Dutch, because Dutch is asked before German.
+/// The order decides: "morgen om 9 uur" is Dutch because Dutch is tested before German.
 ReminderLanguage detectLatin(QStringView text)
 {
+    using enum ReminderLanguage;
     static const Regex frenchHour(QStringLiteral(R"(\d{1,2}h)"));
     static const Regex spanishHour(QStringLiteral(R"(\d{1,2}\s+h)"));
     const QString lowered = text.toString().toLower();
     const bool hasH = lowered.contains(u'h');
 
-    if (containsAny(lowered, Languages::portuguese().markers))
-        return ReminderLanguage::Portuguese;
-    if (containsAnyLetter(lowered, u"àçèêëîïôûù"))
-        return ReminderLanguage::French;
-    if (hasH && frenchHour.matchesIn(lowered))
-        return ReminderLanguage::French;
+    if (hasMarker(lowered, Portuguese))
+        return Portuguese;
+    if (containsAnyLetter(lowered, u"àçèêëîïôûù") || (hasH && frenchHour.matchesIn(lowered)))
+        return French;
     if (lowered.contains(u'ß'))
-        return ReminderLanguage::German;
+        return German;
     if (const auto scandinavian = detectScandinavian(lowered))
         return *scandinavian;
-    if (containsAny(lowered, Languages::dutch().markers))
-        return ReminderLanguage::Dutch;
-    if (containsAny(lowered, Languages::italian().markers))
-        return ReminderLanguage::Italian;
+    if (hasMarker(lowered, Dutch))
+        return Dutch;
+    if (hasMarker(lowered, Italian))
+        return Italian;
     if (hasH && spanishHour.matchesIn(lowered))
-        return ReminderLanguage::Spanish;
-    if (containsAnyLetter(lowered, u"äöü"))
-        return ReminderLanguage::German;
-    if (containsAny(lowered, Languages::german().markers))
-        return ReminderLanguage::German;
-    if (containsAnyLetter(lowered, u"ñáíóú"))
-        return ReminderLanguage::Spanish;
-    if (containsAny(lowered, Languages::spanish().markers))
-        return ReminderLanguage::Spanish;
-    if (containsAny(lowered, Languages::french().markers))
-        return ReminderLanguage::French;
-    return ReminderLanguage::English;
+        return Spanish;
+    if (containsAnyLetter(lowered, u"äöü") || hasMarker(lowered, German))
+        return German;
+    if (containsAnyLetter(lowered, u"ñáíóú") || hasMarker(lowered, Spanish))
+        return Spanish;
+    if (hasMarker(lowered, French))
+        return French;
+    return English;
 }
 } // namespace
 
 ReminderLanguage LanguageDetection::detect(QStringView text)
 {
-    const Scripts scripts(text);
+    using enum ReminderLanguage;
+    const Scripts::EastAsian scripts = Scripts::of(text);
     if (scripts.hangul)
-        return ReminderLanguage::Korean;
+        return Korean;
     if (scripts.kana)
-        return ReminderLanguage::Japanese;
-    if (containsAny(text, Languages::chinese().markers))
-        return ReminderLanguage::Chinese;
-    if (containsAny(text, Languages::japanese().markers))
-        return ReminderLanguage::Japanese;
-    if (scripts.han)
-        return ReminderLanguage::Chinese;
-    return detectLatin(text);
+        return Japanese;
+    for (const ReminderLanguage language : {Chinese, Japanese}) {
+        if (hasMarker(text, language))
+            return language;
+    }
+    return scripts.han ? Chinese : detectLatin(text);
 }

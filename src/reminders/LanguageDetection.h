@@ -5,8 +5,8 @@
 #include <QStringView>
 
 namespace LanguageDetection {
-/// The language that a draft is written in; English where nothing tells. Cheap enough for every keystroke,
-/// and rough: a marker counts inside another word too, and the first language whose markers are found has the
-/// text.
+/// The language of a draft; English when nothing indicates another. Fast enough for every keystroke and
+/// approximate: a marker also counts inside another word, and the first language with a marker in the text
+/// wins.
 [[nodiscard]] ReminderLanguage detect(QStringView text);
 } // namespace LanguageDetection

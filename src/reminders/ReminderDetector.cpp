@@ -2,59 +2,41 @@
 
 #include "reminders/LanguageDetection.h"
 #include "reminders/grammar/ReminderParser.h"
+#include "reminders/grammar/TriggerPhrases.h"
 
 #include <algorithm>
 
 namespace {
-/// The fire time and the stretches of the draft that told it.
+/// The fire time and the detections that it was read from.
 struct Choice {
     Instant fireAt;
     QList<TextRange> ranges;
     ReminderLanguage language;
 };
 
-/// A date with a time wins over a time alone (whose day another detection may supply), and that over a date
+/// A date with a time is preferred to a time alone, whose day another detection may supply, and that to a day
 /// alone.
-std::optional<Choice> choose(
-    const QList<DateDetection> &detections, Instant now, const Calendar &calendar, ReminderLanguage language)
+std::optional<Choice> choose(const QList<DateDetection> &detections, const Calendar &calendar)
 {
-    // What a detector states decides; of one that states nothing the language's patterns are asked.
     using Kind = DateDetection::Kind;
-    const auto holdsTime = [language](const DateDetection &detection) {
-        return detection.kind ? detection.kind != Kind::Day
-                              : ReminderParser::holdsTime(detection.text, language);
+    const auto first = [&detections](auto... kinds) -> const DateDetection * {
+        const auto found = std::find_if(detections.begin(), detections.end(),
+            [=](const DateDetection &detection) { return ((detection.kind == kinds) || ...); });
+        return found == detections.end() ? nullptr : &*found;
     };
-    const auto holdsDate = [language](const DateDetection &detection) {
-        return detection.kind ? detection.kind != Kind::Time
-                              : ReminderParser::holdsDate(detection.text, language);
-    };
-
-    for (const DateDetection &detection : detections) {
-        if (holdsTime(detection) && holdsDate(detection))
-            return Choice{detection.fireAt, {detection.range}, detection.language.value_or(language)};
+    if (const DateDetection *whole = first(Kind::DayAndTime, Kind::Moment))
+        return Choice{whole->fireAt, {whole->range}, whole->language};
+    const DateDetection *day = first(Kind::Day);
+    if (const DateDetection *time = first(Kind::Time)) {
+        if (!day)
+            return Choice{time->fireAt, {time->range}, time->language};
+        const auto fireAt = time->time.on(day->day, calendar);
+        return fireAt ? std::optional(Choice{*fireAt, {time->range, day->range}, time->language})
+                      : std::nullopt;
     }
-    for (const DateDetection &detection : detections) {
-        if (!holdsTime(detection))
-            continue;
-        const auto date = std::find_if(detections.begin(), detections.end(),
-            [&](const DateDetection &other) { return &other != &detection && holdsDate(other); });
-        const bool hasDate = date != detections.end();
-        const auto fireAt = calendar.instant(
-            calendar.day(hasDate ? date->fireAt : now), calendar.timeOfDay(detection.fireAt));
-        if (!fireAt)
-            return std::nullopt;
-        // The midnight that ends a day.
-        const int dayOffset = detection.kind ? calendar.daysBetween(now, detection.fireAt) : 0;
-        return Choice{calendar.addingDays(*fireAt, dayOffset),
-            hasDate ? QList{detection.range, date->range} : QList{detection.range},
-            detection.language.value_or(language)};
-    }
-    for (const DateDetection &detection : detections) {
-        if (!holdsTime(detection))
-            return Choice{ReminderDetector::normalizePureDate(detection.fireAt, calendar), {detection.range},
-                detection.language.value_or(language)};
-    }
-    return std::nullopt;
+    if (!day)
+        return std::nullopt;
+    return Choice{ReminderDetector::normalizePureDate(day->day, calendar), {day->range}, day->language};
 }
 } // namespace
 
@@ -68,10 +50,10 @@ std::optional<ParsedReminder> ReminderDetector::detect(
     if (auto parsed = ReminderParser::parse(trimmed, now, calendar, language))
         return parsed;
 
-    QList<DateDetection> detections = detector.detectDates(trimmed);
+    QList<DateDetection> detections = detector.detectDates(trimmed, language);
     std::stable_sort(detections.begin(), detections.end(),
         [](const DateDetection &a, const DateDetection &b) { return a.range.start < b.range.start; });
-    const auto choice = choose(detections, now, calendar, language);
+    const auto choice = choose(detections, calendar);
     if (!choice)
         return std::nullopt;
     const bool standsInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
@@ -93,11 +75,11 @@ QString ReminderDetector::mergedContent(QStringView text, QList<TextRange> range
         cursor = std::max(cursor, range.end);
     }
     kept += text.sliced(cursor);
-    // Text that was apart may have come together, so that only a phrase with an end of its own is one.
-    return ReminderParser::withoutTriggerPhrases(kept.trimmed(), text, language, ReminderParser::Glued::Kept);
+    // Removing a date may join two words, so only a phrase that ends as a word is removed.
+    return TriggerPhrases::stripped(kept.trimmed(), text, language, TriggerPhrases::Glued::Kept);
 }
 
-Instant ReminderDetector::normalizePureDate(Instant date, const Calendar &calendar)
+Instant ReminderDetector::normalizePureDate(Calendar::Day day, const Calendar &calendar)
 {
-    return calendar.instant(calendar.day(date), {9, 0}).value_or(calendar.startOfDay(date));
+    return calendar.instant(day, DayParts::defaultTimeOfDay).value_or(calendar.startOfDay(day));
 }

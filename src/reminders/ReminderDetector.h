@@ -12,17 +12,17 @@
 
 #include <optional>
 
-/// Answers on every keystroke whether a draft is a reminder: by the grammar first, else by a date found in
-/// it.
+/// Decides on every keystroke whether a draft is a reminder: by the grammar first, then by dates found
+/// anywhere in it.
 namespace ReminderDetector {
-/// A time that has passed is returned as it is; what to make of it is the caller's matter.
+/// The fire time may lie in the past; the caller decides what to do about that.
 [[nodiscard]] std::optional<ParsedReminder> detect(
     QStringView text, Instant now, const Calendar &calendar, const DateDetecting &detector);
 
-/// The reminder's text when dates stood within the draft: the text without the ranges, trigger phrases and
-/// edge punctuation; the whole text when nothing else is left.
+/// The reminder's text when dates were found within the draft: the text without the ranges, trigger phrases
+/// and leading punctuation; the whole text when nothing else is left.
 [[nodiscard]] QString mergedContent(QStringView text, QList<TextRange> ranges, ReminderLanguage language);
 
-/// A day without a time of day reminds at 09:00.
-[[nodiscard]] Instant normalizePureDate(Instant date, const Calendar &calendar);
+/// When a day without a time of day reminds: at 09:00.
+[[nodiscard]] Instant normalizePureDate(Calendar::Day day, const Calendar &calendar);
 } // namespace ReminderDetector

@@ -47,13 +47,11 @@ private Q_SLOTS:
         QCOMPARE(match->range(), (TextRange{3, 5}));
     }
 
-    void a_regex_that_cannot_be_compiled_or_runs_away_matches_nothing()
+    void a_regex_that_exceeds_its_time_limit_matches_nothing()
     {
-        QVERIFY(!Regex(QStringLiteral("(")).matchesIn(u"("));
-        QVERIFY(!Regex().matchesIn(u""));
         const Regex exponential(QStringLiteral("(x+x+)+y"));
         QVERIFY(!exponential.matchesIn(QString(40, u'x')));
-        QVERIFY(exponential.matchesIn(u"xxy")); // and is none the worse for it
+        QVERIFY(exponential.matchesIn(u"xxy")); // and stays usable
     }
 };
 

@@ -1,7 +1,9 @@
-// Everyday drafts in every language, each in a file of dates/: <language>-found.txt holds drafts with the
-// moment and the content that they mean, <language>-ordinary.txt drafts that hold no date. It is Wednesday
-// 2026-03-04 10:00 in Shanghai.
-#include "reminders/DateEvaluation.h"
+// Everyday drafts in every language, in files of dates/: <language>-found.txt has drafts with the moment and
+// the content that they mean, <language>-ordinary.txt drafts without a date, <language>-missed.txt drafts of
+// both kinds that are known to be misunderstood. It is Wednesday 2026-03-04 10:00 in Shanghai.
+#include "reminders/DateDrafts.h"
+
+#include "reminders/LanguageDetection.h"
 
 #include <QLocale>
 #include <QTest>
@@ -12,23 +14,34 @@ class DatesTest final : public QObject
 {
     Q_OBJECT
 
+    static QList<DateDetection> detected(const QString &draft, const Clock &clock)
+    {
+        return DateDetector(clock).detectDates(draft, LanguageDetection::detect(draft));
+    }
+
 private Q_SLOTS:
-    void every_language_understands_what_people_write_data()
+    void every_draft_means_what_its_row_says_data()
     {
         QTest::addColumn<QString>("language");
-        for (const QString &language : DateEvaluation::languages())
+        for (const QString &language : DateDrafts::languages())
             QTest::newRow(qPrintable(language)) << language;
     }
-    void every_language_understands_what_people_write()
+    void every_draft_means_what_its_row_says()
     {
         QFETCH(QString, language);
-        const DateEvaluation::Score score = DateEvaluation::evaluate(language);
-        for (const QString &fault : score.faults)
-            qInfo("%s", qPrintable(fault));
-        QVERIFY2(score.drafts >= 60 && score.ordinary >= 100, "too few drafts");
-        QCOMPARE_GE(score.rightMoments * 100, score.drafts * 97);
-        QCOMPARE_GE(score.rightContents * 100, score.drafts * 95);
-        QCOMPARE_LE(score.falseAlarms * 100, score.ordinary);
+        QStringList faults;
+        for (const QString &list : {u"found"_s, u"ordinary"_s, u"missed"_s}) {
+            const QList<DateDrafts::Row> rows = DateDrafts::rows(language, list);
+            QVERIFY2(list == u"missed" || rows.size() >= 60, "too few drafts");
+            for (const auto &[draft, meaning] : rows) {
+                const QString understood = DateDrafts::understood(draft);
+                if (list == u"missed" && understood == meaning)
+                    faults.append(draft + u"  is understood now: move the row out of the missed ones"_s);
+                if (list != u"missed" && understood != meaning)
+                    faults.append(draft + u"  =>  "_s + understood);
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 
     // The system knows how people of a place write a whole date.
@@ -48,18 +61,12 @@ private Q_SLOTS:
             const QString whole = locale.toString(day, QLocale::LongFormat);
             for (const QString &written : {whole, whole.toLower()}) {
                 const QString draft = u"xyz "_s + written;
-                const auto found = DateEvaluation::detect(draft);
-                if (!found
-                    || DateEvaluation::momentOf(found->fireAt) != day.toString(Qt::ISODate) + u" 09:00"_s
-                    || found->content != u"xyz"_s)
-                    faults.append(draft + u" => "_s
-                                  + (found ? DateEvaluation::momentOf(found->fireAt) + u' ' + found->content
-                                           : u"nothing"_s));
+                const QString understood = DateDrafts::understood(draft);
+                if (understood != day.toString(Qt::ISODate).remove(u"2026-"_s) + u" 09:00 | xyz"_s)
+                    faults.append(draft + u"  =>  "_s + understood);
             }
         }
-        for (const QString &fault : faults.first(std::min<qsizetype>(6, faults.size())))
-            qInfo("%s", qPrintable(fault));
-        QVERIFY(faults.isEmpty());
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 
     void the_examples_of_the_documentation_hold()
@@ -69,11 +76,8 @@ private Q_SLOTS:
             const QStringList columns = line.split(u" | "_s);
             if (columns.size() != 3 || !columns[1].startsWith(u"2026-"_s))
                 continue;
-            const QString draft = columns[0].sliced(2);
-            const auto found = DateEvaluation::detect(draft);
-            QVERIFY2(found, qPrintable(draft));
-            QVERIFY2(DateEvaluation::isMoment(columns[1], found->fireAt), qPrintable(draft));
-            QCOMPARE(found->content + u" |"_s, columns[2]);
+            QCOMPARE(u"| 2026-"_s + DateDrafts::understood(columns[0].sliced(2)) + u" |"_s,
+                u"| "_s + columns[1] + u" | "_s + columns[2]);
             ++examples;
         }
         QCOMPARE_GE(examples, 13 * 8);
@@ -99,9 +103,9 @@ private Q_SLOTS:
         static const QStringList kinds{u"day"_s, u"day and time"_s, u"time"_s, u"moment"_s};
         QFETCH(QString, draft);
         QStringList found;
-        for (const DateDetection &detection : DateDetector(DateEvaluation::clock()).detectDates(draft)) {
+        for (const DateDetection &detection : detected(draft, DateDrafts::clock())) {
             QCOMPARE(draft.sliced(detection.range.start, detection.range.length()), detection.text);
-            found.append(kinds[int(*detection.kind)] + u' ' + QString::number(int(*detection.language)) + u' '
+            found.append(kinds[int(detection.kind)] + u' ' + QString::number(int(detection.language)) + u' '
                          + detection.text);
         }
         QTEST(found, "found");
@@ -110,32 +114,40 @@ private Q_SLOTS:
     void a_span_is_rounded_up_to_whole_minutes()
     {
         const TestClock clock("2026-03-04T02:00:01Z");
-        QCOMPARE(
-            DateDetector(clock).detectDates(u"in 20 minutes").first().fireAt, at("2026-03-04T02:21:00Z"));
+        QCOMPARE(detected(u"in 20 minutes"_s, clock).first().fireAt, at("2026-03-04T02:21:00Z"));
     }
 
     void the_calendar_decides_what_exists_data()
     {
         QTest::addColumn<QString>("draft");
-        QTest::addColumn<QByteArray>("fireAt"); // empty: nothing
-        const auto row = [](const QString &draft, const QByteArray &fireAt) {
-            QTest::newRow(qPrintable(draft)) << draft << fireAt;
+        QTest::addColumn<QString>("meaning");
+        const auto row = [](const QString &draft, const QString &meaning) {
+            QTest::newRow(qPrintable(draft)) << draft << meaning;
         };
-        row(u"x am 30.2."_s, "");
-        row(u"x on 29 February"_s, "2028-02-29T01:00:00Z");
-        row(u"x on the 31st"_s, "2026-03-31T01:00:00Z");
-        row(u"x 3月1日"_s, "2027-03-01T01:00:00Z");
-        row(u"x in 12 months"_s, "2027-03-04T01:00:00Z");
-        row(u"五月底 交报告"_s, "2026-05-31T01:00:00Z");
-        row(u"二月底下午3点 交报告"_s, "2027-02-28T07:00:00Z");
-        row(u"x at midnight"_s, "2026-03-04T16:00:00Z");
-        row(u"Friday party at midnight"_s, "2026-03-06T16:00:00Z"); // the midnight that ends it
+        row(u"x am 30.2."_s, {});
+        row(u"x on 29 February"_s, u"2028-02-29 09:00 | x"_s);
+        row(u"x on the 31st"_s, u"03-31 09:00 | x"_s);
+        row(u"x 3月1日"_s, u"2027-03-01 09:00 | x"_s);
+        row(u"x in 12 months"_s, u"2027-03-04 09:00 | x"_s);
+        row(u"五月底 交报告"_s, u"05-31 09:00 | 交报告"_s);
+        row(u"二月底下午3点 交报告"_s, u"2027-02-28 15:00 | 交报告"_s);
+        row(u"x at midnight"_s, u"03-05 00:00 | x"_s);
+        row(u"Friday party at midnight"_s, u"03-07 00:00 | party"_s); // the midnight that ends it
     }
     void the_calendar_decides_what_exists()
     {
         QFETCH(QString, draft);
-        const auto found = DateEvaluation::detect(draft);
-        QTEST(found ? InternetDateTime::format(found->fireAt) : QByteArray(), "fireAt");
+        QTEST(DateDrafts::understood(draft), "meaning");
+    }
+
+    // Today this time does not exist: the clocks go forward.
+    void a_time_keeps_its_hour_on_the_day_of_another_detection()
+    {
+        const TestClock clock("2026-03-28T23:30:00Z", "Europe/Berlin");
+        const auto found = ReminderDetector::detect(
+            u"Montag Zug um 2:30 Uhr nachts", clock.now(), clock.calendar(), DateDetector(clock));
+        QVERIFY(found);
+        QCOMPARE(found->fireAt, at("2026-03-30T00:30:00Z"));
     }
 };
 

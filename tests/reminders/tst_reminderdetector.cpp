@@ -6,21 +6,28 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using Kind = DateDetection::Kind;
 
 namespace {
-/// Finds what a test tells it to find, in the order told.
-class ToldDetector final : public DateDetecting
+/// Returns the detections that a test sets, in that order.
+class PresetDetector final : public DateDetecting
 {
 public:
-    void tell(const QString &found, const char *moment) { m_told.append({found, at(moment)}); }
+    /// @p moment is the day, the time of day or both, as @p kind says.
+    void add(const QString &text, DateDetection::Kind kind, const char *moment)
+    {
+        const Calendar calendar("Asia/Shanghai");
+        m_detections.append({kind, ReminderLanguage::English, calendar.day(at(moment)),
+            {calendar.timeOfDay(at(moment))}, at(moment), {}, text});
+    }
 
-    [[nodiscard]] QList<DateDetection> detectDates(QStringView text) const override
+    [[nodiscard]] QList<DateDetection> detectDates(QStringView text, ReminderLanguage) const override
     {
         ++asked;
-        QList<DateDetection> detections;
-        for (const auto &[found, moment] : m_told) {
-            const qsizetype start = text.indexOf(found);
-            detections.append({moment, {start, start + found.size()}, found});
+        QList<DateDetection> detections = m_detections;
+        for (DateDetection &detection : detections) {
+            const qsizetype start = text.indexOf(detection.text);
+            detection.range = {start, start + detection.text.size()};
         }
         return detections;
     }
@@ -28,7 +35,7 @@ public:
     mutable int asked = 0;
 
 private:
-    QList<QPair<QString, Instant>> m_told;
+    QList<DateDetection> m_detections;
 };
 } // namespace
 
@@ -39,7 +46,7 @@ class ReminderDetectorTest final : public QObject
     const Instant m_now = at("2026-03-02T02:00:00Z");
     const Calendar m_calendar{"Asia/Shanghai"};
 
-    std::optional<ParsedReminder> detect(const QString &text, const ToldDetector &detector) const
+    std::optional<ParsedReminder> detect(const QString &text, const PresetDetector &detector) const
     {
         return ReminderDetector::detect(text, m_now, m_calendar, detector);
     }
@@ -47,7 +54,7 @@ class ReminderDetectorTest final : public QObject
 private Q_SLOTS:
     void the_grammar_and_a_blank_draft_leave_the_detector_alone()
     {
-        const ToldDetector detector;
+        const PresetDetector detector;
         QVERIFY(detect(u"明天下午3点 交房租"_s, detector));
         QVERIFY(!detect(u" \t\u3000 "_s, detector));
         QCOMPARE(detector.asked, 0);
@@ -57,33 +64,32 @@ private Q_SLOTS:
 
     void a_date_with_a_time_wins_and_is_taken_as_it_is()
     {
-        ToldDetector detector;
-        detector.tell(u"Friday"_s, "2026-03-06T04:00:00Z");
-        detector.tell(u"next Monday at 3pm"_s, "2026-03-09T07:00:00Z");
+        PresetDetector detector;
+        detector.add(u"Friday"_s, Kind::Day, "2026-03-06T04:00:00Z");
+        detector.add(u"next Monday at 3pm"_s, Kind::DayAndTime, "2026-03-09T07:00:00Z");
         const auto found = detect(u"not Friday but next Monday at 3pm: call the bank"_s, detector);
         QCOMPARE(found, (ParsedReminder{at("2026-03-09T07:00:00Z"), u"not Friday but : call the bank"_s}));
     }
 
     void a_time_takes_its_day_from_another_detection_or_is_today()
     {
-        ToldDetector detector;
-        detector.tell(u"3pm"_s, "2026-03-02T07:00:00Z");
+        PresetDetector detector;
+        detector.add(u"3pm"_s, Kind::Time, "2026-03-02T07:00:00Z");
         QCOMPARE(
             detect(u"call mom 3pm"_s, detector), (ParsedReminder{at("2026-03-02T07:00:00Z"), u"call mom"_s}));
-        detector.tell(u"Friday"_s, "2026-03-06T04:00:00Z");
+        detector.add(u"Friday"_s, Kind::Day, "2026-03-06T04:00:00Z");
         QCOMPARE(detect(u"Friday call mom 3pm remember"_s, detector),
             (ParsedReminder{at("2026-03-06T07:00:00Z"), u"call mom"_s}));
     }
 
     void a_date_alone_reminds_at_nine()
     {
-        ToldDetector detector;
-        detector.tell(u"next Friday"_s, "2026-03-06T04:00:00Z");
+        PresetDetector detector;
+        detector.add(u"next Friday"_s, Kind::Day, "2026-03-06T04:00:00Z");
         QCOMPARE(detect(u"call the bank next Friday"_s, detector),
             (ParsedReminder{at("2026-03-06T01:00:00Z"), u"call the bank"_s}));
         QCOMPARE(detect(u"next Friday, remind me to call the bank"_s, detector)->content,
-            u"remind me to call the bank"_s); // punctuation stands before the phrase, which is looked for
-                                              // first
+            u"remind me to call the bank"_s); // the phrase is not at the front: punctuation precedes it
         QCOMPARE(detect(u"next Friday"_s, detector)->content, u"next Friday"_s);
     }
 

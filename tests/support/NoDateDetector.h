@@ -2,9 +2,12 @@
 
 #include "reminders/DateDetecting.h"
 
-/// Finds none: only what the grammar accepts is a reminder.
+/// Finds nothing, so only what the grammar accepts is a reminder.
 class NoDateDetector final : public DateDetecting
 {
 public:
-    [[nodiscard]] QList<DateDetection> detectDates(QStringView) const override { return {}; }
+    [[nodiscard]] QList<DateDetection> detectDates(QStringView, ReminderLanguage) const override
+    {
+        return {};
+    }
 };

@@ -41,7 +41,8 @@ QJsonValue detectDates(Arguments &arguments)
     QJsonArray answers;
     const FixedClock clock(arguments.now(), arguments.calendar());
     const QString text = arguments.text(u"text"_s);
-    for (const DateDetection &detection : DateDetector(clock).detectDates(text)) {
+    for (const DateDetection &detection :
+        DateDetector(clock).detectDates(text, LanguageDetection::detect(text))) {
         answers.append(QJsonObject{{u"fireAt"_s, Answer::instant(detection.fireAt)},
             {u"location"_s, detection.range.start}, {u"length"_s, detection.range.length()},
             {u"text"_s, detection.text}});

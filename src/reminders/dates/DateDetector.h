@@ -3,10 +3,10 @@
 #include "foundation/Clock.h"
 #include "reminders/DateDetecting.h"
 
-/// Finds the dates of one-line drafts in thirteen languages, wherever they stand.
+/// Finds dates anywhere in one-line drafts in thirteen languages.
 ///
-/// A draft is read in the language that it seems to be in and, where that finds nothing, in those for which
-/// its words speak. What stands in a tag, an address or a path is no date.
+/// A draft is read in its own language and in others that its words indicate; the reading that explains most
+/// of it wins. Nothing in a tag, an address or a path is a date.
 class DateDetector final : public DateDetecting
 {
 public:
@@ -15,10 +15,11 @@ public:
     {
     }
 
-    /// Makes the tables of all languages ready, for which the first keystroke would wait some milliseconds.
+    /// Compiles the tables of all languages, which would delay the first keystroke by some milliseconds.
     static void prepare();
 
-    [[nodiscard]] QList<DateDetection> detectDates(QStringView text) const override;
+    [[nodiscard]] QList<DateDetection> detectDates(
+        QStringView text, ReminderLanguage language) const override;
 
 private:
     const Clock &m_clock;

@@ -1,8 +1,18 @@
 #include "reminders/dates/DateFacts.h"
 
+#include <tuple>
+
 namespace {
-template <typename T>
-bool join(std::optional<T> &to, const std::optional<T> &from)
+/// Every fact, so that combining needs no list of its own.
+constexpr auto allFacts = std::tuple(&DateFacts::relativeDay, &DateFacts::weekday, &DateFacts::next,
+    &DateFacts::weeksLater, &DateFacts::weeksAhead, &DateFacts::day, &DateFacts::month, &DateFacts::year,
+    &DateFacts::monthsAhead, &DateFacts::weekend, &DateFacts::monthEnd, &DateFacts::halves, &DateFacts::unit,
+    &DateFacts::hour, &DateFacts::minute, &DateFacts::minutesBefore, &DateFacts::shift, &DateFacts::asWritten,
+    &DateFacts::part);
+
+/// A fact that both state is a contradiction, even if the values are equal.
+template <typename Fact>
+bool add(Fact &to, const Fact &from)
 {
     if (to && from)
         return false;
@@ -11,12 +21,12 @@ bool join(std::optional<T> &to, const std::optional<T> &from)
     return true;
 }
 
-bool isLetters(DayPart part)
+bool isAmOrPm(DayPart part)
 {
     return part == DayPart::Am || part == DayPart::Pm;
 }
 
-/// A weekday may stand beside a date, and a week or a month that is told apart beside what lies in it.
+/// Two days contradict each other, but a weekday may stand beside its date or its week.
 bool sayTwoDays(const DateFacts &a, const DateFacts &b)
 {
     if (!a.saysDay() || !b.saysDay())
@@ -24,35 +34,29 @@ bool sayTwoDays(const DateFacts &a, const DateFacts &b)
     const auto isWeekday = [](const DateFacts &facts) {
         return facts.weekday && !facts.day && !facts.relativeDay;
     };
-    const auto isWeek = [](const DateFacts &facts) { return facts.weeksAhead && !facts.weekday; };
-    const auto isDate = [](const DateFacts &facts) { return facts.day.has_value(); };
-    return !(isWeekday(a) && (isDate(b) || isWeek(b))) && !(isWeekday(b) && (isDate(a) || isWeek(a)));
+    const auto isDateOrWeek = [](const DateFacts &facts) {
+        return facts.day || (facts.weeksAhead && !facts.weekday);
+    };
+    return !(isWeekday(a) && isDateOrWeek(b)) && !(isWeekday(b) && isDateOrWeek(a));
 }
 } // namespace
 
-std::optional<DateFacts> DateFacts::together(const DateFacts &a, const DateFacts &b)
+std::optional<DateFacts> DateFacts::combined(const DateFacts &a, const DateFacts &b)
 {
-    const DateFacts nothing;
-    if (a == nothing)
+    if (a == DateFacts())
         return b;
     if (sayTwoDays(a, b) || a.saysMoment() || b.saysMoment())
         return std::nullopt;
     DateFacts both = a;
     DateFacts other = b;
-    // "tonight at 9pm": the letters say it again, and more exactly.
+    // "tonight at 9pm": am or pm repeats the part of the day more precisely.
     if (both.part && other.part) {
-        if (isLetters(*other.part))
+        if (isAmOrPm(*other.part))
             both.part.reset();
-        else if (isLetters(*both.part))
+        else if (isAmOrPm(*both.part))
             other.part.reset();
     }
-    const bool isGood =
-        join(both.relativeDay, b.relativeDay) && join(both.weekday, b.weekday) && join(both.next, b.next)
-        && join(both.weeksLater, b.weeksLater) && join(both.weeksAhead, b.weeksAhead) && join(both.day, b.day)
-        && join(both.month, b.month) && join(both.year, b.year) && join(both.monthsAhead, b.monthsAhead)
-        && join(both.weekend, b.weekend) && join(both.monthEnd, b.monthEnd) && join(both.halves, b.halves)
-        && join(both.unit, b.unit) && join(both.hour, b.hour) && join(both.minute, b.minute)
-        && join(both.minutesBefore, b.minutesBefore) && join(both.shift, b.shift)
-        && join(both.asWritten, b.asWritten) && join(both.part, other.part);
-    return isGood ? std::optional(both) : std::nullopt;
+    const bool isConsistent =
+        std::apply([&](auto... facts) { return (add(both.*facts, other.*facts) && ...); }, allFacts);
+    return isConsistent ? std::optional(both) : std::nullopt;
 }

@@ -1,13 +1,15 @@
 #include "reminders/dates/DateFinder.h"
 
+#include "foundation/Scripts.h"
+
 #include <algorithm>
 
 namespace {
-constexpr int mostLeadingWords = 3; // "not before the"
-constexpr int mostParts = 4;        // "on Friday, 6 March, in the afternoon at 3"
+constexpr int maxLeadingWords = 3; // "not before the"
+constexpr int maxParts = 4;        // "on Friday, 6 March, in the afternoon at 3"
 } // namespace
 
-DateFinder::DateFinder(const DateGrammar &grammar, const QList<DateToken> &tokens)
+DateFinder::DateFinder(const CompiledGrammar &grammar, const QList<DateToken> &tokens)
     : m_reading(grammar, tokens)
     , m_tokens(tokens)
 {
@@ -16,10 +18,10 @@ DateFinder::DateFinder(const DateGrammar &grammar, const QList<DateToken> &token
 QList<DateFinder::Found> DateFinder::find() const
 {
     QList<Found> all;
-    qsizetype free = 0; // the first token that no date has yet
+    qsizetype free = 0; // the first token after the previous date
     for (qsizetype start = 0; start < m_tokens.size();) {
         Found best{start, start, {}};
-        beginAt(start, start, mostLeadingWords, best);
+        beginAt(start, start, maxLeadingWords, best);
         if (best.end == start) {
             ++start;
             continue;
@@ -44,7 +46,7 @@ bool DateFinder::isGlued(qsizetype token) const
 
 bool DateFinder::isHangul(qsizetype token) const
 {
-    return isType(token, Type::Character) && DateTokens::isHangul(m_tokens[token].text.front());
+    return isType(token, Type::Character) && Scripts::isHangul(m_tokens[token].text.front());
 }
 
 bool DateFinder::isHyphen(qsizetype token) const
@@ -52,7 +54,7 @@ bool DateFinder::isHyphen(qsizetype token) const
     return isType(token, Type::Mark) && m_tokens[token].text == u"-";
 }
 
-// Not within a word, and not behind one that makes it no date.
+// Not within a word, and not after one that excludes a date.
 bool DateFinder::mayBeginAt(qsizetype token) const
 {
     if (m_reading.startOf(Role::NotAfter, token) != token || m_reading.isWithin(Role::Idiom, token))
@@ -75,7 +77,7 @@ bool DateFinder::mayEndAt(qsizetype token) const
         return false;
     if (!isGlued(token))
         return true;
-    if (isHangul(token)) { // which may carry a particle
+    if (isHangul(token)) { // a particle may follow
         const qsizetype end = m_reading.endOf(Role::After, token);
         return !isHangul(token - 1) || (end != token && !(isHangul(end) && isGlued(end)));
     }
@@ -86,7 +88,7 @@ bool DateFinder::mayEndAt(qsizetype token) const
            || !(isType(token, Type::Word) || isType(token, Type::Number) || isType(token, Type::Barrier));
 }
 
-// The end of the draft or of what is said there.
+// The end of the draft or of a clause.
 bool DateFinder::isEdge(qsizetype token) const
 {
     if (token >= m_tokens.size() || isType(token, Type::Barrier)
@@ -96,7 +98,7 @@ bool DateFinder::isEdge(qsizetype token) const
            && QStringView(u",.;:!?)，。、；！？").contains(m_tokens[token].text.front());
 }
 
-// Tries a date that begins with this token, or behind the words there that lead to one.
+// Tries a date that begins with this token, or after the leading words there.
 void DateFinder::beginAt(qsizetype start, qsizetype first, int leadingWords, Found &best) const
 {
     if (first >= m_tokens.size())
@@ -109,26 +111,26 @@ void DateFinder::beginAt(qsizetype start, qsizetype first, int leadingWords, Fou
         beginAt(start, next, leadingWords - 1, best);
 }
 
-// Tries what can stand behind the parts found so far, and keeps the longest date that can end.
+// Tries what can follow the parts found so far, and keeps the longest date that can end.
 void DateFinder::extend(const Found &sofar, int parts, Strength strength, Found &best) const
 {
-    const bool isReason =
+    const bool isSufficient =
         strength == Strength::Alone || (strength == Strength::AtEdge && (parts > 1 || isEdge(sofar.end)));
-    if (parts > 0 && isReason && sofar.end > best.end && mayEndAt(sofar.end))
+    if (parts > 0 && isSufficient && sofar.end > best.end && mayEndAt(sofar.end))
         best = sofar;
-    if (parts == mostParts)
+    if (parts == maxParts)
         return;
     for (const qsizetype at : continuations(sofar.end, parts)) {
         if (at >= m_tokens.size())
             continue;
-        for (const DateGrammar::Match &match : m_reading.matches(at)) {
-            if (const auto facts = DateFacts::together(sofar.facts, match.facts))
+        for (const DateReading::Match &match : m_reading.matches(at)) {
+            if (const auto facts = DateFacts::combined(sofar.facts, match.facts))
                 extend({sofar.start, match.end, *facts}, parts + 1, std::min(strength, match.strength), best);
         }
     }
 }
 
-// Where the next part may begin: at once, or behind a comma or a word that joins parts.
+// Where the next part may begin: immediately, or after a comma or a word that joins parts.
 QList<qsizetype> DateFinder::continuations(qsizetype end, int parts) const
 {
     QList<qsizetype> starts{end};
@@ -136,12 +138,12 @@ QList<qsizetype> DateFinder::continuations(qsizetype end, int parts) const
         return starts;
     const bool isComma =
         isType(end, Type::Mark) && QStringView(u",，、").contains(m_tokens[end].text.front());
-    const qsizetype behindComma = isComma ? end + 1 : end;
+    const qsizetype afterComma = isComma ? end + 1 : end;
     if (isComma)
-        starts.append(behindComma);
+        starts.append(afterComma);
     for (const Role role : {Role::Between, Role::Before}) {
-        for (const qsizetype behind : m_reading.endsOf(role, behindComma))
-            starts.append(behind);
+        for (const qsizetype next : m_reading.endsOf(role, afterComma))
+            starts.append(next);
     }
     return starts;
 }
@@ -149,7 +151,7 @@ QList<qsizetype> DateFinder::continuations(qsizetype end, int parts) const
 // "by the", "spätestens am".
 qsizetype DateFinder::withWordsBefore(qsizetype start, qsizetype free) const
 {
-    for (int i = 0; i < mostLeadingWords; ++i) {
+    for (int i = 0; i < maxLeadingWords; ++i) {
         const qsizetype before = m_reading.startOf(Role::Before, start);
         const bool isPart = isHangul(before) && before > 0 && isHangul(before - 1) && isGlued(before);
         if (before == start || before < free || isPart)

@@ -2,25 +2,25 @@
 
 #include "reminders/dates/DateReading.h"
 
-/// Finds the dates of one draft in one language: what the rules match, put together where it stands together.
+/// Finds the dates of one draft in one language by combining adjacent matches of rules.
 class DateFinder
 {
 public:
     /// @p tokens must outlive the finder.
-    DateFinder(const DateGrammar &grammar, const QList<DateToken> &tokens);
+    DateFinder(const CompiledGrammar &grammar, const QList<DateToken> &tokens);
 
     struct Found {
         qsizetype start = 0; ///< its first token
-        qsizetype end = 0;   ///< the token behind its last
+        qsizetype end = 0;   ///< the token after its last
         DateFacts facts;
     };
-    /// From left to right, not overlapping; at each place the longest wins. The words that lead to a date or
+    /// From left to right, not overlapping; from each token on the longest wins. Words that lead to a date or
     /// follow it ("by", "sharp") belong to it.
     [[nodiscard]] QList<Found> find() const;
 
 private:
     using Strength = DateWords::Strength;
-    using Role = DateGrammar::Role;
+    using Role = CompiledGrammar::Role;
     using Type = DateToken::Type;
 
     [[nodiscard]] bool isType(qsizetype token, Type type) const;

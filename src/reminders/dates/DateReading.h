@@ -1,54 +1,51 @@
 #pragma once
 
-#include "reminders/dates/DateGrammar.h"
+#include "reminders/dates/CompiledGrammar.h"
+#include "reminders/dates/DateTokens.h"
 
 #include <vector>
 
-/// A draft as one language reads it.
+/// The words that one language recognises in a draft, and the rules that match there.
 class DateReading
 {
 public:
-    using Match = DateGrammar::Match;
-    using Role = DateGrammar::Role;
+    using Role = CompiledGrammar::Role;
 
     /// @p grammar and @p tokens must outlive the reading.
-    DateReading(const DateGrammar &grammar, const QList<DateToken> &tokens);
+    DateReading(const CompiledGrammar &grammar, const QList<DateToken> &tokens);
 
+    /// A rule that has matched.
+    struct Match {
+        qsizetype end = 0; ///< the token after the last
+        DateFacts facts;
+        DateWords::Strength strength = DateWords::Strength::Alone;
+    };
     /// Every way in which a rule matches from this token on.
     [[nodiscard]] std::vector<Match> matches(qsizetype start) const;
 
-    /// The token behind the longest word of this role that begins here; @p start where there is none.
+    /// The token after the longest word of this role that begins here; @p start where there is none.
     [[nodiscard]] qsizetype endOf(Role role, qsizetype start) const;
-    /// The tokens behind each of the words of this role that begin here.
+    /// The tokens after each of the words of this role that begin here.
     [[nodiscard]] std::vector<qsizetype> endsOf(Role role, qsizetype start) const;
     /// The first token of the longest word of this role that ends before the token @p end; @p end for none.
     [[nodiscard]] qsizetype startOf(Role role, qsizetype end) const;
-    /// Whether the token stands within such a word, behind its beginning.
+    /// Whether the token is within a word of this role, but not its first.
     [[nodiscard]] bool isWithin(Role role, qsizetype token) const;
 
 private:
-    using Entry = DateGrammar::Entry;
-    using Element = DateGrammar::Element;
-    using Rule = DateGrammar::Rule;
-    using Kind = DateGrammar::Kind;
-    using Slot = DateGrammar::Slot;
-
-    /// A word of the language that begins at some token.
+    /// A word that begins at some token.
     struct Arc {
-        Entry entry;
+        DateWord word;
         qsizetype end = 0;
-        int digits = 0; ///< of a number; 0 when it is in words
-        bool isHanNumeral = false;
-        bool isBehindMark = false; ///< "/27" and the like
     };
 
     void addPhraseArcs(qsizetype start);
     void addNumeralArc(qsizetype start);
-    void walk(const Rule &rule, size_t element, qsizetype at, const DateFacts &facts,
+    void walk(const CompiledGrammar::Rule &rule, size_t element, qsizetype at, const DateFacts &facts,
         std::vector<Match> &found) const;
-    [[nodiscard]] static bool take(const Element &element, const Arc &arc, DateFacts &facts);
+    [[nodiscard]] static bool hasRole(const Arc &arc, Role role);
 
-    const DateGrammar &m_grammar;
+    const CompiledGrammar &m_grammar;
     const QList<DateToken> &m_tokens;
     std::vector<std::vector<Arc>> m_arcs; ///< by first token
 };

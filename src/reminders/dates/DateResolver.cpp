@@ -3,59 +3,6 @@
 using namespace std::chrono;
 
 namespace {
-constexpr int dayStart = 9; // the hour of a day without a time
-
-struct ClockTime {
-    Calendar::TimeOfDay time;
-    int dayOffset = 0;
-};
-
-int defaultHour(DayPart part)
-{
-    switch (part) {
-    case DayPart::EarlyMorning:
-    case DayPart::Morning:
-    case DayPart::Am:
-        return 9;
-    case DayPart::Noon:
-        return 12;
-    case DayPart::Afternoon:
-    case DayPart::Pm:
-        return 15;
-    case DayPart::Evening:
-        return 20;
-    case DayPart::Night:
-        return 22;
-    }
-    return dayStart;
-}
-
-/// The hour that is meant by one on a clock's face, and whether it lies behind midnight.
-ClockTime withPart(int hour, int minute, DayPart part)
-{
-    switch (part) {
-    case DayPart::EarlyMorning:
-    case DayPart::Am:
-        return {{hour == 12 ? 0 : hour, minute}};
-    case DayPart::Morning:
-        return {{hour, minute}};
-    case DayPart::Noon:
-        return {{hour >= 1 && hour <= 4 ? hour + 12 : hour, minute}};
-    case DayPart::Afternoon:
-    case DayPart::Pm:
-        return {{hour < 12 ? hour + 12 : hour, minute}};
-    case DayPart::Evening:
-        if (hour == 12 || hour == 0)
-            return {{0, minute}, 1};
-        return {{hour < 12 ? hour + 12 : hour, minute}};
-    case DayPart::Night:
-        if (hour == 12 || hour == 0)
-            return {{0, minute}, 1};
-        return {{hour >= 6 && hour < 12 ? hour + 12 : hour, minute}};
-    }
-    return {{hour, minute}};
-}
-
 std::optional<ClockTime> resolveTime(const DateFacts &facts)
 {
     const int written = facts.minutesBefore ? -facts.minute.value_or(0) : facts.minute.value_or(0);
@@ -68,10 +15,8 @@ std::optional<ClockTime> resolveTime(const DateFacts &facts)
         return ClockTime{{0, 0}, 1};
     if (hour > 23)
         return std::nullopt;
-    if (facts.part)
-        return withPart(hour, minute, *facts.part);
-    const bool isAfterNoon = hour >= 1 && hour <= 6 && !facts.asWritten;
-    return ClockTime{{isAfterNoon ? hour + 12 : hour, minute}};
+    const DayPart part = facts.part.value_or(facts.asWritten ? DayPart::AsWritten : DayPart::Unnamed);
+    return DayParts::clockTime(part, {hour, minute}, DayParts::Engine::Detection);
 }
 
 local_days mondayOf(Calendar::Day day)
@@ -155,26 +100,19 @@ std::optional<DateResolver::Resolved> DateResolver::resolve(
     if (facts.saysMoment()) {
         const int unitMinutes = facts.unit == SpanUnit::Hours ? 60 : 1;
         const Instant moment = now + minutes(facts.halves.value_or(2) * unitMinutes / 2);
-        return Resolved{ceil<minutes>(moment), Kind::Moment};
+        return Resolved{Kind::Moment, {}, {}, ceil<minutes>(moment)};
     }
     const Calendar::Day today = calendar.day(now);
-    const auto date = facts.saysDay() ? resolveDay(facts, today) : std::optional(today);
-    if (!date)
-        return std::nullopt;
-
-    ClockTime clock{{dayStart, 0}};
-    if (facts.saysTime()) {
-        const auto time = resolveTime(facts);
-        if (!time)
-            return std::nullopt;
-        clock = *time;
-    } else if (facts.part) {
-        clock.time.hour = defaultHour(*facts.part);
-    }
-    const auto fireAt = calendar.instant(*date, clock.time);
+    const auto day = facts.saysDay() ? resolveDay(facts, today) : std::optional(today);
+    auto time = std::optional(ClockTime{DayParts::defaultTimeOfDay});
+    if (facts.saysTime())
+        time = resolveTime(facts);
+    else if (facts.part)
+        time->time = DayParts::defaultTime(*facts.part);
+    const auto fireAt = day && time ? time->on(*day, calendar) : std::nullopt;
     if (!fireAt)
         return std::nullopt;
     const bool hasTime = facts.saysTime() || facts.part;
     const Kind kind = !hasTime ? Kind::Day : facts.saysDay() ? Kind::DayAndTime : Kind::Time;
-    return Resolved{clock.dayOffset ? calendar.addingDays(*fireAt, clock.dayOffset) : *fireAt, kind};
+    return Resolved{kind, *day, *time, *fireAt};
 }

@@ -6,14 +6,17 @@
 
 #include <optional>
 
-/// Puts facts on the calendar.
+/// Resolves facts to calendar days and times.
 namespace DateResolver {
+/// The fields of a DateDetection.
 struct Resolved {
-    Instant fireAt;
     DateDetection::Kind kind;
+    Calendar::Day day;
+    ClockTime time;
+    Instant fireAt;
 };
 
-/// Nothing for a day or a time that does not exist. A day without a time is at its 09:00, a part of the day
-/// without an hour at the hour of the part: morning 9, noon 12, afternoon 15, evening 20, night 22.
+/// Empty for a day or a time that does not exist. A day without a time is at its 09:00, a part of the day
+/// without an hour at the default time of the part.
 [[nodiscard]] std::optional<Resolved> resolve(const DateFacts &facts, Instant now, const Calendar &calendar);
 } // namespace DateResolver

@@ -1,6 +1,7 @@
 #include "reminders/dates/DateTokens.h"
 
 #include "foundation/Digits.h"
+#include "foundation/Scripts.h"
 #include "text/TagEditing.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ using Type = DateToken::Type;
 
 bool isWordLetter(QChar character)
 {
-    return (character.isLetter() || character.isMark()) && !DateTokens::isUnspaced(character);
+    return (character.isLetter() || character.isMark()) && !Scripts::isUnspaced(character);
 }
 
 bool isApostrophe(QChar character)
@@ -18,7 +19,7 @@ bool isApostrophe(QChar character)
     return character == u'\'' || character == u'’';
 }
 
-/// What stands between the numbers of a date or a time.
+/// The ASCII form of a separator between the numbers of a date or a time; 0 for any other character.
 char16_t separator(QChar character)
 {
     switch (character.unicode()) {
@@ -41,7 +42,7 @@ char16_t separator(QChar character)
     }
 }
 
-/// The stretches in which nothing is a date: tags, addresses, paths.
+/// The ranges in which nothing is a date: tags, addresses, paths.
 QList<TextRange> barriers(QStringView text)
 {
     QList<TextRange> ranges;
@@ -113,13 +114,13 @@ private:
         const QChar character = m_text[m_at];
         if (character.isDigit()) {
             cutNumbers();
-        } else if (DateTokens::isUnspaced(character)) {
+        } else if (Scripts::isUnspaced(character)) {
             take(Type::Character, m_at + 1);
         } else if (isWordLetter(character)) {
             qsizetype end = m_at;
             while (end < m_text.size() && isWordLetter(m_text[end]))
                 ++end;
-            // "l'8", "mezz'ora": the apostrophe ends the word, but for the one of "Monday's".
+            // "l'8", "mezz'ora": the apostrophe ends the word, except in "Monday's".
             const bool isElision =
                 end < m_text.size() && isApostrophe(m_text[end]) && end + 1 < m_text.size()
                 && m_text[end + 1].isLetterOrNumber()
@@ -141,7 +142,7 @@ private:
         }
     }
 
-    /// A run of digits and the separators among them, of which only some shapes can be part of a date.
+    /// Takes a run of digits and separators. Only some shapes can be part of a date.
     void cutNumbers()
     {
         qsizetype end = m_at;
@@ -158,8 +159,8 @@ private:
             separators += QChar(mark);
             ++end;
         }
-        // "v2", "A4", "€5", "+49", "No. 5", "-3": whatever is glued in front; but "14h30", and any letter of
-        // a script without spaces.
+        // Digits directly after another character are no date: "v2", "A4", "€5", "+49", "-3". Exceptions are
+        // "14h30" and any letter of a script without spaces.
         bool isAttached = false;
         if (m_at > 0) {
             const QChar before = m_text[m_at - 1];
@@ -169,7 +170,7 @@ private:
             const bool isElided = isApostrophe(before);
             const bool isAbbreviated = before == u'.' && m_tokens.size() >= 2 && m_tokens.last().isGlued
                                        && m_tokens[m_tokens.size() - 2].type == Type::Word;
-            isAttached = !before.isSpace() && !DateTokens::isUnspaced(before) && !isWithinTime && !isElided
+            isAttached = !before.isSpace() && !Scripts::isUnspaced(before) && !isWithinTime && !isElided
                          && !isAbbreviated
                          && !QStringView(u"(（@,，、。：:\"“「『[！!？?；;>").contains(before);
         }
@@ -202,24 +203,6 @@ private:
     QList<DateToken> m_tokens;
 };
 } // namespace
-
-bool DateTokens::isHangul(QChar character)
-{
-    return character.script() == QChar::Script_Hangul;
-}
-
-bool DateTokens::isUnspaced(QChar character)
-{
-    switch (character.script()) {
-    case QChar::Script_Han:
-    case QChar::Script_Hiragana:
-    case QChar::Script_Katakana:
-    case QChar::Script_Hangul:
-        return true;
-    default:
-        return character == u'ー';
-    }
-}
 
 QList<DateToken> DateTokens::of(QStringView text)
 {

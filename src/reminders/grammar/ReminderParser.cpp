@@ -2,6 +2,8 @@
 
 #include "foundation/Digits.h"
 #include "foundation/Regex.h"
+#include "reminders/grammar/Expression.h"
+#include "reminders/grammar/TriggerPhrases.h"
 #include "reminders/languages/Languages.h"
 
 #include <algorithm>
@@ -14,14 +16,12 @@ using std::chrono::weekday;
 using std::chrono::year;
 
 namespace {
-constexpr QStringView edgePunctuation = u"，。！？、,.;:：!?～~";
-
 QStringView sliced(QStringView text, TextRange range)
 {
     return text.sliced(range.start, range.length());
 }
 
-/// A token of the match; one that took no part or is empty counts as absent.
+/// A token of the match. A group that did not take part or is empty counts as absent.
 std::optional<QStringView> token(const Regex::Match &match, int group, int otherGroup, QStringView text)
 {
     for (const int number : {group, otherGroup}) {
@@ -46,9 +46,16 @@ std::optional<int> capturedNumber(const Regex &regex, QStringView text)
     return range ? std::optional(Digits::value(sliced(text, *range))) : std::nullopt;
 }
 
-bool contains(const std::vector<QStringView> &words, QStringView word)
+template <typename Value>
+std::optional<Value> value(const Words<Value> &table, const QString &word)
 {
-    return std::find(words.begin(), words.end(), word) != words.end();
+    return WordLists::valueIf(table, [&word](QStringView known) { return known == word; });
+}
+
+/// The value of a known word that @p text begins with.
+std::optional<int> valueByPrefix(const Words<int> &table, QStringView text)
+{
+    return WordLists::valueIf(table, [text](QStringView known) { return text.startsWith(known); });
 }
 
 // Days
@@ -58,40 +65,39 @@ Calendar::Day addingDays(Calendar::Day date, int count)
     return Calendar::Day(local_days(date) + days(count));
 }
 
-/// Nothing when the token names no weekday.
+/// Empty when the token names no weekday.
 std::optional<Calendar::Day> resolveWeekday(
     const QString &lowered, Calendar::Day today, const LanguageRules &rules)
 {
     QString name = lowered;
     bool hasNext = false;
-    for (const QStringView marker : rules.next) {
+    for (const QStringView marker : rules.grammar.next.tokenize(u'|', Qt::SkipEmptyParts)) {
         if (name.contains(marker)) {
             name.remove(marker.toString());
             hasNext = true;
             break;
         }
     }
-    name = name.trimmed();
-    for (const LanguageRules::Weekday &candidate : rules.weekdays) {
-        if (!name.startsWith(candidate.prefix))
-            continue;
-        const int current = int(weekday(local_days(today)).c_encoding());
-        const int ahead = (candidate.number - current + 7) % 7;
-        // "next Friday" on a Wednesday is two days off; only today's own weekday moves on by a week.
-        return addingDays(today, ahead == 0 && hasNext ? 7 : ahead);
-    }
-    return std::nullopt;
+    const auto target = valueByPrefix(rules.weekdays, name.trimmed());
+    if (!target)
+        return std::nullopt;
+    const int current = int(weekday(local_days(today)).c_encoding());
+    const int ahead = (*target - current + 7) % 7;
+    // "next Friday" on a Wednesday is two days ahead; only today's own weekday moves on by a week.
+    return addingDays(today, ahead == 0 && hasNext ? 7 : ahead);
 }
 
-/// The month of the first word that begins with a month's name.
+/// The month of the first word that begins with the name of a month.
 std::optional<int> monthNumber(const QString &lowered, const LanguageRules &rules)
 {
     static const Regex word(QStringLiteral(R"(\p{L}+)"));
     for (const Regex::Match &match : word.allMatches(lowered)) {
         const QStringView letters = sliced(lowered, match.range());
-        for (const LanguageRules::Month &candidate : rules.months) {
-            if (letters.startsWith(candidate.prefix))
-                return candidate.number;
+        if (const auto month = valueByPrefix(rules.months, letters))
+            return month;
+        for (const Words<int> *months : rules.grammar.otherMonths) {
+            if (const auto month = valueByPrefix(*months, letters))
+                return month;
         }
     }
     return std::nullopt;
@@ -99,7 +105,7 @@ std::optional<int> monthNumber(const QString &lowered, const LanguageRules &rule
 
 struct AbsoluteDate {
     bool isDate = false;                   ///< the token has the form of a date
-    std::optional<Calendar::Day> existing; ///< the day, where there is such a day
+    std::optional<Calendar::Day> existing; ///< empty when the calendar has no such day
 };
 
 AbsoluteDate resolveAbsoluteDate(const QString &lowered, Calendar::Day today, const LanguageRules &rules)
@@ -135,86 +141,25 @@ AbsoluteDate resolveAbsoluteDate(const QString &lowered, Calendar::Day today, co
 
 // Times
 
-ReminderParser::ResolvedTime applied(HourRule rule, Calendar::TimeOfDay time)
-{
-    const auto [hour, minute] = time;
-    const Calendar::TimeOfDay afterNoon{hour + 12, minute};
-    const Calendar::TimeOfDay midnight{0, minute};
-    switch (rule) {
-    case HourRule::AsWritten:
-        break;
-    case HourRule::BareHour:
-        if (hour >= 1 && hour <= 6)
-            return {afterNoon};
-        break;
-    case HourRule::MidnightIsZero:
-        if (hour == 12)
-            return {midnight};
-        break;
-    case HourRule::Afternoon:
-        if (hour < 12)
-            return {afterNoon};
-        break;
-    case HourRule::Evening:
-        if (hour == 12)
-            return {midnight, 1};
-        if (hour < 12)
-            return {afterNoon};
-        break;
-    case HourRule::Night:
-        if (hour == 12)
-            return {midnight, 1};
-        if (hour >= 7 && hour <= 11)
-            return {afterNoon};
-        break;
-    }
-    return {time};
-}
-
-HourRule hourRule(
+DayPart dayPart(
     const QString &loweredTime, std::optional<QStringView> period, bool hasColon, const LanguageRules &rules)
 {
-    if (hasColon && rules.colonTimesIgnorePeriod)
-        return HourRule::AsWritten;
-    if (rules.periodIsInTime) {
-        for (const LanguageRules::Period &candidate : rules.periods) {
-            if (loweredTime.contains(candidate.word))
-                return candidate.rule;
-        }
-        return rules.withoutPeriod;
+    if (hasColon && rules.grammar.colonTimesIgnorePeriod)
+        return DayPart::AsWritten;
+    if (rules.grammar.periodIsInTime) {
+        const auto isInTime = [&](QStringView word) { return loweredTime.contains(word); };
+        return WordLists::valueIf(rules.dayParts, isInTime).value_or(rules.grammar.withoutPeriod);
     }
     if (!period)
-        return rules.withoutPeriod;
-    const QString lowered = period->toString().toLower();
-    for (const LanguageRules::Period &candidate : rules.periods) {
-        if (lowered == candidate.word)
-            return candidate.rule;
-    }
-    return HourRule::AsWritten;
+        return rules.grammar.withoutPeriod;
+    return value(rules.dayParts, period->toString().toLower()).value_or(DayPart::AsWritten);
 }
-
-// Content
 
 QStringView withoutLeadingSpace(QStringView text)
 {
     while (!text.isEmpty() && text.front().isSpace())
         text = text.sliced(1);
     return text;
-}
-
-QStringView withoutTrailingSpace(QStringView text)
-{
-    while (!text.isEmpty() && text.back().isSpace())
-        text.chop(1);
-    return text;
-}
-
-/// Whether the phrase ends where a word ends. Scripts without spaces have no such ends: there every place
-/// will do.
-bool endsWithWord(QStringView phrase, QStringView rest)
-{
-    const bool isSpaced = phrase.back().script() == QChar::Script_Latin;
-    return !isSpaced || rest.isEmpty() || !rest.front().isLetterOrNumber();
 }
 } // namespace
 
@@ -224,19 +169,17 @@ std::optional<Calendar::Day> ReminderParser::resolveDay(
     const Calendar::Day today = calendar.day(now);
     const QString lowered = dateToken ? dateToken->toString().simplified().toLower() : QString();
     const LanguageRules &rules = Languages::rules(language);
-    if (lowered.isEmpty() || contains(rules.today, lowered))
+    if (lowered.isEmpty() || WordLists::contains(rules.grammar.pastDays, lowered))
         return today;
-    if (contains(rules.tomorrow, lowered))
-        return addingDays(today, 1);
-    if (contains(rules.dayAfterTomorrow, lowered))
-        return addingDays(today, 2);
+    if (const auto ahead = value(rules.relativeDays, lowered))
+        return addingDays(today, *ahead);
     if (const auto date = resolveWeekday(lowered, today, rules))
         return date;
     const AbsoluteDate absolute = resolveAbsoluteDate(lowered, today, rules);
     return absolute.isDate ? absolute.existing : today;
 }
 
-std::optional<ReminderParser::ResolvedTime> ReminderParser::resolveTime(
+std::optional<ClockTime> ReminderParser::resolveTime(
     QStringView timeToken, std::optional<QStringView> period, ReminderLanguage language)
 {
     static const Regex afterColon(QStringLiteral(R"([:：](\d{1,2}))"));
@@ -244,84 +187,53 @@ std::optional<ReminderParser::ResolvedTime> ReminderParser::resolveTime(
     const QString lowered = timeToken.toString().toLower();
     const bool hasColon = lowered.contains(u':') || lowered.contains(u'：');
     const std::optional<int> hour = firstNumber(lowered);
+    const auto resolved = [&](Calendar::TimeOfDay written) {
+        return DayParts::clockTime(
+            dayPart(lowered, period, hasColon, rules), written, DayParts::Engine::Grammar);
+    };
 
-    if (!rules.halfBefore.isEmpty() && lowered.startsWith(rules.halfBefore.toString() + u' '))
-        return applied(hourRule(lowered, period, hasColon, rules), {hour.value_or(1) - 1, 30});
+    const QStringView halfBefore = rules.grammar.halfBefore;
+    if (!halfBefore.isEmpty() && lowered.startsWith(halfBefore.toString() + u' '))
+        return resolved({hour.value_or(1) - 1, 30});
     if (!hour)
         return std::nullopt;
     int minute = 0;
     if (hasColon)
         minute = capturedNumber(afterColon, lowered).value_or(0);
-    else if (!rules.halfPast.isEmpty() && lowered.contains(rules.halfPast))
+    else if (!rules.grammar.halfPast.isEmpty() && lowered.contains(rules.grammar.halfPast))
         minute = 30;
-    else
-        minute = capturedNumber(rules.minutes, lowered).value_or(0);
-    return applied(hourRule(lowered, period, hasColon, rules), {*hour, minute});
+    else if (const auto &minutes = Expression::of(language).minutes)
+        minute = capturedNumber(*minutes, lowered).value_or(0);
+    return resolved({*hour, minute});
 }
 
 std::optional<ParsedReminder> ReminderParser::parse(
     QStringView text, Instant now, const Calendar &calendar, ReminderLanguage language)
 {
     const QStringView trimmed = text.trimmed();
-    const LanguageRules &rules = Languages::rules(language);
-    const auto match = rules.expression.firstMatch(trimmed);
+    const auto match = Expression::of(language).pattern.firstMatch(trimmed);
     if (!match || match->range().start != 0)
         return std::nullopt;
-    const auto dateToken = token(*match, rules.groups.date, rules.groups.otherDate, trimmed);
-    const auto period = token(*match, rules.groups.period, 0, trimmed);
-    const auto timeToken = token(*match, rules.groups.time, rules.groups.otherTime, trimmed);
+    const ExpressionRules::Groups &groups = Languages::rules(language).grammar.groups;
+    const auto dateToken = token(*match, groups.date, groups.otherDate, trimmed);
+    const auto period = token(*match, groups.period, 0, trimmed);
+    const auto timeToken = token(*match, groups.time, groups.otherTime, trimmed);
     if (!timeToken)
         return std::nullopt;
 
-    const auto date = resolveDay(dateToken, now, calendar, language);
+    const auto day = resolveDay(dateToken, now, calendar, language);
     const auto time = resolveTime(*timeToken, period, language);
-    const auto fireAt = date && time ? calendar.instant(*date, time->time) : std::nullopt;
+    const auto fireAt = day && time ? time->on(*day, calendar) : std::nullopt;
     if (!fireAt)
         return std::nullopt;
-    return ParsedReminder{time->dayOffset == 0 ? *fireAt : calendar.addingDays(*fireAt, time->dayOffset),
-        content(trimmed.sliced(match->range().end), trimmed, language)};
+    return ParsedReminder{*fireAt, content(trimmed.sliced(match->range().end), trimmed, language)};
 }
 
 QString ReminderParser::content(QStringView remainder, QStringView fullText, ReminderLanguage language)
 {
     QStringView text = withoutLeadingSpace(remainder);
-    const QStringView particle = Languages::rules(language).joiningParticle;
+    const QStringView particle = Languages::rules(language).grammar.joiningParticle;
     if (!particle.isEmpty() && text.startsWith(particle))
         text = text.sliced(particle.size());
-    return withoutTriggerPhrases(text, fullText, language, Glued::Removed);
-}
-
-QString ReminderParser::withoutTriggerPhrases(
-    QStringView original, QStringView fullText, ReminderLanguage language, Glued glued)
-{
-    const std::vector<QStringView> &phrases = Languages::rules(language).triggerPhrases;
-    QStringView text = withoutLeadingSpace(original);
-    for (const QStringView phrase : phrases) {
-        if (text.startsWith(phrase, Qt::CaseInsensitive)
-            && (glued == Glued::Removed || endsWithWord(phrase, text.sliced(phrase.size())))) {
-            text = text.sliced(phrase.size());
-            break;
-        }
-    }
-    text = withoutTrailingSpace(text);
-    for (const QStringView phrase : phrases) {
-        if (text.endsWith(phrase, Qt::CaseInsensitive)) {
-            text.chop(phrase.size());
-            break;
-        }
-    }
-    while (!text.isEmpty() && (text.front().isSpace() || edgePunctuation.contains(text.front())))
-        text = text.sliced(1);
-    text = text.trimmed();
-    return (text.isEmpty() ? fullText : text).toString();
-}
-
-bool ReminderParser::holdsDate(QStringView text, ReminderLanguage language)
-{
-    return Languages::rules(language).date.matchesIn(text);
-}
-
-bool ReminderParser::holdsTime(QStringView text, ReminderLanguage language)
-{
-    return Languages::rules(language).time.matchesIn(text);
+    return TriggerPhrases::stripped(text, fullText, language, TriggerPhrases::Glued::Removed);
 }

@@ -1,0 +1,67 @@
+#include "foundation/Scripts.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <span>
+
+namespace {
+struct Block {
+    char32_t first;
+    char32_t last; ///< included
+};
+
+constexpr Block hangulBlocks[] = {{0x1100, 0x11FF}, {0x3130, 0x318F}, {0xA960, 0xA97F}, {0xAC00, 0xD7A3},
+    {0xD7B0, 0xD7FF}, {0xFFA0, 0xFFDC}};
+constexpr Block kanaBlocks[] = {{0x3040, 0x30FF}, {0x31F0, 0x31FF}, {0xFF66, 0xFF9F}};
+constexpr Block hanBlocks[] = {{0x4E00, 0x9FFF}, {0x3400, 0x4DBF}, {0x20000, 0x2A6DF}, {0xF900, 0xFAFF}};
+constexpr char32_t firstEastAsian = 0x1100; ///< all blocks are above
+
+bool isWithin(std::span<const Block> blocks, char32_t codePoint)
+{
+    return std::any_of(blocks.begin(), blocks.end(),
+        [codePoint](Block block) { return codePoint >= block.first && codePoint <= block.last; });
+}
+} // namespace
+
+Scripts::EastAsian Scripts::of(QStringView text)
+{
+    EastAsian found;
+    const QList<uint> codePoints = text.toUcs4();
+    for (const char32_t codePoint : codePoints) {
+        if (codePoint < firstEastAsian)
+            continue;
+        found.hangul = found.hangul || isWithin(hangulBlocks, codePoint);
+        found.kana = found.kana || isWithin(kanaBlocks, codePoint);
+        found.han = found.han || isWithin(hanBlocks, codePoint);
+    }
+    return found;
+}
+
+bool Scripts::isHan(QChar character)
+{
+    return character.script() == QChar::Script_Han;
+}
+
+bool Scripts::isHangul(QChar character)
+{
+    return character.script() == QChar::Script_Hangul;
+}
+
+bool Scripts::isLatin(QChar character)
+{
+    return character.script() == QChar::Script_Latin;
+}
+
+bool Scripts::isUnspaced(QChar character)
+{
+    switch (character.script()) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Hangul:
+        return true;
+    default:
+        return character == u'ー'; // shared by both kana
+    }
+}
