@@ -26,7 +26,7 @@ Compositor::Kind Compositor::kind()
     if (!X11::connection())
         return QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) ? Kind::Plain
                                                                                      : Kind::None;
-    static const xcb_atom_t selection = X11::atom("_NET_WM_CM_S0"); // which a compositor owns
+    static const xcb_atom_t selection = X11::atom("_NET_WM_CM_S0"); // owned by the compositor
     if (X11::ownerOf(selection) == XCB_WINDOW_NONE)
         return Kind::None;
     return blurs() ? Kind::Blurring : Kind::Plain;

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Whether something on the desktop puts windows together with what shines through them.
+/// The compositing manager: whether windows can be translucent, and whether it blurs what is behind them.
 namespace Compositor {
 enum class Kind { None, Plain, Blurring };
-/// On X11 it may come and go; on Wayland there always is one, and whether it blurs is not asked.
+/// On X11 it may start and stop at any time. On Wayland there always is one, and blurring is not detected.
 [[nodiscard]] Kind kind();
 } // namespace Compositor

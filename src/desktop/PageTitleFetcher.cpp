@@ -9,8 +9,8 @@
 #include <QTimer>
 
 namespace {
-constexpr qsizetype longestPage = 1 << 20;
-constexpr int mostRedirects = 20;
+constexpr qsizetype maxPageSize = 1 << 20;
+constexpr int maxRedirects = 20;
 
 class DesktopProxyFactory final : public QNetworkProxyFactory
 {
@@ -24,12 +24,12 @@ public:
 QNetworkRequest pageRequest(const QUrl &address)
 {
     QNetworkRequest request(address);
-    // As a browser, so that sites send the page that a person sees.
+    // As a browser, because some sites send other programs another page.
     request.setRawHeader("User-Agent", "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 "
                                        "(KHTML, like Gecko) Version/17.4 Safari/605.1.15");
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    // Followed here: Qt asks twice for the second page of a chain whose redirects are to be looked at.
+    // Followed here: if redirects are to be checked, Qt requests the second page of a chain twice.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     return request;
 }
@@ -49,7 +49,7 @@ bool isPage(const QNetworkReply &reply)
            && (type.contains(u"text/html") || type.contains(u"application/xhtml"));
 }
 
-/// One page on its way, through redirects. Deletes itself once it has told the title.
+/// Fetches one page, through redirects. Deletes itself after it has reported the title.
 class PageTransfer final : public QObject
 {
 public:
@@ -59,7 +59,7 @@ public:
         , m_network(network)
         , m_done(std::move(done))
     {
-        // Over all: Qt's own limit begins anew with every byte that comes.
+        // For the whole transfer: Qt's own time limit restarts with every byte received.
         QTimer::singleShot(timeLimit, this, [this] { end(std::nullopt); });
         load(address);
     }
@@ -74,7 +74,8 @@ private:
         drop();
         m_reply = m_network.get(pageRequest(address));
         m_reply->setParent(this);
-        // Qt asks up to four times when a server hangs up without a word; it cannot be told not to.
+        // Qt repeats a request up to three times when the server closes the connection, and has no option not
+        // to.
         connect(m_reply, &QNetworkReply::requestSent, this, [this, times = 0]() mutable {
             if (++times > 1)
                 end(std::nullopt);
@@ -89,15 +90,15 @@ private:
             finish();
             return;
         }
-        m_page += m_reply->read(longestPage - m_page.size());
-        if (m_page.size() == longestPage)
+        m_page += m_reply->read(maxPageSize - m_page.size());
+        if (m_page.size() == maxPageSize)
             end(title(Charset::Extent::Beginning));
     }
 
     void finish()
     {
         const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-        if (!target.isEmpty() && m_redirects++ < mostRedirects)
+        if (!target.isEmpty() && m_redirects++ < maxRedirects)
             load(m_reply->url().resolved(target));
         else if (m_reply->error() == QNetworkReply::NoError && isPage(*m_reply))
             end(title(Charset::Extent::Whole));
@@ -116,7 +117,7 @@ private:
         if (!m_reply)
             return;
         disconnect(m_reply, nullptr, this, nullptr);
-        m_reply->deleteLater(); // its signal may be what brought us here
+        m_reply->deleteLater(); // this may be called by one of its signals
     }
 
     void end(const std::optional<QString> &title)

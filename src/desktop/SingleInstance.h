@@ -2,19 +2,19 @@
 
 #include <QString>
 
-/// The lock that one process holds on its data folder. The system lets go of it whenever the process ends.
+/// A lock on the data folder, held by one process at a time. The system releases it when the process ends.
 class SingleInstance
 {
 public:
-    /// Creates the folder when it is missing. A folder that cannot be locked at all is used unlocked, with a
-    /// line in the log.
+    /// Creates the folder if necessary. If locking itself fails, the failure is logged and this counts as the
+    /// only one.
     explicit SingleInstance(const QString &dataFolder);
     ~SingleInstance();
     SingleInstance(const SingleInstance &) = delete;
     SingleInstance &operator=(const SingleInstance &) = delete;
 
     [[nodiscard]] bool isOnly() const { return m_isOnly; }
-    /// No process has ever run on this folder.
+    /// No process has used this folder before.
     [[nodiscard]] bool isVeryFirstStart() const { return m_isVeryFirstStart; }
 
 private:

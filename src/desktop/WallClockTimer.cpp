@@ -26,16 +26,16 @@ WallClockTimer::~WallClockTimer()
     ::close(m_fd);
 }
 
-void WallClockTimer::start(Instant moment)
+void WallClockTimer::start(Instant instant)
 {
-    // All zeros would switch the timer off, and a time before 1970 is refused.
+    // Zero would disarm the timer, and a time before 1970 is refused.
     const Instant earliest(milliseconds(1));
-    const milliseconds sinceEpoch = std::max(moment, earliest).time_since_epoch();
+    const milliseconds sinceEpoch = std::max(instant, earliest).time_since_epoch();
     const seconds whole = floor<seconds>(sinceEpoch);
     itimerspec setting{};
     setting.it_value.tv_sec = whole.count();
     setting.it_value.tv_nsec = nanoseconds(sinceEpoch - whole).count();
-    // It may answer ECANCELED when the clock was set a moment ago, and is armed all the same.
+    // It may return ECANCELED when the clock has just been set, and is armed nevertheless.
     if (timerfd_settime(m_fd, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &setting, nullptr) != 0
         && errno != ECANCELED)
         qFatal("timerfd_settime: %s", std::strerror(errno));

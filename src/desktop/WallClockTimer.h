@@ -6,10 +6,10 @@
 
 class QSocketNotifier;
 
-/// Wakes at a moment of the machine's clock: also when the clock is set, and right after a suspend that slept
+/// Fires at an instant of the system clock: also when the clock is set, and right after a suspend that lasted
 /// past it.
 ///
-/// A QTimer counts the time that the machine is awake and would be late by every suspend.
+/// A QTimer does not count suspended time and would be late by it.
 class WallClockTimer final : public QObject
 {
     Q_OBJECT
@@ -19,12 +19,12 @@ public:
     ~WallClockTimer() override;
     Q_DISABLE_COPY_MOVE(WallClockTimer)
 
-    /// A moment in the past wakes at once. Replaces what was set before.
-    void start(Instant moment);
+    /// An instant in the past fires at once. Replaces the previous one.
+    void start(Instant instant);
     void stop();
 
 Q_SIGNALS:
-    /// The moment has come, or the clock was set: look at the clock, and start anew.
+    /// The instant has come, or the clock was set: check the clock and start again.
     void woke();
 
 private:

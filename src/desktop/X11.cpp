@@ -48,7 +48,8 @@ void X11::keepOutOfTaskbars(const QWindow &window)
     static const std::array<xcb_atom_t, 2> states{
         atom("_NET_WM_STATE_SKIP_TASKBAR"), atom("_NET_WM_STATE_SKIP_PAGER")};
     static const xcb_atom_t property = atom("_NET_WM_STATE");
-    setProperty(window, property, XCB_ATOM_ATOM, states.data(), states.size()); // to which Qt adds its own
+    setProperty(
+        window, property, XCB_ATOM_ATOM, states.data(), states.size()); // Qt adds its own states to these
 }
 
 std::uint32_t X11::blurProperty()
@@ -57,11 +58,11 @@ std::uint32_t X11::blurProperty()
     return property;
 }
 
-void X11::blurBehind(const QWindow &window, const QRegion &part)
+void X11::blurBehind(const QWindow &window, const QRegion &region)
 {
     std::vector<std::uint32_t> rectangles;
-    for (const QRect &each : part)
-        rectangles.insert(rectangles.end(), {std::uint32_t(each.x()), std::uint32_t(each.y()),
-                                                std::uint32_t(each.width()), std::uint32_t(each.height())});
+    for (const QRect &rect : region)
+        rectangles.insert(rectangles.end(), {std::uint32_t(rect.x()), std::uint32_t(rect.y()),
+                                                std::uint32_t(rect.width()), std::uint32_t(rect.height())});
     setProperty(window, blurProperty(), XCB_ATOM_CARDINAL, rectangles.data(), rectangles.size());
 }

@@ -9,16 +9,16 @@ struct xcb_connection_t;
 class QRegion;
 class QWindow;
 
-/// Qt's connection to the X server, and what Qt does not do over it.
+/// Qt's connection to the X server, and requests that Qt has no function for.
 namespace X11 {
-/// Nothing where this is no X11 session; nothing below may be called then.
+/// Null if this is no X11 session; the functions below must not be called then.
 [[nodiscard]] xcb_connection_t *connection();
 [[nodiscard]] std::uint32_t root();
 [[nodiscard]] std::uint32_t atom(std::string_view name);
-/// Of a selection; 0 where there is none.
+/// The window that owns a selection; 0 if there is none.
 [[nodiscard]] std::uint32_t ownerOf(std::uint32_t selection);
 
-/// A reply of the server, which is to be freed.
+/// A reply of the server, freed with the pointer.
 template <typename T>
 using Reply = std::unique_ptr<T, decltype(&std::free)>;
 template <typename T>
@@ -27,11 +27,10 @@ template <typename T>
     return Reply<T>(reply, &std::free);
 }
 
-/// Before the window is shown, each time: taskbars and pagers are not to list it.
+/// Hides the window from taskbars and pagers. To be called each time before the window is shown.
 void keepOutOfTaskbars(const QWindow &window);
-/// Both the property of a window and, on the root window, the sign that somebody blurs what is behind
-/// windows.
+/// Property that requests blur; compositors that support it set it on the root window.
 [[nodiscard]] std::uint32_t blurProperty();
-/// Asks for what is behind this part of the window, in device pixels, to be blurred.
-void blurBehind(const QWindow &window, const QRegion &part);
+/// Requests blur behind this region of the window, in device pixels.
+void blurBehind(const QWindow &window, const QRegion &region);
 } // namespace X11

@@ -23,7 +23,7 @@ QString preferredLanguage()
     return QStringLiteral("zh-Hans");
 }
 
-/// Null where no such language is offered.
+/// Null if the language is not offered.
 const QTranslator *translator(const QString &languageCode)
 {
     static QHash<QString, std::shared_ptr<QTranslator>> translators;
@@ -50,7 +50,7 @@ QByteArray L10n::locale(QStringView languageCode)
         QStringView prefix;
         const char *locale;
     };
-    // The first prefix that fits; "zh-Hant" must stand before "zh".
+    // The first matching prefix counts, so "zh-Hant" must precede "zh".
     static constexpr Rule rules[] = {
         {u"zh-Hant", "zh_Hant"},
         {u"zh", "zh_CN"},
@@ -83,7 +83,7 @@ QString L10n::text(const char *key, const QString &languageCode)
 
 QString L10n::text(const char *key, const QStringList &arguments, const QString &languageCode)
 {
-    // Piece by piece: an argument may hold a "%@" of its own.
+    // Not one after the other in the text: an argument may itself contain "%@".
     const QStringList pieces = text(key, languageCode).split(QLatin1String("%@"));
     Q_ASSERT(pieces.size() == arguments.size() + 1);
     QString filled = pieces.front();

@@ -5,7 +5,7 @@
 #include <optional>
 
 namespace LocalFile {
-/// The absolute path when the draft, trimmed, is nothing but the place of a file or folder that exists: a
-/// path, also quoted, with "~" or with backslashes as a shell has them, or a file address.
+/// The absolute path if the draft, trimmed, is only the path of an existing file or folder, perhaps quoted,
+/// with "~" or with a shell's backslashes; or its file URL.
 [[nodiscard]] std::optional<QString> detect(QStringView text);
 } // namespace LocalFile

@@ -17,7 +17,7 @@ namespace NoteFormatting {
 [[nodiscard]] QString timeString(
     Instant date, const Calendar &calendar, const QString &language = L10n::currentLanguage());
 
-/// When a reminder fires, seen from today: "明天 08:05", "3月9日 08:05".
+/// When a reminder fires, relative to today: "明天 08:05", "3月9日 08:05".
 [[nodiscard]] QString reminderTimeString(
     Instant date, Instant now, const Calendar &calendar, const QString &language = L10n::currentLanguage());
 } // namespace NoteFormatting

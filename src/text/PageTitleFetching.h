@@ -7,7 +7,7 @@
 
 class QObject;
 
-/// Reads the titles of web pages, which takes as long as it takes.
+/// Fetches the titles of web pages.
 class PageTitleFetching
 {
 public:
@@ -15,7 +15,7 @@ public:
 
     virtual ~PageTitleFetching() = default;
 
-    /// Returns at once. @p done is called once, later and in the caller's thread, with the title of the page
+    /// Returns at once. @p done is called later and once, in the caller's thread, with the title of the page
     /// at this http or https address, or with nothing; not at all when @p context or the fetcher is gone by
     /// then.
     virtual void fetchTitle(const QString &address, QObject *context, Done done) = 0;

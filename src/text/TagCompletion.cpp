@@ -7,18 +7,18 @@ QPointer<TagCompletionState> TagCompletionState::s_active;
 
 std::optional<TagCompletion::Token> TagCompletion::activeToken(QStringView draft, qsizetype cursor)
 {
-    const QStringView written = draft.first(cursor);
+    const QStringView text = draft.first(cursor);
     for (qsizetype i = cursor - 1; i >= 0; --i) {
-        const QChar unit = written[i];
+        const QChar unit = text[i];
         if (unit != u'#' && unit != u'@' && !unit.isSpace())
             continue;
-        // As long as it is a character of its own: "#️⃣" is one too, and not a "#".
-        const TextRange character = Characters::at(written, i);
+        // Only as a whole character: in "#️⃣" the "#" is a part of another one.
+        const TextRange character = Characters::at(text, i);
         if (character.start != i || (character.length() > 1 && !unit.isSpace()))
             continue;
         if (unit != u'#')
             return std::nullopt;
-        return Token{{i + 1, cursor}, written.sliced(i + 1).toString()};
+        return Token{{i + 1, cursor}, text.sliced(i + 1).toString()};
     }
     return std::nullopt;
 }
@@ -31,13 +31,13 @@ TagCompletionState::TagCompletionState(QObject *parent)
 
 std::optional<QString> TagCompletionState::selectedCandidate() const
 {
-    const bool isThere = m_isActive && m_selection >= 0 && m_selection < m_candidates.size();
-    return isThere ? std::optional(m_candidates[m_selection]) : std::nullopt;
+    const bool isValid = m_isActive && m_selection >= 0 && m_selection < m_candidates.size();
+    return isValid ? std::optional(m_candidates[m_selection]) : std::nullopt;
 }
 
 void TagCompletionState::update(QStringView draft, qsizetype cursor, const QStringList &tags)
 {
-    constexpr qsizetype mostOffered = 5;
+    constexpr qsizetype maxCandidates = 5;
     if (std::exchange(m_suppressNextUpdate, false))
         return;
     const auto token = TagCompletion::activeToken(draft, cursor);
@@ -45,7 +45,7 @@ void TagCompletionState::update(QStringView draft, qsizetype cursor, const QStri
     if (token) {
         const QString prefix = CaseFolding::folded(token->prefix);
         for (const QString &tag : tags) {
-            if (candidates.size() < mostOffered && CaseFolding::folded(tag).startsWith(prefix))
+            if (candidates.size() < maxCandidates && CaseFolding::folded(tag).startsWith(prefix))
                 candidates.append(tag);
         }
     }

@@ -10,10 +10,10 @@
 #include <optional>
 
 namespace TagCompletion {
-/// What has been typed of a tag.
+/// The part of a tag that has been typed.
 struct Token {
-    TextRange range; ///< from behind the "#" to the caret
-    QString prefix;  ///< what stands there; may be empty
+    TextRange range; ///< from after the "#" to the caret
+    QString prefix;  ///< the text in the range; may be empty
     bool operator==(const Token &) const = default;
 };
 
@@ -21,7 +21,7 @@ struct Token {
 [[nodiscard]] std::optional<Token> activeToken(QStringView draft, qsizetype cursor);
 } // namespace TagCompletion
 
-/// The list of tags that is offered while one is typed.
+/// The tags offered for completion while one is typed.
 class TagCompletionState final : public QObject
 {
     Q_OBJECT
@@ -29,12 +29,12 @@ class TagCompletionState final : public QObject
 public:
     struct Applied {
         QString text;
-        qsizetype cursor = 0; ///< right behind the tag, in UTF-16 units
+        qsizetype cursor = 0; ///< right after the tag, in UTF-16 units
         bool operator==(const Applied &) const = default;
     };
 
     explicit TagCompletionState(QObject *parent = nullptr);
-    /// The one that was made last, while it exists.
+    /// The instance constructed last, while it exists.
     [[nodiscard]] static TagCompletionState *active() { return s_active; }
 
     [[nodiscard]] const QStringList &candidates() const { return m_candidates; } ///< at most five
@@ -42,11 +42,11 @@ public:
     [[nodiscard]] bool isActive() const { return m_isActive; }
     [[nodiscard]] std::optional<QString> selectedCandidate() const;
 
-    /// @p tags without "#", in the order in which they are offered. The one update that follows an apply() is
-    /// skipped: it tells of nothing but what was applied.
+    /// @p tags without "#", in the order in which they are offered. The first update after an apply() is
+    /// skipped, because apply() itself has caused it.
     void update(QStringView draft, qsizetype cursor, const QStringList &tags);
-    void moveSelection(int step); ///< from the last to the first, and back
-    /// Nothing when no list is shown, or the text is shorter than the draft that it was shown for.
+    void moveSelection(int step); ///< wraps around
+    /// Nothing when the list is not active, or @p text is shorter than the draft it was updated for.
     std::optional<Applied> apply(const QString &candidate, const QString &text);
     void dismiss();
 

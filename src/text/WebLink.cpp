@@ -8,7 +8,7 @@
 #include <algorithm>
 
 namespace {
-/// Nothing for anything but digits of the base, and for what is no Unicode scalar value.
+/// Nothing if there is anything but digits of the base, or no Unicode scalar value.
 std::optional<QString> numericEntity(QStringView digits, int base)
 {
     char32_t value = 0;
@@ -107,13 +107,13 @@ std::optional<QString> WebLink::parseTitle(QStringView html)
 
 QString WebLink::decodeEntities(QStringView text)
 {
-    constexpr qsizetype longest = 10; // from "&" to ";"
+    constexpr qsizetype maxLength = 10; // from "&" to ";"
     QString result;
     qsizetype cursor = 0;
     for (qsizetype ampersand = text.indexOf(u'&'); ampersand >= 0; ampersand = text.indexOf(u'&', cursor)) {
         result += text.sliced(cursor, ampersand - cursor);
         const qsizetype semicolon =
-            text.sliced(ampersand, std::min(longest + 1, text.size() - ampersand)).indexOf(u';');
+            text.sliced(ampersand, std::min(maxLength + 1, text.size() - ampersand)).indexOf(u';');
         const auto decoded =
             semicolon < 0 ? std::nullopt : decodeEntity(text.sliced(ampersand + 1, semicolon - 1));
         result += decoded.value_or(QStringLiteral("&"));

@@ -7,20 +7,20 @@
 
 #include <optional>
 
-/// Web addresses in drafts, and titles in the pages behind them. Fetching a page is another's matter.
+/// Web addresses in drafts, and the titles of their pages. Pages are fetched by PageTitleFetching.
 namespace WebLink {
-/// The address when the draft, trimmed, is nothing but one: http or https, with a host. Absolute; encoded
-/// where it has characters that an address must not have.
+/// The address if the draft, trimmed, is only an address: http or https, with a host. Percent-encoded if it
+/// contains characters that are invalid in an address.
 [[nodiscard]] std::optional<QString> detect(QStringView text);
 
-/// The text of a page: in the charset that the Content-Type header names, else UTF-8, else GB 18030. Nothing
-/// when it is in none of them; a single byte that does not decode rules an encoding out.
+/// The text of a page: in the charset of the Content-Type header, else UTF-8, else GB 18030. Nothing if none
+/// of them decodes every byte.
 [[nodiscard]] std::optional<QString> decodeHTML(QByteArrayView bytes,
     const std::optional<QString> &contentType, Charset::Extent extent = Charset::Extent::Whole);
 
-/// What stands in the first title element, on one line and decoded; nothing when that is blank.
+/// The text of the first title element, decoded and on one line; nothing if it is blank.
 [[nodiscard]] std::optional<QString> parseTitle(QStringView html);
 
-/// With the few named and all numeric character references replaced; any other stays as written.
+/// Replaces numeric and the most common named character references; any other stays as written.
 [[nodiscard]] QString decodeEntities(QStringView text);
 } // namespace WebLink

@@ -1,4 +1,4 @@
-// Light and dark, in front of a settings portal that the test brings.
+// Light and dark, with a settings portal in the test.
 #include "desktop/Appearance.h"
 #include "stage/PrivateSession.h"
 #include "stage/SettingsPortal.h"

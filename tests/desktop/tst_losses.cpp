@@ -1,4 +1,4 @@
-// What becomes of the built program, and of the notes, when parts of the desktop go away, or all of it.
+// The built program while parts of the desktop, or all of it, go away.
 #include "model/NoteCoding.h"
 #include "stage/NotificationRecorder.h"
 #include "stage/Road.h"
@@ -16,8 +16,8 @@ class LossesTest final : public QObject
 
     const QString m_program = QStringLiteral(PROGRAM);
 
-    /// Writes a note by hot key and keyboard, and waits for it on the disk. The program was started as at
-    /// login: the panel that it shows the very first time would come between.
+    /// Writes a note by hot key and keyboard, and waits until it is on the disk. The program must have been
+    /// started hidden: the panel of the very first start would interfere.
     static bool write(PrivateDesktop &desktop, Road &road, const QString &text)
     {
         const qsizetype before = road.savedNotes().size();
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(road.savedNotes().size(), 1);
     }
 
-    void a_lost_session_bus_changes_nothing_for_who_writes()
+    void a_lost_session_bus_does_not_prevent_writing()
     {
         PrivateDesktop desktop({});
         Road road(desktop, m_program);
@@ -101,7 +101,7 @@ private Q_SLOTS:
         PrivateDesktop desktop({.hasTray = false});
         Road road(desktop, m_program);
         road.start({u"--hidden"_s});
-        QTest::qWait(2500); // a tray has been given up
+        QTest::qWait(2500); // until it no longer waits for a tray
         QVERIFY(!road.panel());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));

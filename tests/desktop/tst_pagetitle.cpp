@@ -19,14 +19,15 @@ class PageTitleTest final : public QObject
         return response("200 OK\r\nContent-Type: text/html", body);
     }
 
-    /// The title, or why there is none; "never" when nothing was told within five seconds.
+    /// The title, or "(none)"; "never" if there was no answer within five seconds.
     static QString fetched(PageTitleFetcher &fetcher, const QString &address)
     {
-        QString told = u"never"_s;
+        QString answer = u"never"_s;
         QObject context;
-        fetcher.fetchTitle(address, &context, [&](const auto &title) { told = title.value_or(u"(none)"_s); });
-        (void)QTest::qWaitFor([&] { return told != u"never"_s; });
-        return told;
+        fetcher.fetchTitle(
+            address, &context, [&](const auto &title) { answer = title.value_or(u"(none)"_s); });
+        (void)QTest::qWaitFor([&] { return answer != u"never"_s; });
+        return answer;
     }
 
 private Q_SLOTS:
@@ -47,10 +48,10 @@ private Q_SLOTS:
             QTest::newRow(name) << response << QString::fromUtf8(expected) << requests;
         };
         row("a page", page(body), "买 & 卖");
-        row("of no told type", response("200 OK", body), "买 & 卖");
+        row("without a type", response("200 OK", body), "买 & 卖");
         row("XHTML", response("200 OK\r\ncontent-type: APPLICATION/XHTML+XML", body), "买 & 卖");
         row("any success", response("299 Odd\r\nContent-Type: text/html", body), "买 & 卖");
-        row("in the charset that it tells",
+        row("in the charset of its header",
             response(
                 "200 OK\r\nContent-Type: text/html; charset=Shift_JIS", "<title>\x93\xfa\x96\x7b</title>"),
             "日本");
@@ -79,13 +80,13 @@ private Q_SLOTS:
         QCOMPARE(server.requests.size(), requests);
     }
 
-    void a_server_that_knows_no_answer_is_left_alone_data()
+    void a_server_that_sends_no_page_is_not_asked_again_data()
     {
         QTest::addColumn<QByteArray>("response");
-        QTest::newRow("hangs up") << QByteArray();
+        QTest::newRow("closes the connection") << QByteArray();
         QTest::newRow("speaks another protocol") << QByteArray("220 mail.example ESMTP\r\n");
     }
-    void a_server_that_knows_no_answer_is_left_alone()
+    void a_server_that_sends_no_page_is_not_asked_again()
     {
         WebServer server;
         QFETCH(QByteArray, response);
@@ -93,7 +94,7 @@ private Q_SLOTS:
         PageTitleFetcher fetcher(4s);
         QCOMPARE(fetched(fetcher, server.address(u"/page"_s)), u"(none)"_s);
         QTRY_VERIFY(!server.isAnybodyListening());
-        QCOMPARE_LE(server.requests.size(), 2); // the second is on its way before Qt tells of it
+        QCOMPARE_LE(server.requests.size(), 2); // the second is on its way before Qt reports the first
     }
 
     void a_page_is_asked_for_once_and_as_a_browser_does()
@@ -148,26 +149,26 @@ private Q_SLOTS:
         QTRY_VERIFY(!server.isAnybodyListening());
     }
 
-    void whoever_has_gone_is_told_nothing()
+    void a_title_is_not_reported_to_an_object_that_is_gone()
     {
         WebServer server;
         server.answer(u"/page"_s, page("<title>x</title>"));
         server.answer(u"/slow"_s, {}, WebServer::Then::SayNoMore);
-        QStringList told;
-        const auto tell = [&](const auto &title) { told.append(title.value_or(u"(none)"_s)); };
+        QStringList titles;
+        const auto report = [&](const auto &title) { titles.append(title.value_or(u"(none)"_s)); };
         QObject stays;
         {
             PageTitleFetcher fetcher;
             auto goes = std::make_unique<QObject>();
-            fetcher.fetchTitle(server.address(u"/page"_s), goes.get(), tell);
+            fetcher.fetchTitle(server.address(u"/page"_s), goes.get(), report);
             goes.reset();
-            fetcher.fetchTitle(server.address(u"/page"_s), &stays, tell);
-            QTRY_COMPARE(told, QStringList{u"x"_s});
-            fetcher.fetchTitle(server.address(u"/slow"_s), &stays, tell);
+            fetcher.fetchTitle(server.address(u"/page"_s), &stays, report);
+            QTRY_COMPARE(titles, QStringList{u"x"_s});
+            fetcher.fetchTitle(server.address(u"/slow"_s), &stays, report);
             QTRY_VERIFY(server.requests.last().contains(u"/slow"_s));
         }
         QTRY_VERIFY(!server.isAnybodyListening());
-        QCOMPARE(told, QStringList{u"x"_s});
+        QCOMPARE(titles, QStringList{u"x"_s});
     }
 };
 

@@ -1,8 +1,7 @@
-// The built program on private desktops: Xvfb, openbox, tint2, a session bus, and a notification server of
-// the test's.
+// The built program on private desktops: Xvfb, openbox, tint2, a session bus, and a notification server in
+// the test.
 //
-// The program's clock is shifted so that the minute a reminder is due begins a few seconds after the start:
-// the test waits seconds, and the program knows of nothing.
+// The program's clock is shifted so that the minute of a reminder begins a few seconds after the start.
 #include "foundation/Clock.h"
 #include "model/NoteCoding.h"
 #include "stage/NotificationRecorder.h"
@@ -25,7 +24,7 @@ class RoadTest final : public QObject
     {
         QDir().mkpath(QFileInfo(desktop.dataFile({})).path());
         writeFile(desktop.dataFile(u"reminders.json"_s), noteEncoder::encode(reminders));
-        writeFile(desktop.dataFile(u".lock"_s), {}); // it has run before
+        writeFile(desktop.dataFile(u".lock"_s), {}); // not the very first start
     }
 
 private Q_SLOTS:
@@ -39,7 +38,7 @@ private Q_SLOTS:
         road.start();
         QVERIFY(road.waitForTrayIcon());
         QVERIFY(road.waitForPanel(true));    // the very first start
-        QVERIFY(road.panel()->left() > 512); // at the icon, or where it will be
+        QVERIFY(road.panel()->left() > 512); // at the icon, or at the corner where the tray is
         desktop.screen().press({Keysym::escape});
         QVERIFY(road.waitForPanel(false));
 
@@ -121,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(server.shown().last().body, u"第7"_s);
     }
 
-    void a_reminder_can_be_put_off_from_its_notification()
+    void a_reminder_can_be_snoozed_from_its_notification()
     {
         PrivateDesktop desktop({});
         NotificationRecorder server(desktop.busAddress());
@@ -176,7 +175,7 @@ private Q_SLOTS:
         road.start();
         QVERIFY(road.waitForTrayIcon());
         desktop.screen().moveToAnotherKey(Keysym::space);
-        QTest::qWait(500); // who has changed the keyboard map types no sooner
+        QTest::qWait(500); // nobody types right after changing the keyboard map
         for (const bool opens : {true, false}) {
             road.pressHotKey();
             QVERIFY(road.waitForPanel(opens));
@@ -195,7 +194,7 @@ private Q_SLOTS:
         for (int round = 0; round < 12; ++round) {
             const QString text = u"%1 the quick brown fox"_s.arg(QChar(u'a' + round));
             road.pressHotKey();
-            desktop.screen().type(text); // a key each 10 ms, from the very moment on
+            desktop.screen().type(text); // a key each 10 ms, right from the press
             desktop.screen().press({Keysym::enter});
             desktop.screen().press({Keysym::escape});
             expected.prepend(text);
@@ -207,7 +206,7 @@ private Q_SLOTS:
         road.stop();
     }
 
-    void the_panel_comes_up_where_the_person_is()
+    void the_panel_opens_at_the_icon_above_other_windows_and_on_the_current_workspace()
     {
         PrivateDesktop desktop({});
         writeReminders(desktop, {});
@@ -220,7 +219,7 @@ private Q_SLOTS:
         QVERIFY(road.waitForPanel(true));
         QVERIFY(qAbs(road.panel()->bottom() - icon.y()) < 60);
         QVERIFY(road.panel()->left() <= icon.x() && icon.x() <= road.panel()->right());
-        QTest::qWait(500); // or it would be a double click
+        QTest::qWait(500); // longer than a double click
         screen.click(icon);
         QVERIFY(road.waitForPanel(false));
 
@@ -240,14 +239,14 @@ private Q_SLOTS:
         QTest::qWait(200);
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
-        QTest::qWait(200); // and has the focus
+        QTest::qWait(200); // until it has the focus
         screen.goToDesktop(0);
         QTest::qWait(500);
         QVERIFY(!road.panel());
         road.pressHotKey();
         QVERIFY(road.waitForPanel(true));
 
-        // As some window managers call what is on another workspace.
+        // Some window managers minimize what is on another workspace.
         for (const XServer::Window &window : screen.windowsOfClass(u"Quillet"_s)) {
             if (window.frame == road.panel())
                 screen.iconify(window.id);
@@ -259,7 +258,7 @@ private Q_SLOTS:
         road.stop();
     }
 
-    void a_click_that_took_the_focus_does_not_open_the_panel_again()
+    void the_click_that_has_closed_the_panel_does_not_open_it_again()
     {
         PrivateDesktop desktop({});
         writeReminders(desktop, {});
@@ -268,7 +267,7 @@ private Q_SLOTS:
         QVERIFY(road.waitForTrayIcon());
         desktop.screen().openFullScreenWindow();
         QTRY_VERIFY(desktop.screen().isFullScreenWindowFocused());
-        desktop.screen().goToDesktop(1); // away from that window, which can take the focus all the same
+        desktop.screen().goToDesktop(1); // away from that window, which can still take the focus
         QTest::qWait(200);
         desktop.screen().click(road.trayIcon()->center());
         QVERIFY(road.waitForPanel(true));
@@ -328,7 +327,7 @@ private Q_SLOTS:
         QVERIFY(road.process().waitForFinished());
         QCOMPARE(road.savedNotes().first().text, u"买牛奶"_s);
         road.start();
-        QVERIFY(road.waitForTrayIcon()); // the lock went with the process
+        QVERIFY(road.waitForTrayIcon()); // the lock was released with the process
         road.stop();
     }
 };

@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(waitForPanel(desktop, false));
         auto watcher = std::make_unique<StatusNotifierWatcher>(desktop.busAddress());
         QTest::qWait(300);
-        QCOMPARE(watcher->items(), QStringList()); // nobody would show it
+        QCOMPARE(watcher->items(), QStringList()); // no host would show it
         watcher->registerHost();
         for (int host = 0; host < 2; ++host) {
             QTRY_COMPARE(watcher->items().size(), 1);

@@ -47,7 +47,7 @@ public:
     NoteListView &list() { return *window.findChild<NoteListView *>(); }
     PanelState &state() { return content->state(); }
 
-    /// As an input method commits it, since key clicks know nothing but ASCII.
+    /// Commits the text as an input method does, since key clicks support only ASCII.
     void type(const QString &text)
     {
         QInputMethodEvent event;
@@ -84,16 +84,16 @@ public:
         const QPoint where = view.visualRect(view.model()->index(row, 0)).center();
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, where);
     }
-    /// Where the part is, by asking the row for it point by point.
+    /// Clicks the part, which is searched for point by point.
     void clickPart(int row, RowPart part)
     {
         const RowDelegate *rows = list().findChild<RowDelegate *>();
-        const QRect place = list().visualRect(list().model()->index(row, 0));
-        const RowLayout &layout = rows->layout(row, place.width(), list().palette());
-        for (int y = 0; y < place.height(); y += 2) {
-            for (int x = 0; x < place.width(); x += 2) {
+        const QRect rect = list().visualRect(list().model()->index(row, 0));
+        const RowLayout &layout = rows->layout(row, rect.width(), list().palette());
+        for (int y = 0; y < rect.height(); y += 2) {
+            for (int x = 0; x < rect.width(); x += 2) {
                 if (layout.partAt({x, y}) == part) {
-                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place.topLeft() + QPoint(x, y));
+                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, rect.topLeft() + QPoint(x, y));
                     return;
                 }
             }

@@ -233,8 +233,8 @@ private Q_SLOTS:
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#c"_s, u"#a"_s}));
         ModalQuestion::setNextAnswer(false);
         rename(0, u"a"_s);
-        QCOMPARE(ModalQuestion::lastTold(),
-            (ModalQuestion::Told{
+        QCOMPARE(ModalQuestion::lastMessage(),
+            (ModalQuestion::Message{
                 u"合并标签？"_s, u"把「#c」改名为已存在的「#a」，涉及 1 条笔记，合并后无法再分开。"_s}));
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#c"_s, u"#a"_s}));
         ModalQuestion::setNextAnswer(true);
@@ -248,7 +248,7 @@ private Q_SLOTS:
 
         ModalQuestion::setNextAnswer(true);
         panel.choose(*list, 0, u"删除"_s);
-        QCOMPARE(ModalQuestion::lastTold().title, u"删除标签「#a」？"_s);
+        QCOMPARE(ModalQuestion::lastMessage().title, u"删除标签「#a」？"_s);
         QCOMPARE(panel.rowsOf(*list), QStringList());
 
         panel.notes.add(u"丙 #d"_s);
@@ -334,16 +334,16 @@ private Q_SLOTS:
             FileDialogs::setNextSource(folder.filePath(name));
             ModalQuestion::setNextAnswer(true);
             ImportExport::importNotes(panel.notes, panel.clock);
-            return ModalQuestion::lastTold();
+            return ModalQuestion::lastMessage();
         };
         QCOMPARE(
-            import(u"a.json"_s), (ModalQuestion::Told{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
-        QCOMPARE(import(u"b.md"_s), (ModalQuestion::Told{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
+            import(u"a.json"_s), (ModalQuestion::Message{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
+        QCOMPARE(import(u"b.md"_s), (ModalQuestion::Message{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
         QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
         FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, ExportFormatAccessory::Format::Json});
         ModalQuestion::setNextAnswer(true);
         ImportExport::exportNotes(panel.notes, panel.clock);
-        QCOMPARE(ModalQuestion::lastTold().title, u"导出失败"_s);
+        QCOMPARE(ModalQuestion::lastMessage().title, u"导出失败"_s);
     }
 };
 

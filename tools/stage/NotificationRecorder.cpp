@@ -32,9 +32,9 @@ void NotificationRecorder::click(uint id, const QString &action)
 uint NotificationRecorder::Notify(const QString &, uint, const QString &, const QString &title,
     const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout)
 {
-    constexpr qint64 aSecond = 1000;
+    constexpr qint64 identicalInterval = 1000; // milliseconds
     const bool isIdentical = std::any_of(m_shown.begin(), m_shown.end(), [&](const Shown &shown) {
-        return shown.title == title && shown.body == body && shown.since.elapsed() < aSecond;
+        return shown.title == title && shown.body == body && shown.since.elapsed() < identicalInterval;
     });
     if (m_refusesIdentical && isIdentical) {
         ++m_refused;

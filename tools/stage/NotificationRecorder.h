@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// A notification server that shows nothing and remembers everything.
+/// A notification server that shows nothing and records every call.
 class NotificationRecorder final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] const QList<Shown> &shown() const { return m_shown; }
     /// A click on the body, or on a button by its key.
     void click(uint id, const QString &action = QStringLiteral("default"));
-    /// From now on what is identical to one shown less than a second ago is refused.
+    /// From now on refuses what is identical to a notification shown less than a second ago.
     void refuseIdentical() { m_refusesIdentical = true; }
     [[nodiscard]] int refused() const { return m_refused; }
 

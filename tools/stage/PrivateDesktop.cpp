@@ -78,7 +78,7 @@ void PrivateDesktop::startDunst()
 
 void PrivateDesktop::paintWallpaper()
 {
-    // Of many colours, so that a corner or a shadow that is wrong is seen.
+    // Of many colours, so that wrong corners and shadows are visible.
     QImage wallpaper(QSize(1024, 720) * m_scale, QImage::Format_RGB32);
     QPainter painter(&wallpaper);
     QLinearGradient sky(0, 0, wallpaper.width(), wallpaper.height());

@@ -5,16 +5,16 @@
 
 #include <memory>
 
-/// A session with an X server: Xvfb, openbox, and as told a tray (tint2), a notification server (dunst) and a
-/// compositor (picom).
+/// A session with an X server (Xvfb) and a window manager (openbox), optionally with a tray (tint2), a
+/// notification server (dunst) and a compositor (picom).
 class PrivateDesktop final : public PrivateSession
 {
 public:
     struct Options {
         bool hasTray = true;
         bool hasDunst = false;
-        bool hasCompositor = false; ///< picom
-        int scale = 1;              ///< device pixels for a logical pixel
+        bool hasCompositor = false;
+        int scale = 1; ///< device pixels per logical pixel
     };
 
     explicit PrivateDesktop(Options options);
@@ -22,7 +22,7 @@ public:
     Q_DISABLE_COPY_MOVE(PrivateDesktop)
 
     [[nodiscard]] XServer &screen() { return *m_screen; }
-    /// Takes the X server away from everybody on it.
+    /// Kills the X server.
     void stopScreen();
     void startTray();
     void stopTray();

@@ -12,7 +12,7 @@ PrivateSession::PrivateSession()
     QDir(m_home.path()).mkpath(QStringLiteral("run"));
     QFile::setPermissions(
         m_home.filePath(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    // Without the machine's service files, so that nobody starts a server but whoever stands on this stage.
+    // Without the system's service files, so that only this desktop's own servers are started.
     QFile configuration(file(QStringLiteral("bus.conf")));
     if (!configuration.open(QIODevice::WriteOnly))
         qFatal("cannot write %s", qPrintable(configuration.fileName()));
@@ -49,10 +49,11 @@ QByteArray PrivateSession::firstLine(QProcess &process)
 {
     while (!process.canReadLine()) {
         if (!process.waitForReadyRead(10'000))
-            qFatal("%s did not say where it is", qPrintable(process.program()));
+            qFatal("%s did not print its address", qPrintable(process.program()));
     }
     return process.readLine().trimmed();
 }
+
 QProcess &PrivateSession::launch(const QString &program, const QStringList &arguments)
 {
     auto process = std::make_unique<QProcess>();
@@ -99,7 +100,7 @@ std::unique_ptr<QProcess> PrivateSession::start(
     if (clockShift != 0ms) {
         environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(SHIFTED_CLOCK));
         environment.insert(QStringLiteral("STAGE_CLOCK_SHIFT_MS"), QString::number(clockShift.count()));
-        // The sanitizer wants to be the first library, and does as well when it is not.
+        // AddressSanitizer insists on being the first library, although it works when it is not.
         environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
     }
     process->setProcessEnvironment(environment);
@@ -119,12 +120,12 @@ void PrivateSession::stop(QProcess &process)
     }
 }
 
-bool PrivateSession::waitUntil(const std::function<bool()> &holds, std::chrono::milliseconds limit)
+bool PrivateSession::waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeLimit)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!holds()) {
-        if (timer.elapsed() > limit.count())
+    while (!condition()) {
+        if (timer.elapsed() > timeLimit.count())
             return false;
         QCoreApplication::processEvents();
         QThread::msleep(1);

@@ -9,7 +9,8 @@
 #include <memory>
 #include <vector>
 
-/// A session bus and a home folder of its own, for a desktop to be put on. All goes away with the object.
+/// A session bus and a home folder of its own, on which a desktop is started. The destructor ends and removes
+/// everything.
 class PrivateSession
 {
 public:
@@ -18,27 +19,27 @@ public:
     Q_DISABLE_COPY_MOVE(PrivateSession)
 
     [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
-    /// Takes the session bus away from everybody on it.
+    /// Kills the session bus.
     void stopBus();
-    /// What a program on this desktop is started with: Chinese time, a home of its own.
+    /// For the programs on this desktop: its buses and folders, time zone Asia/Shanghai.
     [[nodiscard]] virtual QProcessEnvironment environment() const;
     [[nodiscard]] QString dataFile(const QString &name) const;
 
-    /// Starts a program whose clock is @p clockShift ahead of the machine's. Its output is kept for output().
+    /// Starts a program whose clock is @p clockShift ahead of the system's.
     std::unique_ptr<QProcess> start(const QString &program, std::chrono::milliseconds clockShift = {},
         const QStringList &arguments = {}) const;
     static void stop(QProcess &process);
 
-    /// Looks again and again, while events are handled, until @p holds does, or the time is up.
-    static bool waitUntil(
-        const std::function<bool()> &holds, std::chrono::milliseconds limit = std::chrono::seconds(10));
+    /// Handles events until @p condition holds; false when it does not within the time limit.
+    static bool waitUntil(const std::function<bool()> &condition,
+        std::chrono::milliseconds timeLimit = std::chrono::seconds(10));
 
 protected:
-    /// Starts a part of the desktop, which ends with it.
+    /// Starts a part of the desktop, which is ended together with it.
     QProcess &launch(const QString &program, const QStringList &arguments);
     [[nodiscard]] QString file(const QString &name) const { return m_home.filePath(name); }
     static QByteArray firstLine(QProcess &process);
-    void stopAll(); ///< the last started first
+    void stopAll(); ///< in reverse order of their start
 
 private:
     QTemporaryDir m_home;

@@ -70,10 +70,10 @@ void Road::pressHotKey()
 
 bool Road::isFlashing() const
 {
-    const auto place = panel();
-    if (!place)
+    const auto rect = panel();
+    if (!rect)
         return false;
-    const QImage image = m_desktop.screen().screenshot(*place);
+    const QImage image = m_desktop.screen().screenshot(*rect);
     int lit = 0;
     for (int y = 0; y < image.height(); ++y)
         lit += (image.pixel(8, y) & RGB_MASK) == (Design::flashGround.light & RGB_MASK);
@@ -93,7 +93,7 @@ QList<Reminder> Road::savedReminders() const
     return reminders ? reminders.value() : QList<Reminder>();
 }
 
-std::chrono::milliseconds Road::shiftTo(Instant moment, std::chrono::milliseconds before)
+std::chrono::milliseconds Road::shiftTo(Instant instant, std::chrono::milliseconds before)
 {
-    return moment - before - SystemClock().now();
+    return instant - before - SystemClock().now();
 }

@@ -8,7 +8,7 @@
 
 #include <QList>
 
-/// What is done and seen on the road of one note, for whoever takes it: a test, or the tour.
+/// Drives the program on a private desktop from start to notification, for tests, tour and benchmarks.
 class Road final
 {
 public:
@@ -28,14 +28,14 @@ public:
     bool waitForPanel(bool isOpen);
     void pressHotKey();
     [[nodiscard]] std::optional<QRect> panel() const;
-    /// Whether the note's row is lit up on the screen now.
+    /// Whether a row of the panel is highlighted on the screen as the target of a jump.
     [[nodiscard]] bool isFlashing() const;
 
     [[nodiscard]] QList<Note> savedNotes(const QString &file = QStringLiteral("notes.json")) const;
     [[nodiscard]] QList<Reminder> savedReminders() const;
 
-    /// How far a clock must be shifted to show, right now, the moment @p before the given one.
-    [[nodiscard]] static std::chrono::milliseconds shiftTo(Instant moment, std::chrono::milliseconds before);
+    /// The shift by which a clock now shows the instant @p before the given one.
+    [[nodiscard]] static std::chrono::milliseconds shiftTo(Instant instant, std::chrono::milliseconds before);
 
 private:
     PrivateDesktop &m_desktop;

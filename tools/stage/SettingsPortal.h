@@ -4,7 +4,7 @@
 #include <QDBusVariant>
 #include <QObject>
 
-/// A desktop's settings portal that knows one setting: whether the desktop is light or dark.
+/// A settings portal with one setting: whether the desktop is light or dark.
 class SettingsPortal final : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     void setScheme(Scheme scheme);
 
 public Q_SLOTS:
-    /// The method that is there since the first version wraps its answer twice.
+    /// The method of the first version, which wraps its result in two variants.
     QDBusVariant Read(const QString &group, const QString &key) const;
 
 Q_SIGNALS:

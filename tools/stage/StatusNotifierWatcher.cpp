@@ -10,7 +10,6 @@ const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString connectionName = QStringLiteral("status-notifier-watcher");
 const QString itemPath = QStringLiteral("/StatusNotifierItem");
 const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
-
 } // namespace
 
 StatusNotifierWatcher::StatusNotifierWatcher(const QString &busAddress)
@@ -64,7 +63,7 @@ QStringList StatusNotifierWatcher::menuOf(const QString &item)
         QStringLiteral("com.canonical.dbusmenu"), QStringLiteral("GetLayout"));
     get << 0 << -1 << QStringList();
     const QVariantList answer = m_bus.call(get).arguments();
-    // (id, properties, children), and each child, in a variant, the same.
+    // (id, properties, children), and each child is a variant of the same.
     QStringList entries;
     int id = 0;
     QVariantMap properties;

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-/// A tray on the session bus that shows nothing: it lets icons register, and presses them as a person would.
+/// A tray on the session bus that shows nothing: icons register with it, and it clicks them as a user would.
 class StatusNotifierWatcher final : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
     ~StatusNotifierWatcher() override;
     Q_DISABLE_COPY_MOVE(StatusNotifierWatcher)
 
-    [[nodiscard]] QStringList items() const { return m_items; } ///< bus names, in the order of their coming
+    [[nodiscard]] QStringList items() const { return m_items; } ///< bus names, in the order of registration
     [[nodiscard]] bool hasHost() const { return m_hasHost; }
     [[nodiscard]] static int protocolVersion() { return 0; }
-    /// Now there is somebody who shows the icons, which a watcher alone does not.
+    /// Announces a host: something that shows the icons, which a watcher alone does not.
     void registerHost();
 
     void click(const QString &item);
-    [[nodiscard]] QStringList menuOf(const QString &item); ///< its entries; a separator is empty
+    [[nodiscard]] QStringList menuOf(const QString &item); ///< the labels; a separator's is empty
 
 public Q_SLOTS:
     void RegisterStatusNotifierItem(const QString &service);

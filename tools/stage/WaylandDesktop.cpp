@@ -21,7 +21,7 @@ WaylandDesktop::WaylandDesktop()
         QStringLiteral("WLR_RENDERER=pixman"), QStringLiteral("WLR_LIBINPUT_NO_DEVICES=1"),
         QStringLiteral("sway"), QStringLiteral("-c"), configuration};
     const QString run = file(QStringLiteral("run"));
-    if (::geteuid() == 0) { // as whom it refuses to work
+    if (::geteuid() == 0) { // sway refuses to run as root
         const passwd *nobody = ::getpwnam("nobody");
         if (!nobody || ::chown(QFile::encodeName(run).constData(), nobody->pw_uid, nobody->pw_gid) != 0)
             qFatal("cannot give %s away", qPrintable(run));
@@ -43,8 +43,7 @@ WaylandDesktop::WaylandDesktop()
     };
     if (!waitUntil(isUp))
         qFatal("sway does not come up");
-    // A keyboard that stays: without one, each program that types would take the focus along with its own
-    // when it ends.
+    // A keyboard that stays: otherwise the focus is lost with the keyboard of each wtype that ends.
     launch(QStringLiteral("wtype"), {QStringLiteral("-s"), QStringLiteral("600000")});
 }
 
@@ -55,7 +54,7 @@ bool WaylandDesktop::isPossible()
         if (QStandardPaths::findExecutable(program).isEmpty())
             return false;
     }
-    // Where sway keeps its picture, whoever it runs as.
+    // Sway allocates its buffers there, as any user.
     struct stat sharedMemory {
     };
     return ::stat("/dev/shm", &sharedMemory) == 0 && (sharedMemory.st_mode & S_IWOTH) != 0;
@@ -82,7 +81,7 @@ QByteArray WaylandDesktop::output(const QString &program, const QStringList &arg
 
 void WaylandDesktop::type(const QStringList &arguments) const
 {
-    // The program that is typed into has to hear of the keyboard first.
+    // The program must first be told of the new keyboard.
     (void)output(QStringLiteral("wtype"), QStringList{QStringLiteral("-s"), QStringLiteral("200")} + arguments
                                               + QStringList{QStringLiteral("-s"), QStringLiteral("100")});
 }

@@ -2,7 +2,7 @@
 
 #include "stage/PrivateSession.h"
 
-/// A session with a Wayland compositor: sway, without a screen. Its keys are pressed by wtype.
+/// A session with a Wayland compositor, headless sway. Keys are pressed by wtype.
 class WaylandDesktop final : public PrivateSession
 {
 public:
@@ -10,12 +10,12 @@ public:
     ~WaylandDesktop() override { stopAll(); }
     Q_DISABLE_COPY_MOVE(WaylandDesktop)
 
-    /// Whether this machine has the programs, and shared memory for them.
+    /// Whether the programs are installed, and have shared memory.
     [[nodiscard]] static bool isPossible();
 
-    /// Types with wtype, told in its own arguments: a text, or "-k" and the name of a key.
+    /// Types with wtype and its arguments: a text, or "-k" and the name of a key.
     void type(const QStringList &arguments) const;
-    /// Whether a window of this application is there.
+    /// Whether a window of this application is open.
     [[nodiscard]] bool hasWindow(const QString &applicationID) const;
     [[nodiscard]] QProcessEnvironment environment() const override;
 

@@ -20,8 +20,8 @@ Reply<T> owned(T *reply)
     return Reply<T>(reply, &std::free);
 }
 
-/// Long enough for a program to have read a new keyboard map.
-constexpr unsigned long keyboardSettles = 150;
+/// Time for a program to read a new keyboard map, in milliseconds.
+constexpr unsigned long keyboardMapDelay = 150;
 
 std::uint32_t keysym(char32_t character)
 {
@@ -43,7 +43,7 @@ XServer::XServer(const QString &display)
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
     m_root = screen->root;
     m_size = {screen->width_in_pixels, screen->height_in_pixels};
-    learnKeyboard();
+    readKeyboardMap();
 }
 
 XServer::~XServer()
@@ -51,7 +51,7 @@ XServer::~XServer()
     xcb_disconnect(m_connection);
 }
 
-void XServer::learnKeyboard()
+void XServer::readKeyboardMap()
 {
     const xcb_setup_t *setup = xcb_get_setup(m_connection);
     m_firstKeycode = setup->min_keycode;
@@ -88,7 +88,7 @@ void XServer::assignKeys(const QList<std::uint32_t> &wanted)
         const auto isTaken = [this](qsizetype number) {
             for (int level = 0; level < m_keysymsPerKeycode; ++level) {
                 const std::uint32_t taken = m_keysyms[number * m_keysymsPerKeycode + level];
-                // What an earlier text was assigned may be assigned anew.
+                // Keys assigned for an earlier text may be reassigned.
                 if (taken != 0 && taken < 0x01000000)
                     return true;
             }
@@ -109,8 +109,8 @@ void XServer::assignKeys(const QList<std::uint32_t> &wanted)
     }
     if (hasAssigned) {
         xcb_flush(m_connection);
-        QThread::msleep(keyboardSettles);
-        learnKeyboard();
+        QThread::msleep(keyboardMapDelay);
+        readKeyboardMap();
     }
 }
 
@@ -121,7 +121,7 @@ void XServer::moveToAnotherKey(std::uint32_t keysym)
     const QList<std::uint32_t> nothing(m_keysymsPerKeycode, 0);
     xcb_change_keyboard_mapping(m_connection, 1, old, std::uint8_t(m_keysymsPerKeycode), nothing.constData());
     std::fill_n(m_keysyms.begin() + (old - m_firstKeycode) * m_keysymsPerKeycode, m_keysymsPerKeycode,
-        1); // not this one again
+        1); // so that this key is not chosen again
     assignKeys({keysym});
 }
 
@@ -153,7 +153,7 @@ void XServer::type(const QString &text)
     for (const char32_t character : characters)
         keysyms.append(keysym(character));
     assignKeys(keysyms);
-    constexpr unsigned long betweenKeys = 10;
+    constexpr unsigned long keyInterval = 10;
     for (const std::uint32_t wanted : std::as_const(keysyms)) {
         bool needsShift = false;
         const std::uint8_t key = keycode(wanted, needsShift);
@@ -165,21 +165,21 @@ void XServer::type(const QString &text)
         fakeKey(key, false);
         if (shift != 0)
             fakeKey(shift, false);
-        QThread::msleep(betweenKeys);
+        QThread::msleep(keyInterval);
     }
 }
 
-void XServer::point(QPoint where)
+void XServer::point(QPoint position)
 {
-    xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, std::int16_t(where.x()),
-        std::int16_t(where.y()), 0);
+    xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root,
+        std::int16_t(position.x()), std::int16_t(position.y()), 0);
     xcb_flush(m_connection);
     QThread::msleep(50);
 }
 
-void XServer::click(QPoint where, int button)
+void XServer::click(QPoint position, int button)
 {
-    point(where);
+    point(position);
     for (const int event : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
         xcb_test_fake_input(
             m_connection, std::uint8_t(event), std::uint8_t(button), XCB_CURRENT_TIME, m_root, 0, 0, 0);
@@ -193,7 +193,7 @@ std::uint32_t XServer::atom(std::string_view name) const
         ->atom;
 }
 
-void XServer::tellWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value)
+void XServer::sendToWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value)
 {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
@@ -224,7 +224,7 @@ void XServer::openFullScreenWindow()
 void XServer::focusFullScreenWindow()
 {
     constexpr std::uint32_t fromPager = 2;
-    tellWindowManager(m_fullScreenWindow, "_NET_ACTIVE_WINDOW", fromPager);
+    sendToWindowManager(m_fullScreenWindow, "_NET_ACTIVE_WINDOW", fromPager);
 }
 
 bool XServer::isFullScreenWindowFocused() const
@@ -237,33 +237,33 @@ bool XServer::isFullScreenWindowFocused() const
 void XServer::iconify(std::uint32_t window)
 {
     constexpr std::uint32_t iconic = 3;
-    tellWindowManager(window, "WM_CHANGE_STATE", iconic);
+    sendToWindowManager(window, "WM_CHANGE_STATE", iconic);
 }
 
 void XServer::goToDesktop(std::uint32_t number)
 {
-    tellWindowManager(m_root, "_NET_CURRENT_DESKTOP", number);
+    sendToWindowManager(m_root, "_NET_CURRENT_DESKTOP", number);
 }
 
-void XServer::setWallpaper(const QImage &picture)
+void XServer::setWallpaper(const QImage &image)
 {
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
     const xcb_pixmap_t pixmap = xcb_generate_id(m_connection);
     const xcb_gcontext_t context = xcb_generate_id(m_connection);
-    xcb_create_pixmap(m_connection, screen->root_depth, pixmap, m_root, std::uint16_t(picture.width()),
-        std::uint16_t(picture.height()));
+    xcb_create_pixmap(m_connection, screen->root_depth, pixmap, m_root, std::uint16_t(image.width()),
+        std::uint16_t(image.height()));
     xcb_create_gc(m_connection, context, pixmap, 0, nullptr);
-    constexpr int rows = 64; // a request takes only so much
-    for (int y = 0; y < picture.height(); y += rows) {
-        const int height = std::min(rows, picture.height() - y);
-        xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context,
-            std::uint16_t(picture.width()), std::uint16_t(height), 0, std::int16_t(y), 0, screen->root_depth,
-            std::uint32_t(picture.bytesPerLine() * height), picture.constScanLine(y));
+    constexpr int rows = 64; // the size of a request is limited
+    for (int y = 0; y < image.height(); y += rows) {
+        const int height = std::min(rows, image.height() - y);
+        xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context, std::uint16_t(image.width()),
+            std::uint16_t(height), 0, std::int16_t(y), 0, screen->root_depth,
+            std::uint32_t(image.bytesPerLine() * height), image.constScanLine(y));
     }
     xcb_free_gc(m_connection, context);
     xcb_change_window_attributes(m_connection, m_root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(m_connection, false, m_root, 0, 0, 0, 0);
-    // Where a compositor looks for it.
+    // Compositors look for it here.
     xcb_change_property(
         m_connection, XCB_PROP_MODE_REPLACE, m_root, atom("_XROOTPMAP_ID"), XCB_ATOM_PIXMAP, 32, 1, &pixmap);
     xcb_flush(m_connection);
@@ -287,7 +287,7 @@ QImage XServer::screenshot(QRect wanted) const
 }
 
 void XServer::find(std::uint32_t parent, std::uint32_t property, const QString &value, bool isInner,
-    QList<Window> &found) const
+    QList<Window> &out) const
 {
     const auto tree =
         owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, parent), nullptr));
@@ -302,15 +302,16 @@ void XServer::find(std::uint32_t parent, std::uint32_t property, const QString &
             m_connection, xcb_get_window_attributes(m_connection, child), nullptr));
         const auto geometry =
             owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, child), nullptr));
-        const auto place = owned(xcb_translate_coordinates_reply(
+        const auto position = owned(xcb_translate_coordinates_reply(
             m_connection, xcb_translate_coordinates(m_connection, child, m_root, 0, 0), nullptr));
-        if (!named || !attributes || !geometry || !place)
-            continue; // it has gone meanwhile
-        // A class is two words, each ended by a zero.
+        if (!named || !attributes || !geometry || !position)
+            continue; // destroyed meanwhile
+        // A class consists of two strings, each terminated by a zero.
         if (attributes->map_state == XCB_MAP_STATE_VIEWABLE
             && text(named.get()).split(QChar(u'\0')).contains(value))
-            found.append({child, {place->dst_x, place->dst_y, geometry->width, geometry->height}, isInner});
-        find(child, property, value, true, found);
+            out.append(
+                {child, {position->dst_x, position->dst_y, geometry->width, geometry->height}, isInner});
+        find(child, property, value, true, out);
     }
 }
 
@@ -340,6 +341,6 @@ void XServer::grabHotKey()
     bool needsShift = false;
     xcb_grab_key(m_connection, true, m_root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1,
         keycode(Keysym::space, needsShift), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    // A round trip, so that it holds when this returns.
+    // A round trip, so that the grab is active when this returns.
     owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
 }

@@ -10,7 +10,7 @@
 
 struct xcb_connection_t;
 
-/// A client of an X server that looks at its windows and pixels and presses its keys and buttons.
+/// A client of an X server that finds windows, takes screenshots, and presses keys and buttons.
 class XServer final
 {
 public:
@@ -18,54 +18,53 @@ public:
     ~XServer();
     Q_DISABLE_COPY_MOVE(XServer)
 
-    /// Types the text on a keyboard that has every character on a key of its own; real presses and releases.
+    /// Types the text by key presses and releases, after assigning each missing character to a key of its
+    /// own.
     void type(const QString &text);
     /// Presses the keys, in this order, and releases them in reverse: "Control_L", "Alt_L", "space".
     void press(const QList<std::uint32_t> &keysyms) { hold(keysyms, {}); }
     void hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time);
-    /// From now on another key of the keyboard has this symbol, as when another keyboard is plugged in.
+    /// Moves the symbol to another key, as when another keyboard is plugged in.
     void moveToAnotherKey(std::uint32_t keysym);
-    void click(QPoint where, int button = 1);
-    void point(QPoint where); ///< moves the pointer there
-    /// What is seen where no window is; of the screen's size.
-    void setWallpaper(const QImage &picture);
+    void click(QPoint position, int button = 1);
+    void point(QPoint position); ///< moves the pointer there
+    /// Sets the background of the root window; @p image has the size of the screen.
+    void setWallpaper(const QImage &image);
 
     [[nodiscard]] QImage screenshot() const;
-    [[nodiscard]] QImage screenshot(QRect part) const;
+    [[nodiscard]] QImage screenshot(QRect rect) const;
 
     struct Window {
         std::uint32_t id = 0;
         QRect frame;          ///< on the screen
         bool isInner = false; ///< within another window: a tray's, or the frame of the window manager
     };
-    /// The windows that can be seen and have this title, or this class.
+    /// The visible windows with this title, or this class.
     [[nodiscard]] QList<Window> windowsTitled(const QString &title) const;
     [[nodiscard]] QList<Window> windowsOfClass(const QString &name) const;
-    /// How many windows are right within this one: to be asked often, unlike the others, which look at all
-    /// there are.
+    /// The number of direct children; cheap, while the functions above visit every window.
     [[nodiscard]] int childCount(std::uint32_t window) const;
 
-    /// Opens a window of another program that fills the screen and takes the focus; it stays as long as the
-    /// object.
+    /// Opens a full-screen window with the focus, as of another program, until this object is destroyed.
     void openFullScreenWindow();
     void goToDesktop(std::uint32_t number);
-    /// Another client takes the focus, as by a click on its window.
+    /// Gives it the focus again, as by a click on it.
     void focusFullScreenWindow();
     [[nodiscard]] bool isFullScreenWindowFocused() const;
     void iconify(std::uint32_t window);
 
-    /// Takes the key combination for itself, so that nobody else can have it.
+    /// Grabs Control+Alt+Space, so that other clients cannot.
     void grabHotKey();
 
 private:
     void fakeKey(std::uint8_t keycode, bool isPress);
     [[nodiscard]] std::uint32_t atom(std::string_view name) const;
-    void tellWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value);
+    void sendToWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value);
     [[nodiscard]] std::uint8_t keycode(std::uint32_t keysym, bool &needsShift);
-    void learnKeyboard();
+    void readKeyboardMap();
     void assignKeys(const QList<std::uint32_t> &keysyms);
     void find(std::uint32_t parent, std::uint32_t property, const QString &value, bool isInner,
-        QList<Window> &found) const;
+        QList<Window> &out) const;
 
     xcb_connection_t *m_connection = nullptr;
     std::uint32_t m_root = 0;

@@ -29,7 +29,7 @@ static void add_ns(struct timespec *time, long long ns)
 static int (*real_gettime)(clockid_t, struct timespec *);
 static int (*real_settime)(int, int, const struct itimerspec *, struct itimerspec *);
 
-/* Before there are threads: one that had to look a function up could wait for another that loads a library. */
+/* Before threads exist: a thread looking up a function may have to wait for another that is loading a library. */
 __attribute__((constructor)) static void resolve(void)
 {
     *(void **)&real_gettime = dlsym(RTLD_NEXT, "clock_gettime");
@@ -56,12 +56,12 @@ int gettimeofday(struct timeval *restrict time, void *restrict zone)
     return result;
 }
 
-time_t time(time_t *place)
+time_t time(time_t *out)
 {
     struct timespec now;
     clock_gettime(CLOCK_REALTIME, &now);
-    if (place)
-        *place = now.tv_sec;
+    if (out)
+        *out = now.tv_sec;
     return now.tv_sec;
 }
 

@@ -40,7 +40,7 @@ void write(const QString &path, const QByteArray &bytes)
         qFatal("cannot write %s", qPrintable(path));
 }
 
-/// Some notes of a week, with all that a row may show.
+/// Some notes of a week, with everything that a row can show.
 QList<Note> someNotes(Instant now)
 {
     QList<Note> notes;
@@ -70,7 +70,7 @@ QList<Note> someNotes(Instant now)
     return notes;
 }
 
-/// One look: its desktop, and the pictures of it.
+/// One combination of looks: its desktop and the screenshots.
 class Exhibition final
 {
 public:
@@ -250,7 +250,7 @@ private:
     }
     void choose(int entry)
     {
-        m_screen.point({1, 1}); // what it points at would be chosen from
+        m_screen.point({1, 1}); // away from the menu, or the entry under it would be selected
         for (int i = 0; i < entry; ++i)
             m_screen.press({Keysym::down});
         m_screen.press({Keysym::enter});
@@ -283,7 +283,7 @@ private:
     SettingsPortal m_portal;
     NotificationRecorder m_notifications;
     Road m_road;
-    QPoint m_panel; ///< its corner, on the screen
+    QPoint m_panel; ///< its top left corner on the screen
     bool m_isFirstStart = true;
     int m_number = 0;
     bool m_hasFailed = false;
@@ -292,13 +292,13 @@ private:
 
 bool Gallery::take(const QString &program, const QString &folder)
 {
-    bool wentWell = true;
+    bool isComplete = true;
     for (const Look &look : looks) {
-        const bool isSeen = Exhibition(look, program, folder).show();
-        std::printf("  %-6s %s\n", isSeen ? "ok" : "FAILED", look.name);
+        const bool isShown = Exhibition(look, program, folder).show();
+        std::printf("  %-6s %s\n", isShown ? "ok" : "FAILED", look.name);
         std::fflush(stdout);
-        wentWell = wentWell && isSeen;
+        isComplete = isComplete && isShown;
     }
-    std::printf("the pictures are in %s\n", qPrintable(folder));
-    return wentWell;
+    std::printf("the screenshots are in %s\n", qPrintable(folder));
+    return isComplete;
 }

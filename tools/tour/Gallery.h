@@ -3,8 +3,7 @@
 #include <QString>
 
 namespace Gallery {
-/// Takes pictures of all that can be seen of the program, as it is on the screen: light and dark, at one and
-/// two device pixels for a pixel, with a compositor and without. Each look has its folder. Whether all could
-/// be seen.
+/// Takes screenshots of every view of the program: light and dark, at scale 1 and 2, with and without a
+/// compositor, each combination in its own folder. Returns whether all views opened.
 bool take(const QString &program, const QString &folder);
 } // namespace Gallery

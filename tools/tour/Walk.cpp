@@ -8,7 +8,7 @@
 using namespace std::chrono_literals;
 
 namespace {
-/// Runs the steps in order and remembers whether all of them went well.
+/// Reports the steps and records whether all of them succeeded.
 class Tour final
 {
 public:
@@ -18,14 +18,14 @@ public:
     {
     }
 
-    void step(const QString &what, bool wentWell)
+    void step(const QString &what, bool hasSucceeded)
     {
         ++m_number;
         const QString picture = QStringLiteral("%1/%2.png").arg(m_folder).arg(m_number, 2, 10, QChar(u'0'));
         m_desktop.screen().screenshot().save(picture);
-        std::printf("  %-6s %2d. %s\n", wentWell ? "ok" : "FAILED", m_number, qPrintable(what));
+        std::printf("  %-6s %2d. %s\n", hasSucceeded ? "ok" : "FAILED", m_number, qPrintable(what));
         std::fflush(stdout);
-        m_hasFailed = m_hasFailed || !wentWell;
+        m_hasFailed = m_hasFailed || !hasSucceeded;
     }
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
@@ -36,7 +36,7 @@ private:
     bool m_hasFailed = false;
 };
 
-/// The modes and bars, with some more notes.
+/// The modes and bars, with a few notes.
 void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
 {
     const auto settle = [] { PrivateDesktop::waitUntil([] { return false; }, 300ms); };
@@ -59,7 +59,7 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
     screen.press({Keysym::escape});
     screen.press({Keysym::escape});
     screen.type(QStringLiteral("牙医"));
-    look(QStringLiteral("no note holds it, but one means something like it"));
+    look(QStringLiteral("no note contains it, but one has a similar meaning"));
     screen.press({Keysym::escape});
     settle();
     screen.press({Keysym::down});
@@ -129,7 +129,7 @@ void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
         desktop.screen().click(bubbles().first().frame.center());
     const bool lit = PrivateDesktop::waitUntil([&road] { return road.isFlashing(); }, 3s);
     tour.step(QStringLiteral("a click on it opens the panel, and the note lights up"), lit);
-    tour.step(QStringLiteral("the reminder has done its work and is gone"),
+    tour.step(QStringLiteral("and the reminder is removed"),
         PrivateDesktop::waitUntil([&road] { return road.savedReminders().isEmpty(); }));
     road.stop();
 }
@@ -141,7 +141,7 @@ bool Walk::take(const QString &program, const QString &folder)
     Road road(desktop, program);
     Tour tour(desktop, folder);
     takeTheRoad(desktop, road, tour);
-    std::printf("%s; the pictures are in %s\n", tour.hasFailed() ? "the road is blocked" : "the road is free",
-        qPrintable(folder));
+    std::printf("%s; the screenshots are in %s\n",
+        tour.hasFailed() ? "steps have failed" : "all steps have succeeded", qPrintable(folder));
     return !tour.hasFailed();
 }

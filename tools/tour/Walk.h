@@ -3,7 +3,7 @@
 #include <QString>
 
 namespace Walk {
-/// Takes the program down the road of one note on a private desktop, tells each step with its result, and
-/// leaves a picture of each in the folder. Whether all went well.
+/// Follows one note through the program on a private desktop, prints the result of each step, and saves a
+/// screenshot of each in the folder. Returns whether all steps succeeded.
 bool take(const QString &program, const QString &folder);
 } // namespace Walk

@@ -1,5 +1,5 @@
-// Shows Quillet on private desktops and leaves pictures: "walk" takes the road of one note, "gallery" looks
-// at everything.
+// Runs Quillet on private desktops and saves screenshots: "walk" follows one note, "gallery" shows every
+// view.
 #include "tour/Gallery.h"
 #include "tour/Walk.h"
 

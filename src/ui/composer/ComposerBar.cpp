@@ -38,10 +38,10 @@ void ComposerBar::paintEvent(QPaintEvent *)
     const QRect symbol(Design::edge + Design::grid, (height() - Design::symbolSize) / 2, Design::symbolSize,
         Design::symbolSize);
     Symbol::paint(painter, symbol, m_symbol, color);
-    const QRect place =
+    const QRect textRect =
         rect().adjusted(symbol.right() + 2 * Design::grid, 0, -Design::edge - Design::buttonSize, 0);
     painter.setFont(NoteStyle::quoteFont());
     painter.setPen(color);
-    painter.drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(m_text.simplified(), Qt::ElideRight, place.width()));
+    painter.drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
+        painter.fontMetrics().elidedText(m_text.simplified(), Qt::ElideRight, textRect.width()));
 }

@@ -2,17 +2,16 @@
 
 #include <QWidget>
 
-/// One line above the field that tells what the draft will become besides its text, and lets that be dropped.
+/// One line above the field about something that will be saved with the draft, and a button to drop it.
 class ComposerBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p dismissHelp is the tooltip of the button that drops it.
+    /// @p dismissHelp is the tooltip of the button.
     ComposerBar(const QString &symbol, const QString &dismissHelp, QWidget *parent = nullptr);
 
     void setText(const QString &text);
-    [[nodiscard]] const QString &text() const { return m_text; }
 
 Q_SIGNALS:
     void dismissed();

@@ -23,7 +23,7 @@ bool isLineBreak(QChar character)
 
 void ComposerField::replaceAll(const QString &text)
 {
-    // What is inserted loses its line breaks, and a note that has some keeps them while it is edited.
+    // insert() removes line breaks, but a note that has some keeps them while it is edited.
     if (text.isEmpty() || std::none_of(text.begin(), text.end(), isLineBreak)) {
         selectAll();
         insert(text);
@@ -101,6 +101,6 @@ void ComposerField::mouseReleaseEvent(QMouseEvent *event)
 
 void ComposerField::focusOutEvent(QFocusEvent *event)
 {
-    m_isComposing = false; // the input method gives up, or commits, what it had
+    m_isComposing = false; // the input method cancels or commits
     QLineEdit::focusOutEvent(event);
 }

@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-/// The line that is written in. While an input method composes, the keys are the input method's: what reaches
-/// the field all the same neither saves nor closes anything.
+/// The input line. While an input method is composing, keys belong to the input method: those that reach the
+/// field nevertheless neither save nor close anything.
 class ComposerField final : public QLineEdit
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
     using QLineEdit::QLineEdit;
 
     [[nodiscard]] bool isComposing() const { return m_isComposing; }
-    /// Puts this text in place of all; Ctrl+Z takes it back.
+    /// Replaces the whole text; Ctrl+Z undoes it.
     void replaceAll(const QString &text);
 
 protected:

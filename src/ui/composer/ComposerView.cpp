@@ -43,7 +43,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     m_field->setFrame(false);
     m_field->setFont(NoteStyle::font());
     m_field->setFixedHeight(Design::fieldHeight);
-    m_field->setMaxLength(std::numeric_limits<int>::max()); // what was pasted is never cut silently
+    m_field->setMaxLength(std::numeric_limits<int>::max()); // pasted text is never truncated silently
     QPalette colors = m_field->palette();
     colors.setColor(QPalette::Base, Qt::transparent);
     m_field->setPalette(colors);
@@ -105,7 +105,7 @@ void ComposerView::draftDidChange()
     updateReminderPreview();
 }
 
-// Tags that are offered
+// Tag completion
 
 void ComposerView::updateCompletion()
 {
@@ -121,14 +121,14 @@ void ComposerView::applyCandidate(const QString &candidate)
     if (!applied)
         return;
     m_state.setDraft(applied->text);
-    // The field takes the new draft first.
+    // After the field has taken the new draft.
     QTimer::singleShot(
         0, m_field, [field = m_field, cursor = applied->cursor] { field->setCursorPosition(int(cursor)); });
 }
 
 bool ComposerView::eventFilter(QObject *watched, QEvent *event)
 {
-    // While an input method composes, the keys are its own.
+    // While an input method is composing, keys belong to it.
     if (event->type() == QEvent::KeyPress && !isComposing()
         && handleKey(static_cast<QKeyEvent *>(event)->key()))
         return true;
@@ -150,7 +150,7 @@ bool ComposerView::handleKey(int key)
         if (m_completion.isActive())
             m_completion.moveSelection(key == Qt::Key_Up ? -1 : 1);
         else
-            Q_EMIT walkedAway();
+            Q_EMIT listRequested();
         return true;
     default:
         return false;
@@ -192,7 +192,7 @@ void ComposerView::submit()
 {
     if (isFilterOnly())
         return;
-    // The order of the cases is the order in which they win.
+    // The order of the cases decides.
     const QString draft = m_state.draft();
     if (const auto editingID = m_state.editingID()) {
         m_store.update(*editingID, draft);
@@ -207,20 +207,20 @@ void ComposerView::submit()
         std::optional<ParsedReminder> reminder;
         if (!m_suppressReminder)
             reminder = detectedReminder();
-        // A time that has passed makes a plain note, as the bar says.
+        // A time that has passed makes a plain note, as announced in the bar.
         if (reminder && reminder->fireAt <= m_clock.now())
             reminder.reset();
         m_store.add(draft, {}, {}, reminder);
     }
     m_state.setQuoting({});
-    m_field->setText({}); // and not to be taken back, since it is a note now
+    m_field->setText({}); // without undo, since the text is a note now
     m_suppressReminder = false;
 }
 
 void ComposerView::addWebLink(const QString &draft, const QString &address)
 {
     const auto note = m_store.add(draft, {}, address);
-    // For the store, which is there however long the page takes and whatever becomes of the panel.
+    // The context is the store, which outlives the panel.
     m_titles.fetchTitle(address, &m_store, [&store = m_store, note = *note](const auto &title) {
         if (title)
             store.applyLinkTitle(*title, note.id, note.text);
@@ -247,7 +247,7 @@ void ComposerView::updatePlaceholder()
 void ComposerView::focusAtEnd()
 {
     m_field->setFocus();
-    // The field takes the new draft first.
+    // After the field has taken the new draft.
     QTimer::singleShot(0, m_field, [field = m_field] { field->end(false); });
 }
 

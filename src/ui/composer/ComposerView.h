@@ -18,8 +18,8 @@ class PanelState;
 class ReminderBar;
 class SuggestionList;
 
-/// The one line that is written in. Return saves the draft: as an edit, a link, a note with a reminder, or a
-/// note.
+/// The line that notes are written in, with completion and bars above it. Return saves the draft: as an edit,
+/// a link, a note with a reminder, or a plain note.
 class ComposerView final : public QWidget
 {
     Q_OBJECT
@@ -28,16 +28,13 @@ public:
     ComposerView(NoteStore &store, PanelState &state, const DateDetecting &detector,
         PageTitleFetching &titles, const Clock &clock, QWidget *parent = nullptr);
 
-    /// Saves the draft and clears the field; a blank draft is only cleared. Where the field only filters,
-    /// nothing happens.
-    void submit();
-    [[nodiscard]] bool isComposing() const; ///< an input method is at work in the field
-    void timeDidPass();                     ///< what was still to come may be past
+    [[nodiscard]] bool isComposing() const; ///< an input method is composing in the field
+    void timeDidPass();                     ///< a previewed reminder may have passed
 
     [[nodiscard]] TagCompletionState &completion() { return m_completion; }
 
 Q_SIGNALS:
-    void walkedAway(); ///< an arrow key asks for the list
+    void listRequested(); ///< by an arrow key
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -45,6 +42,8 @@ protected:
 
 private:
     [[nodiscard]] bool isFilterOnly() const;
+    /// Saves the draft and clears the field; a blank draft is only cleared.
+    void submit();
     void draftDidChange();
     void updateCompletion();
     void applyCandidate(const QString &candidate);

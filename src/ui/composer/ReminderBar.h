@@ -7,7 +7,7 @@
 
 class Clock;
 
-/// Tells above the field which reminder saving would create, and lets it be dismissed for this draft.
+/// Shows which reminder saving would create, and lets the user dismiss it for this draft.
 class ReminderBar final : public ComposerBar
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class ReminderBar final : public ComposerBar
 public:
     explicit ReminderBar(const Clock &clock, QWidget *parent = nullptr);
 
-    /// Hidden when there is none.
+    /// Hides the bar if there is none.
     void setPreview(const std::optional<ParsedReminder> &preview);
 
 private:

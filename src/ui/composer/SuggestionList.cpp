@@ -66,17 +66,17 @@ void SuggestionList::paintEvent(QPaintEvent *)
     painter.setFont(NoteStyle::font());
     const QStringList shown = suggestions();
     for (qsizetype row = 0; row < shown.size(); ++row) {
-        const QRect place(Design::edge, int(row) * Design::suggestionHeight, width() - 2 * Design::edge,
+        const QRect rect(Design::edge, int(row) * Design::suggestionHeight, width() - 2 * Design::edge,
             Design::suggestionHeight);
         if (row == m_completion.selection() || row == m_hovered) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(row == m_completion.selection() ? NoteStyle::editing(palette())
                                                              : NoteStyle::hover(palette()));
-            painter.drawRoundedRect(place, Design::rowRadius, Design::rowRadius);
+            painter.drawRoundedRect(rect, Design::rowRadius, Design::rowRadius);
         }
-        const QRect text = place.adjusted(Design::edge, 0, -Design::edge, 0);
+        const QRect textRect = rect.adjusted(Design::edge, 0, -Design::edge, 0);
         painter.setPen(NoteStyle::tagColor(palette()));
-        painter.drawText(text, Qt::AlignVCenter | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(shown[row], Qt::ElideRight, text.width()));
+        painter.drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
+            painter.fontMetrics().elidedText(shown[row], Qt::ElideRight, textRect.width()));
     }
 }

@@ -5,7 +5,7 @@
 
 class TagCompletionState;
 
-/// The tags that are offered while one is typed, a row each; the chosen one is marked.
+/// The tags offered for completion, one per row; the selected one is highlighted.
 class SuggestionList final : public QWidget
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class SuggestionList final : public QWidget
 public:
     explicit SuggestionList(const TagCompletionState &completion, QWidget *parent = nullptr);
 
-    [[nodiscard]] QStringList suggestions() const; ///< as they are shown, with "#"
+    [[nodiscard]] QStringList suggestions() const; ///< as shown, with "#"
 
 Q_SIGNALS:
     void chosen(const QString &candidate);
@@ -26,7 +26,7 @@ protected:
 
 private:
     void completionDidChange();
-    [[nodiscard]] qsizetype rowAt(int y) const; ///< -1 beside the rows
+    [[nodiscard]] qsizetype rowAt(int y) const; ///< -1 outside the rows
 
     const TagCompletionState &m_completion;
     qsizetype m_hovered = -1;

@@ -28,8 +28,8 @@ ExportFormatAccessory::ExportFormatAccessory(QFileDialog &dialog, const QString 
 void ExportFormatAccessory::formatChanged(const QString &filter)
 {
     m_format = filter == markdownFilter ? Format::Markdown : Format::Json;
-    // The name stays; only what stands behind its last point follows.
+    // Only the extension changes.
     const QString name = QFileInfo(m_dialog.selectedFiles().value(0)).fileName();
-    const qsizetype point = name.lastIndexOf(u'.');
-    m_dialog.selectFile((point < 0 ? name : name.first(point)) + u'.' + extension(m_format));
+    const qsizetype dot = name.lastIndexOf(u'.');
+    m_dialog.selectFile((dot < 0 ? name : name.first(dot)) + u'.' + extension(m_format));
 }

@@ -4,7 +4,7 @@
 
 class QFileDialog;
 
-/// The choice of the format in the dialog that asks where to export to. The extension of the name follows it.
+/// The choice of the format in the export dialog. The extension of the file name follows it.
 class ExportFormatAccessory final : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     enum class Format { Json, Markdown };
     [[nodiscard]] static QString extension(Format format); ///< without its dot
 
-    /// Belongs to the dialog, and gives it @p baseName with the first format's extension.
+    /// Owned by the dialog. Suggests @p baseName with the extension of the first format.
     ExportFormatAccessory(QFileDialog &dialog, const QString &baseName);
 
     [[nodiscard]] Format format() const { return m_format; }

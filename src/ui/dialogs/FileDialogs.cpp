@@ -13,8 +13,7 @@ namespace {
 std::optional<std::optional<FileDialogs::Target>> s_nextTarget;
 std::optional<std::optional<QString>> s_nextSource;
 
-/// Where people look for their files.
-QString firstFolder()
+QString startFolder()
 {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
@@ -35,7 +34,7 @@ std::optional<FileDialogs::Target> FileDialogs::askForTarget(const QString &titl
 {
     if (s_nextTarget)
         return *std::exchange(s_nextTarget, std::nullopt);
-    QFileDialog dialog(nullptr, title, firstFolder());
+    QFileDialog dialog(nullptr, title, startFolder());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     const auto *accessory = new ExportFormatAccessory(dialog, baseName);
@@ -48,7 +47,7 @@ std::optional<QString> FileDialogs::askForSource(const QString &title)
 {
     if (s_nextSource)
         return *std::exchange(s_nextSource, std::nullopt);
-    QFileDialog dialog(nullptr, title, firstFolder());
+    QFileDialog dialog(nullptr, title, startFolder());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({QStringLiteral("JSON, Markdown (*.json *.md *.markdown)")});
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())

@@ -6,18 +6,18 @@
 
 #include <optional>
 
-/// The dialogs in which a file is chosen. A test answers in advance.
+/// The dialogs for choosing a file. A test answers them in advance.
 namespace FileDialogs {
 struct Target {
-    QString path; ///< as the person wrote it
+    QString path; ///< as entered by the user
     ExportFormatAccessory::Format format = ExportFormatAccessory::Format::Json;
 };
-/// Nothing when the person thinks better of it.
+/// Nothing when the user cancels.
 [[nodiscard]] std::optional<Target> askForTarget(const QString &title, const QString &baseName);
-/// A JSON or Markdown file to be read.
+/// A JSON or Markdown file to import.
 [[nodiscard]] std::optional<QString> askForSource(const QString &title);
 
-/// What the next dialog answers, without being shown; nothing is a dialog that was cancelled.
+/// The answer of the next dialog, which is then not shown; nothing means that it was cancelled.
 void setNextTarget(const std::optional<Target> &target);
 void setNextSource(const std::optional<QString> &path);
 } // namespace FileDialogs

@@ -12,7 +12,7 @@
 #include "ui/dialogs/ModalQuestion.h"
 
 namespace {
-/// Without one of the extensions that notes are written with, and with that of the format.
+/// With the extension of the format in place of any known one.
 QString targetPath(const FileDialogs::Target &target)
 {
     QString path = target.path;

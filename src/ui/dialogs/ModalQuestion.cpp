@@ -11,7 +11,7 @@
 
 namespace {
 std::optional<bool> s_nextAnswer;
-ModalQuestion::Told s_lastTold;
+ModalQuestion::Message s_lastMessage;
 
 void prepare(QMessageBox &box, const QString &title, const QString &message)
 {
@@ -30,15 +30,15 @@ void ModalQuestion::setNextAnswer(bool answer)
     s_nextAnswer = answer;
 }
 
-const ModalQuestion::Told &ModalQuestion::lastTold()
+const ModalQuestion::Message &ModalQuestion::lastMessage()
 {
-    return s_lastTold;
+    return s_lastMessage;
 }
 
 bool ModalQuestion::confirm(
     QWidget *parent, const QString &title, const QString &message, const QString &confirmTitle)
 {
-    s_lastTold = {title, message};
+    s_lastMessage = {title, message};
     if (s_nextAnswer)
         return *std::exchange(s_nextAnswer, std::nullopt);
     QMessageBox box(parent);
@@ -57,7 +57,7 @@ bool ModalQuestion::confirm(
 
 void ModalQuestion::inform(QWidget *parent, const QString &title, const QString &message)
 {
-    s_lastTold = {title, message};
+    s_lastMessage = {title, message};
     if (std::exchange(s_nextAnswer, std::nullopt))
         return;
     QMessageBox box(parent);

@@ -4,19 +4,19 @@
 
 class QWidget;
 
-/// The modal questions and reports. A test answers in advance, and reads what was told.
+/// Modal questions and reports. A test answers them in advance, and reads what they said.
 namespace ModalQuestion {
-/// A warning with two buttons, of which the first does what cannot be undone; whether that was chosen.
+/// A warning with a button for a destructive action and one to cancel; true if the action was chosen.
 [[nodiscard]] bool confirm(
     QWidget *parent, const QString &title, const QString &message, const QString &confirmTitle);
 void inform(QWidget *parent, const QString &title, const QString &message);
 
-struct Told {
+struct Message {
     QString title;
-    QString message;
-    bool operator==(const Told &) const = default;
+    QString details;
+    bool operator==(const Message &) const = default;
 };
-/// The next question gets this answer without being shown, and the next report is not shown either.
+/// Answers the next question, or closes the next report, which is then not shown.
 void setNextAnswer(bool answer);
-[[nodiscard]] const Told &lastTold();
+[[nodiscard]] const Message &lastMessage();
 } // namespace ModalQuestion

@@ -89,7 +89,7 @@ ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateD
 
     connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
-    connect(m_composer, &ComposerView::walkedAway, this, [this] { list().enter(); });
+    connect(m_composer, &ComposerView::listRequested, this, [this] { list().enter(); });
     connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
     addShortcuts();
     m_nextMinute.setSingleShot(true);
@@ -231,7 +231,7 @@ bool ContentView::escape()
     return true;
 }
 
-// The passing of time
+// Time
 
 void ContentView::timeDidPass()
 {

@@ -1,4 +1,4 @@
 #pragma once
 
-/// What the panel shows in its middle.
+/// Which list the panel shows.
 enum class PanelMode { Timeline, Tags, Reminders, Trash };

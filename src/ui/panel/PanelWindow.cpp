@@ -31,8 +31,7 @@ PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
 
 bool PanelWindow::event(QEvent *event)
 {
-    // A dialog has ended. To whom the desktop then gives the focus, it decides by itself, and mostly not for
-    // a window that is in no taskbar.
+    // A dialog was closed. Many desktops do not give the focus back to a window that is in no taskbar.
     if (event->type() == QEvent::WindowUnblocked && isVisible())
         activateWindow();
     return QWidget::event(event);
@@ -55,33 +54,33 @@ void PanelWindow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange)
         return;
-    // A grabbed key takes the focus for a moment and gives it back.
-    constexpr std::chrono::milliseconds moment{50};
+    // A key grab takes the focus briefly and gives it back.
+    constexpr std::chrono::milliseconds grabDuration{50};
     if (isActiveWindow()) {
         if (m_focusCheck.isActive())
             m_reopening = QDeadlineTimer(); // the next loss is a real one
         m_focusCheck.stop();
-    } else if (isVisible()) { // on Wayland a window hears of it after it was closed
-        m_focusCheck.start(std::max(moment, std::chrono::milliseconds(m_reopening.remainingTime())));
+    } else if (isVisible()) { // on Wayland also reported after the window was closed
+        m_focusCheck.start(std::max(grabDuration, std::chrono::milliseconds(m_reopening.remainingTime())));
     }
 }
 
 void PanelWindow::expectFocusAgain()
 {
-    constexpr std::chrono::seconds patience{1};
-    m_reopening.setRemainingTime(patience);
+    constexpr std::chrono::seconds focusTimeout{1};
+    m_reopening.setRemainingTime(focusTimeout);
     QApplication::setActiveWindow(this);
 }
 
 void PanelWindow::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    m_focusCheck.stop(); // or it would close a panel that is opened again at once
+    m_focusCheck.stop(); // or it would close the panel if it is opened again at once
 }
 
 void PanelWindow::checkFocus()
 {
-    // A menu or dialog of our own has it for us.
+    // The program's own menus and dialogs do not count.
     if (!QApplication::activePopupWidget() && !QApplication::activeModalWidget())
         Q_EMIT focusLost();
 }

@@ -8,25 +8,25 @@
 
 class ContentView;
 
-/// The floating window around the panel's content: its looks, Escape, and closing when it loses the focus.
+/// The floating window around the panel's content: its frame, Escape, and the loss of the focus.
 class PanelWindow final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p content is adopted.
+    /// Takes ownership of @p content.
     explicit PanelWindow(
         ContentView *content, FloatingFrame::Backdrop backdrop = FloatingFrame::Backdrop::None);
     [[nodiscard]] const FloatingFrame &frame() const { return m_frame; }
-    /// Gives the content back, for another window.
+    /// Gives up ownership of the content, for another window.
     void releaseContent();
-    /// To be called where it is shown again right after it was closed. Qt still takes it for the window with
-    /// the focus: it would not hear that it gets it again, and hears late that it lost it.
+    /// To be called when the window is shown again right after it was closed. Qt then still believes that it
+    /// has the focus: it would not report the new focus, and reports the loss of the old one late.
     void expectFocusAgain();
 
 Q_SIGNALS:
     void escaped();   ///< Escape, with nothing left to undo within the panel
-    void focusLost(); ///< another program's window has taken the focus
+    void focusLost(); ///< to another program's window
 
 protected:
     bool event(QEvent *event) override;
@@ -41,6 +41,6 @@ private:
 
     ContentView *m_content = nullptr;
     QTimer m_focusCheck;
-    QDeadlineTimer m_reopening; ///< until the window manager has had its time
+    QDeadlineTimer m_reopening; ///< until the window manager must have given the focus
     FloatingFrame m_frame;
 };
