@@ -25,7 +25,7 @@ public:
     /// Whether keys can be grabbed in this session.
     [[nodiscard]] static bool isPossible();
 
-    void request();
+    void request(); ///< grabs the key, or announces the failure
 
     /// After a press the server holds back all keys until this is called, for at most a second. They then go
     /// to the window that has the focus.

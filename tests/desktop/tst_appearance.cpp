@@ -24,7 +24,7 @@ private Q_SLOTS:
         QSignalSpy changed(&appearance, &Appearance::schemeChanged);
         appearance.follow();
         QTRY_COMPARE(appearance.scheme(), Appearance::Scheme::Dark);
-        Q_EMIT portal.SettingChanged(u"org.freedesktop.other"_s, u"color-scheme"_s, QDBusVariant(2U));
+        portal.announceOtherSetting();
         portal.setScheme(SettingsPortal::Scheme::Light);
         QTRY_COMPARE(appearance.scheme(), Appearance::Scheme::Light);
         portal.setScheme(SettingsPortal::Scheme::NoPreference);

@@ -33,6 +33,10 @@ public:
     QDBusObjectPath session;
 
     uint version() const { return 1; }
+    void press(const QString &id)
+    {
+        Q_EMIT Activated(session, id, 1, {{u"activation_token"_s, u"let me"_s}});
+    }
 
 public Q_SLOTS:
     uint CreateSession(const QDBusObjectPath &, const QDBusObjectPath &handle, const QString &,
@@ -102,10 +106,6 @@ class PortalHotKeyTest final : public QObject
         m_portal->kill();
         m_portal->waitForFinished();
     }
-    void press(const QString &id)
-    {
-        Q_EMIT m_backend->Activated(m_backend->session, id, 1, {{u"activation_token"_s, u"let me"_s}});
-    }
 
 private Q_SLOTS:
     void initTestCase()
@@ -159,8 +159,8 @@ private Q_SLOTS:
         QCOMPARE(m_backend->bound.size(), 1);
         QCOMPARE(
             m_backend->bound.first().second.value(u"preferred_trigger"_s).toString(), u"CTRL+ALT+space"_s);
-        press(u"other"_s);
-        press(u"toggle"_s);
+        m_backend->press(u"other"_s);
+        m_backend->press(u"toggle"_s);
         QTRY_COMPARE(pressed.count(), 1);
         QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "let me");
         QTest::qWait(100);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         startPortal();
         QTRY_VERIFY_WITH_TIMEOUT(m_backend->calls == steps + steps || !failed.isEmpty(), 15'000);
         QCOMPARE(failed, QList<QVariantList>());
-        press(u"toggle"_s);
+        m_backend->press(u"toggle"_s);
         QTRY_COMPARE(pressed.count(), 2);
     }
 
@@ -183,7 +183,7 @@ private Q_SLOTS:
         key.request();
         const QStringList steps{u"CreateSession"_s, u"ListShortcuts"_s};
         QTRY_COMPARE_WITH_TIMEOUT(m_backend->calls, steps, 15'000);
-        press(u"toggle"_s);
+        m_backend->press(u"toggle"_s);
         QTRY_COMPARE(pressed.count(), 1);
         QTest::qWait(100);
         QCOMPARE(m_backend->calls, steps);

@@ -28,6 +28,12 @@ void SettingsPortal::setScheme(Scheme scheme)
         QDBusVariant(unsigned(scheme)));
 }
 
+void SettingsPortal::announceOtherSetting()
+{
+    Q_EMIT SettingChanged(
+        QStringLiteral("org.freedesktop.other"), QStringLiteral("color-scheme"), QDBusVariant(2U));
+}
+
 QDBusVariant SettingsPortal::Read(const QString &, const QString &) const
 {
     return QDBusVariant(QVariant::fromValue(QDBusVariant(unsigned(m_scheme))));

@@ -18,6 +18,8 @@ public:
     Q_DISABLE_COPY_MOVE(SettingsPortal)
 
     void setScheme(Scheme scheme);
+    /// A change of a setting that the portal does not have.
+    void announceOtherSetting();
 
 public Q_SLOTS:
     /// The method of the first version, which wraps its result in two variants.

@@ -36,8 +36,7 @@ public:
     void clearComposer() { setDraft({}); }
     void focusComposer();        ///< with the caret behind the text
     void openNote(QUuid noteID); ///< in the timeline; the draft stays
-    /// To be called after the program, not a click on the status item, has opened or closed the panel.
-    void panelDidToggle();
+    void panelDidToggle();       ///< to be called after the panel was opened or closed on request
 
 Q_SIGNALS:
     void draftChanged();
