@@ -31,8 +31,7 @@ TagCompletionState::TagCompletionState(QObject *parent)
 
 std::optional<QString> TagCompletionState::selectedCandidate() const
 {
-    const bool isValid = m_isActive && m_selection >= 0 && m_selection < m_candidates.size();
-    return isValid ? std::optional(m_candidates[m_selection]) : std::nullopt;
+    return isActive() ? std::optional(m_candidates[m_selection]) : std::nullopt;
 }
 
 void TagCompletionState::update(QStringView draft, qsizetype cursor, const QStringList &tags)
@@ -56,13 +55,12 @@ void TagCompletionState::update(QStringView draft, qsizetype cursor, const QStri
     m_token = token;
     m_candidates = candidates;
     m_selection = 0;
-    m_isActive = true;
     Q_EMIT changed();
 }
 
 void TagCompletionState::moveSelection(int step)
 {
-    if (!m_isActive || m_candidates.isEmpty())
+    if (!isActive())
         return;
     m_selection = (m_selection + step + m_candidates.size()) % m_candidates.size();
     Q_EMIT changed();
@@ -71,7 +69,7 @@ void TagCompletionState::moveSelection(int step)
 std::optional<TagCompletionState::Applied> TagCompletionState::apply(
     const QString &candidate, const QString &text)
 {
-    if (!m_isActive || !m_token || m_token->range.end > text.size())
+    if (!m_token || m_token->range.end > text.size())
         return std::nullopt;
     const TextRange range = m_token->range;
     const Applied applied{
@@ -83,7 +81,6 @@ std::optional<TagCompletionState::Applied> TagCompletionState::apply(
 
 void TagCompletionState::dismiss()
 {
-    m_isActive = false;
     m_candidates.clear();
     m_selection = 0;
     m_token.reset();

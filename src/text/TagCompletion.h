@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] const QStringList &candidates() const { return m_candidates; } ///< at most five
     [[nodiscard]] qsizetype selection() const { return m_selection; }
-    [[nodiscard]] bool isActive() const { return m_isActive; }
+    [[nodiscard]] bool isActive() const { return m_token.has_value(); }
     [[nodiscard]] std::optional<QString> selectedCandidate() const;
 
     /// @p tags without "#", in the order in which they are offered. The first update after an apply() is
@@ -58,7 +58,6 @@ private:
 
     QStringList m_candidates;
     qsizetype m_selection = 0;
-    bool m_isActive = false;
-    std::optional<TagCompletion::Token> m_token;
+    std::optional<TagCompletion::Token> m_token; ///< set while active
     bool m_suppressNextUpdate = false;
 };

@@ -138,18 +138,6 @@ private Q_SLOTS:
         QCOMPARE(panel.savedNotes().size(), 2);
     }
 
-    void a_reply_keeps_its_quote_and_makes_no_reminder()
-    {
-        TestPanel panel;
-        const Note quoted = *panel.notes.add(u"买牛奶"_s);
-        panel.state().setQuoting(quoted);
-        panel.type(u"明天9点 买"_s);
-        panel.press(Qt::Key_Return);
-        QCOMPARE(panel.savedNotes().first().quoteID, quoted.id);
-        QVERIFY(panel.reminders.reminders().isEmpty());
-        QVERIFY(!panel.state().quoting());
-    }
-
     void what_is_typed_filters_the_timeline()
     {
         TestPanel panel;

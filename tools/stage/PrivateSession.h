@@ -33,6 +33,11 @@ public:
     /// Handles events until @p condition holds; false when it does not within the time limit.
     static bool waitUntil(const std::function<bool()> &condition,
         std::chrono::milliseconds timeLimit = std::chrono::seconds(10));
+    /// Handles events until the program must have done what was asked and painted it.
+    static void settle()
+    {
+        waitUntil([] { return false; }, std::chrono::milliseconds(300));
+    }
 
 protected:
     /// Starts a part of the desktop, which is ended together with it.

@@ -1,24 +1,17 @@
 #include "stage/XServer.h"
 
+#include "desktop/X11.h"
+
 #include <QThread>
 
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 
 namespace {
-template <typename T>
-using Reply = std::unique_ptr<T, decltype(&std::free)>;
-
-template <typename T>
-Reply<T> owned(T *reply)
-{
-    return Reply<T>(reply, &std::free);
-}
+using X11::owned;
 
 /// Time for a program to read a new keyboard map, in milliseconds.
 constexpr unsigned long keyboardMapDelay = 150;
@@ -342,5 +335,5 @@ void XServer::grabHotKey()
     xcb_grab_key(m_connection, true, m_root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1,
         keycode(Keysym::space, needsShift), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     // A round trip, so that the grab is active when this returns.
-    owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    (void)owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
 }

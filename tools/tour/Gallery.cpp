@@ -147,7 +147,7 @@ private:
         escape();
         m_screen.press({Keysym::down});
         m_screen.press({Keysym::menu});
-        settle();
+        PrivateDesktop::settle();
         choose(1);
         picture("quoting");
         m_screen.type(QStringLiteral("x"));
@@ -185,12 +185,12 @@ private:
         mode(Keysym::digit2);
         picture("tags");
         m_screen.click(inPanel(100, 52), 3);
-        settle();
+        PrivateDesktop::settle();
         choose(1);
         picture("renaming a tag");
         escape();
         m_screen.click(inPanel(100, 52), 3);
-        settle();
+        PrivateDesktop::settle();
         choose(2);
         picture("deleting a tag");
         escape();
@@ -216,9 +216,9 @@ private:
         m_screen.press({Keysym::enter});
         picture("nothing to import");
         m_screen.press({Keysym::enter});
-        settle();
+        PrivateDesktop::settle();
         m_screen.click(icon, 3);
-        settle();
+        PrivateDesktop::settle();
         choose(2);
         picture("export");
         escape();
@@ -232,7 +232,7 @@ private:
             m_road.pressHotKey();
         m_isFirstStart = false;
         expect(m_road.waitForPanel(true), "the panel");
-        settle();
+        PrivateDesktop::settle();
         const bool isShadowed = m_look.hasCompositor;
         m_panel =
             m_road.panel().value_or(QRect()).topLeft()
@@ -241,12 +241,12 @@ private:
     void mode(std::uint32_t digit)
     {
         m_screen.press({Keysym::control, digit});
-        settle();
+        PrivateDesktop::settle();
     }
     void escape()
     {
         m_screen.press({Keysym::escape});
-        settle();
+        PrivateDesktop::settle();
     }
     void choose(int entry)
     {
@@ -254,11 +254,7 @@ private:
         for (int i = 0; i < entry; ++i)
             m_screen.press({Keysym::down});
         m_screen.press({Keysym::enter});
-        settle();
-    }
-    static void settle()
-    {
-        PrivateDesktop::waitUntil([] { return false; }, 300ms);
+        PrivateDesktop::settle();
     }
     [[nodiscard]] QPoint inPanel(int x, int y) const { return m_panel + QPoint(x, y) * m_look.scale; }
     void expect(bool holds, const char *what)
@@ -269,7 +265,7 @@ private:
     }
     void picture(const char *what)
     {
-        settle();
+        PrivateDesktop::settle();
         m_screen.screenshot().save(QStringLiteral("%1/%2 %3.png")
                                        .arg(m_folder)
                                        .arg(++m_number, 2, 10, QChar(u'0'))

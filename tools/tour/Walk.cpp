@@ -39,7 +39,6 @@ private:
 /// The modes and bars, with a few notes.
 void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
 {
-    const auto settle = [] { PrivateDesktop::waitUntil([] { return false; }, 300ms); };
     XServer &screen = desktop.screen();
     road.pressHotKey();
     tour.step(QStringLiteral("opened to look around"), road.waitForPanel(true));
@@ -48,10 +47,10 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
         screen.type(text);
         screen.press({Keysym::enter});
     }
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("four notes"), road.savedNotes().size() == 4);
     const auto look = [&](const QString &what) {
-        settle();
+        PrivateDesktop::settle();
         tour.step(what, road.panel().has_value());
     };
     screen.type(QStringLiteral("买牛奶 #"));
@@ -61,7 +60,7 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
     screen.type(QStringLiteral("牙医"));
     look(QStringLiteral("no note contains it, but one has a similar meaning"));
     screen.press({Keysym::escape});
-    settle();
+    PrivateDesktop::settle();
     screen.press({Keysym::down});
     look(QStringLiteral("the arrow keys walk the list"));
     screen.press({Keysym::escape});
@@ -72,7 +71,7 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
     screen.press({Keysym::control, Keysym::digit4});
     look(QStringLiteral("the trash"));
     screen.press({Keysym::control, Keysym::digit1});
-    settle();
+    PrivateDesktop::settle();
     screen.press({Keysym::escape});
     tour.step(QStringLiteral("and closed again"), road.waitForPanel(false));
 }
@@ -80,25 +79,24 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
 void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
 {
     const QString draft = QStringLiteral("明天下午3点 交房租 #家");
-    const auto settle = [] { PrivateDesktop::waitUntil([] { return false; }, 300ms); };
 
     road.start();
     tour.step(QStringLiteral("Quillet starts, and its icon is in the tray"), road.waitForTrayIcon());
     const bool opened = road.waitForPanel(true);
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("the very first start opens the panel"), opened);
     desktop.screen().press({Keysym::escape});
     tour.step(QStringLiteral("Escape closes it"), road.waitForPanel(false));
 
     road.pressHotKey();
     tour.step(QStringLiteral("Control+Alt+Space opens it again"), road.waitForPanel(true));
-    settle();
+    PrivateDesktop::settle();
     desktop.screen().type(draft);
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("typed: %1").arg(draft), road.panel().has_value());
     desktop.screen().press({Keysym::enter});
     const bool saved = PrivateDesktop::waitUntil([&road] { return !road.savedReminders().isEmpty(); });
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("Return writes it to notes.json"),
         road.savedNotes().size() == 1 && road.savedNotes().first().text == draft);
     const Calendar shanghai("Asia/Shanghai");
@@ -107,10 +105,10 @@ void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
     tour.step(QStringLiteral("and a reminder for tomorrow at three to reminders.json"),
         saved && road.savedReminders().first().fireAt == three);
     desktop.screen().type(QStringLiteral("房租"));
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("what is typed filters the timeline"), road.panel().has_value());
     desktop.screen().press({Keysym::escape});
-    settle();
+    PrivateDesktop::settle();
     desktop.screen().press({Keysym::escape});
     tour.step(
         QStringLiteral("Escape empties the field, and again closes the panel"), road.waitForPanel(false));
@@ -123,7 +121,7 @@ void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
         road.waitForTrayIcon() && !road.panel());
     const auto bubbles = [&desktop] { return desktop.screen().windowsOfClass(QStringLiteral("Dunst")); };
     const bool shown = PrivateDesktop::waitUntil([&] { return !bubbles().isEmpty(); }, 15s);
-    settle();
+    PrivateDesktop::settle();
     tour.step(QStringLiteral("at three the notification is there"), shown);
     if (shown)
         desktop.screen().click(bubbles().first().frame.center());

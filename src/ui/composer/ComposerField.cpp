@@ -48,18 +48,10 @@ void ComposerField::keyPressEvent(QKeyEvent *event)
         QLineEdit::keyPressEvent(event);
 }
 
-void ComposerField::insertAsOneLine(const QString &text)
+void ComposerField::insertAsOneLine(QString text)
 {
-    QStringList lines;
-    qsizetype start = 0;
-    for (qsizetype i = 0; i <= text.size(); ++i) {
-        if (i < text.size() && !isLineBreak(text[i]))
-            continue;
-        if (i > start)
-            lines.append(text.sliced(start, i - start));
-        start = i + 1;
-    }
-    insert(lines.join(u' '));
+    std::replace_if(text.begin(), text.end(), isLineBreak, u'\n');
+    insert(text.split(u'\n', Qt::SkipEmptyParts).join(u' '));
 }
 
 void ComposerField::pasteAsOneLine()

@@ -24,7 +24,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    void insertAsOneLine(const QString &text);
+    void insertAsOneLine(QString text);
     void pasteAsOneLine();
 
     bool m_isComposing = false;

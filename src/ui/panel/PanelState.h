@@ -27,11 +27,14 @@ public:
     /// A note that the timeline scrolls to and flashes once.
     [[nodiscard]] std::optional<QUuid> jumpTargetID() const { return m_jumpTargetID; }
 
-    void setDraft(const QString &draft);
-    void setEditingID(std::optional<QUuid> id);
-    void setQuoting(const std::optional<Note> &note);
-    void setMode(PanelMode mode);
-    void setJumpTargetID(std::optional<QUuid> id);
+    void setDraft(const QString &draft) { set(m_draft, draft, &PanelState::draftChanged); }
+    void setEditingID(std::optional<QUuid> id) { set(m_editingID, id, &PanelState::editingIDChanged); }
+    void setQuoting(const std::optional<Note> &note) { set(m_quoting, note, &PanelState::quotingChanged); }
+    void setMode(PanelMode mode) { set(m_mode, mode, &PanelState::modeChanged); }
+    void setJumpTargetID(std::optional<QUuid> id)
+    {
+        set(m_jumpTargetID, id, &PanelState::jumpTargetIDChanged);
+    }
 
     void clearComposer() { setDraft({}); }
     void focusComposer();        ///< with the caret behind the text
@@ -48,6 +51,15 @@ Q_SIGNALS:
     void panelToggled();
 
 private:
+    template <typename Value>
+    void set(Value &member, const Value &value, void (PanelState::*changed)())
+    {
+        if (member == value)
+            return;
+        member = value;
+        Q_EMIT(this->*changed)();
+    }
+
     QString m_draft;
     std::optional<QUuid> m_editingID;
     std::optional<Note> m_quoting;
