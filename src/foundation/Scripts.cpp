@@ -1,23 +1,23 @@
 #include "foundation/Scripts.h"
 
-#include <QList>
+#include <unicode/utf16.h>
 
 #include <algorithm>
 #include <span>
 
 namespace {
 struct Block {
-    char32_t first;
-    char32_t last; ///< included
+    UChar32 first;
+    UChar32 last; ///< included
 };
 
 constexpr Block hangulBlocks[] = {{0x1100, 0x11FF}, {0x3130, 0x318F}, {0xA960, 0xA97F}, {0xAC00, 0xD7A3},
     {0xD7B0, 0xD7FF}, {0xFFA0, 0xFFDC}};
 constexpr Block kanaBlocks[] = {{0x3040, 0x30FF}, {0x31F0, 0x31FF}, {0xFF66, 0xFF9F}};
 constexpr Block hanBlocks[] = {{0x4E00, 0x9FFF}, {0x3400, 0x4DBF}, {0x20000, 0x2A6DF}, {0xF900, 0xFAFF}};
-constexpr char32_t firstEastAsian = 0x1100; ///< all blocks are above
+constexpr UChar32 firstEastAsian = 0x1100; ///< all blocks are above
 
-bool isWithin(std::span<const Block> blocks, char32_t codePoint)
+bool isWithin(std::span<const Block> blocks, UChar32 codePoint)
 {
     return std::any_of(blocks.begin(), blocks.end(),
         [codePoint](Block block) { return codePoint >= block.first && codePoint <= block.last; });
@@ -27,8 +27,10 @@ bool isWithin(std::span<const Block> blocks, char32_t codePoint)
 Scripts::EastAsian Scripts::of(QStringView text)
 {
     EastAsian found;
-    const QList<uint> codePoints = text.toUcs4();
-    for (const char32_t codePoint : codePoints) {
+    const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
+    for (qsizetype i = 0; i < text.size();) {
+        UChar32 codePoint = 0;
+        U16_NEXT(units, i, text.size(), codePoint);
         if (codePoint < firstEastAsian)
             continue;
         found.hangul = found.hangul || isWithin(hangulBlocks, codePoint);

@@ -4,19 +4,30 @@
 #include "foundation/Scripts.h"
 #include "reminders/languages/Languages.h"
 
-#include <QStringList>
-
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 namespace {
+/// The characters of a text, folded into 64 bits. A text without a bit of a marker's does not contain the
+/// marker, which spares most of some two hundred searches.
+quint64 characterSet(QStringView text)
+{
+    quint64 set = 0;
+    for (const QChar character : text)
+        set |= quint64(1) << (character.unicode() % 64);
+    return set;
+}
+
 /// A list of markers, split once.
 class Markers
 {
 public:
     Markers(WordList list, const LanguageRules &rules)
-        : m_markers(WordLists::expanded(list, rules).split(u'|', Qt::SkipEmptyParts))
     {
+        const QString markers = WordLists::expanded(list, rules);
+        for (const QStringView marker : WordLists::each(markers))
+            m_markers.push_back({marker.toString(), characterSet(marker)});
     }
     explicit Markers(const LanguageRules &rules)
         : Markers(rules.markers, rules)
@@ -25,12 +36,18 @@ public:
 
     [[nodiscard]] bool areIn(QStringView text) const
     {
-        return std::any_of(m_markers.begin(), m_markers.end(),
-            [text](const QString &marker) { return text.contains(marker); });
+        const quint64 available = characterSet(text);
+        return std::any_of(m_markers.begin(), m_markers.end(), [=](const Marker &marker) {
+            return (marker.characters & ~available) == 0 && text.contains(marker.text);
+        });
     }
 
 private:
-    QStringList m_markers;
+    struct Marker {
+        QString text;
+        quint64 characters;
+    };
+    std::vector<Marker> m_markers;
 };
 
 bool hasMarker(QStringView text, ReminderLanguage language)

@@ -7,11 +7,19 @@
 #include <algorithm>
 
 namespace {
+/// A pattern takes the first alternative that fits, so a longer one precedes its own beginning.
+void insert(QStringList &alternatives, QStringView alternative)
+{
+    const auto beginning = std::find_if(alternatives.cbegin(), alternatives.cend(),
+        [alternative](const QString &known) { return alternative.startsWith(known); });
+    alternatives.insert(beginning, alternative.toString());
+}
+
 template <typename Value>
-void append(QStringList &alternatives, const Words<Value> &table)
+void insert(QStringList &alternatives, const Words<Value> &table)
 {
     (void)WordLists::valueIf(table, [&alternatives](QStringView alternative) {
-        alternatives.append(alternative.toString());
+        insert(alternatives, alternative);
         return false;
     });
 }
@@ -26,24 +34,22 @@ QString replacement(QStringView placeholder, const LanguageRules &rules)
         return rules.grammar.time.toString();
     QStringList alternatives;
     if (placeholder == u"day") {
-        append(alternatives, rules.relativeDays);
-        alternatives += rules.grammar.pastDays.toString().split(u'|', Qt::SkipEmptyParts);
+        insert(alternatives, rules.relativeDays);
+        for (const QStringView word : WordLists::each(rules.grammar.pastDays))
+            insert(alternatives, word);
     } else if (placeholder == u"weekday") {
-        append(alternatives, rules.weekdays);
+        insert(alternatives, rules.weekdays);
     } else if (placeholder == u"month" || placeholder == u"anymonth") {
-        append(alternatives, rules.months);
+        insert(alternatives, rules.months);
         if (placeholder == u"anymonth") {
             for (const Words<int> *months : rules.grammar.otherMonths)
-                append(alternatives, *months);
+                insert(alternatives, *months);
         }
     } else if (placeholder == u"part") {
-        append(alternatives, rules.dayParts);
+        insert(alternatives, rules.dayParts);
     } else {
         qFatal("no list of words is called \"%s\"", qPrintable(placeholder.toString()));
     }
-    // A pattern takes the first alternative that fits, which must not be the beginning of a longer one.
-    std::stable_sort(alternatives.begin(), alternatives.end(),
-        [](const QString &a, const QString &b) { return a.size() > b.size(); });
     return alternatives.join(u'|');
 }
 } // namespace

@@ -49,9 +49,8 @@ std::optional<Value> valueIf(const Words<Value> &table, Predicate &&matches)
     return std::nullopt;
 }
 
-/// The text with each placeholder replaced by the alternatives that it stands for, longer ones first:
-/// <day> (today, yesterday ...), <weekday>, <month>, <anymonth> (also those of `otherMonths`) and <part>, all
-/// as the grammar knows them; <ymd>, the pattern of a date like "2026-03-05"; <date> and <time>, the patterns
-/// of the grammar.
+/// The text with each placeholder replaced by the alternatives that it stands for: <day> (today, yesterday
+/// ...), <weekday>, <month>, <anymonth> (also those of `otherMonths`) and <part>, all as the grammar knows
+/// them; <ymd>, the pattern of a date like "2026-03-05"; <date> and <time>, the patterns of the grammar.
 [[nodiscard]] QString expanded(QStringView text, const LanguageRules &rules);
 } // namespace WordLists
