@@ -1,14 +1,17 @@
-# The headers of Qt and the standard library that nearly every source reads, compiled once for all targets of a kind:
-# `core` for what stands on Qt Core alone, `gui` for what draws, `test` for the tests. That each of our own headers still
-# names what it needs is what all_verify_interface_header_sets tells, which uses none of these.
+# quillet_precompiled(<kind> HEADERS <header>... LIBRARIES <target>... [OPTIONS <option>...])
+# quillet_use_precompiled(<target> <kind>)
 #
-# GCC takes a precompiled header whose definitions do not differ in what it read; clang wants all of them alike.
+# Headers of Qt and the standard library that nearly every source reads, compiled once for all targets of a kind. Our own
+# headers still name what they need: all_verify_interface_header_sets compiles each of them alone, without these.
+#
+# Only for GCC, which takes a precompiled header as long as the definitions that it read are the same; clang wants all to
+# be the same.
 option(QUILLET_PRECOMPILED "Precompile the headers of Qt" ON)
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     set(QUILLET_PRECOMPILED OFF)
 endif()
 function(quillet_precompiled kind)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;LIBRARIES;OPTIONS")
     if(NOT QUILLET_PRECOMPILED)
         return()
     endif()
@@ -16,19 +19,23 @@ function(quillet_precompiled kind)
     add_library(quillet_precompiled_${kind} STATIC ${PROJECT_BINARY_DIR}/precompiled_${kind}.cpp)
     set_target_properties(quillet_precompiled_${kind} PROPERTIES AUTOMOC OFF AUTORCC OFF)
     target_link_libraries(quillet_precompiled_${kind} PRIVATE ${arg_LIBRARIES})
+    target_compile_options(quillet_precompiled_${kind} PRIVATE ${arg_OPTIONS})
     target_precompile_headers(quillet_precompiled_${kind} PRIVATE ${arg_HEADERS})
 endfunction()
-set(quillet_core_headers <QByteArray> <QDateTime> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString> <QTimer> <QUuid>
-    <algorithm> <array> <chrono> <functional> <memory> <optional> <span> <utility> <vector>)
-quillet_precompiled(core HEADERS ${quillet_core_headers} LIBRARIES Qt6::Core)
-quillet_precompiled(gui HEADERS ${quillet_core_headers} <QAbstractListModel> <QBoxLayout> <QEvent> <QLabel> <QMenu> <QPainter>
-    <QTextLayout> <QWidget> LIBRARIES Qt6::Widgets)
-
 function(quillet_use_precompiled target kind)
     if(QUILLET_PRECOMPILED)
         target_precompile_headers(${target} REUSE_FROM quillet_precompiled_${kind})
     endif()
 endfunction()
+
+set(quillet_core_headers
+    <QByteArray> <QDateTime> <QFile> <QHash> <QList> <QObject> <QPointer> <QSet> <QString> <QTimer> <QUuid>
+    <algorithm> <array> <chrono> <functional> <memory> <optional> <span> <utility> <vector>)
+quillet_precompiled(core HEADERS ${quillet_core_headers} LIBRARIES Qt6::Core)
+quillet_precompiled(widgets
+    HEADERS ${quillet_core_headers} <QAbstractListModel> <QBoxLayout> <QEvent> <QLabel> <QMenu> <QPainter> <QTextLayout>
+        <QWidget>
+    LIBRARIES Qt6::Widgets)
 
 # quillet_layer(<name> SOURCES <file>... [USES <layer>...] [LIBRARIES <target>...])
 #
@@ -66,7 +73,7 @@ function(quillet_layer name)
         endif()
     endforeach()
     if("Qt6::Widgets" IN_LIST arg_LIBRARIES)
-        quillet_use_precompiled(quillet_${name} gui)
+        quillet_use_precompiled(quillet_${name} widgets)
     else()
         quillet_use_precompiled(quillet_${name} core)
     endif()
@@ -74,17 +81,24 @@ function(quillet_layer name)
     set_property(GLOBAL APPEND_STRING PROPERTY QUILLET_LAYERS "${name}:${arg_USES}\n")
 endfunction()
 
-# quillet_test(<name> SOURCES <file>... LIBRARIES <target>... [OFFSCREEN])
-# One Qt Test program, run in UTC and the C locale so that no test depends on the machine's.
+# quillet_test(<name> SOURCE <file> LIBRARIES <target>... [OFFSCREEN])
+# One Qt Test program of one source, run in UTC and the C locale so that no test depends on the machine's. Tests are
+# compiled without optimisation: what they test is optimised, and compiling them takes the most of a build.
 function(quillet_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "OFFSCREEN" "" "SOURCES;LIBRARIES")
-    add_executable(${name} ${arg_SOURCES})
+    cmake_parse_arguments(PARSE_ARGV 1 arg "OFFSCREEN" "SOURCE" "LIBRARIES")
+    # moc by itself: AUTOMOC would read every source and compile one more for each test.
+    qt_generate_moc(${CMAKE_CURRENT_SOURCE_DIR}/${arg_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc TARGET ${name})
+    add_executable(${name} ${arg_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
     target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LIBRARIES})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    # What QTest brings depends on the modules of Qt that are used.
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_BINARY_DIR})
+    target_compile_options(${name} PRIVATE ${quillet_test_options})
+    # What QTest brings depends on the modules of Qt that are linked.
     if(arg_OFFSCREEN)
-        quillet_use_precompiled(${name} uitest)
-    elseif(NOT arg_LIBRARIES MATCHES "quillet_(desktop|stage)")
+        quillet_use_precompiled(${name} widgettest)
+    elseif(arg_LIBRARIES MATCHES "quillet_(desktop|stage)")
+        quillet_use_precompiled(${name} desktoptest)
+    else()
         quillet_use_precompiled(${name} test)
     endif()
     add_test(NAME ${name} COMMAND ${name})

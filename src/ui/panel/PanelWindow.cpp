@@ -69,7 +69,12 @@ void PanelWindow::expectFocusAgain()
 {
     constexpr std::chrono::seconds focusTimeout{1};
     m_reopening.setRemainingTime(focusTimeout);
+    // Deprecated since Qt 6.5 without a replacement: activateWindow() does nothing while the platform's
+    // window has the focus, and only QApplication does not know it.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
     QApplication::setActiveWindow(this);
+    QT_WARNING_POP
 }
 
 void PanelWindow::hideEvent(QHideEvent *event)
