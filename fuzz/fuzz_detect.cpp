@@ -1,4 +1,4 @@
-// A reminder always says something, on a full minute; a date stands where the detector says.
+// A reminder always has a text and fires on a full minute; detections do not overlap and report their text.
 #include "FuzzInput.h"
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"

@@ -52,7 +52,7 @@ void detect(benchmark::State &state)
         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-/// The baseline: the least that asks a draft for a time of day at all.
+/// The baseline: the cheapest test for a time of day.
 void oneRegexSearch(benchmark::State &state)
 {
     const Regex clock(QStringLiteral(R"(\d{1,2}:\d{2})"));

@@ -1,6 +1,7 @@
 #include "app/QuilletApp.h"
 
 #include "desktop/ApplicationIdentity.h"
+#include "reminders/grammar/ReminderParser.h"
 #include "ui/dialogs/ImportExport.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/panel/ContentView.h"
@@ -21,7 +22,8 @@ QuilletApp::QuilletApp(Start start)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
     , m_panel(
           [this] {
-              m_dateDetector.prepare();
+              ReminderParser::prepare();
+              DateDetector::prepare();
               m_notes.prepareSearch();
               m_appearance.follow();
               // After the tray has its icon, because this loads a library more.

@@ -56,9 +56,9 @@ std::optional<ParsedReminder> ReminderDetector::detect(
     const auto choice = choose(detections, calendar);
     if (!choice)
         return std::nullopt;
-    const bool standsInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
+    const bool isInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
     return ParsedReminder{choice->fireAt,
-        standsInFront
+        isInFront
             ? ReminderParser::content(trimmed.sliced(choice->ranges.first().end), trimmed, choice->language)
             : mergedContent(trimmed, choice->ranges, choice->language)};
 }

@@ -26,7 +26,7 @@ bool isAmOrPm(DayPart part)
     return part == DayPart::Am || part == DayPart::Pm;
 }
 
-/// Two days contradict each other, but a weekday may stand beside its date or its week.
+/// Two days contradict each other, except a weekday beside its date or its week.
 bool sayTwoDays(const DateFacts &a, const DateFacts &b)
 {
     if (!a.saysDay() || !b.saysDay())

@@ -16,7 +16,7 @@ struct DateWord {
         Part,
         Unit,
         WeekdayAndPart,
-        Role, ///< stands around a date rather than in it
+        Role, ///< around a date rather than in it
         Literal,
     };
 
@@ -32,7 +32,7 @@ struct DateWord {
     [[nodiscard]] static DateWord joined(int weekday, DayPart part);
 };
 
-/// What stands in angle brackets in a rule.
+/// A placeholder for a word in a rule, such as <hour>.
 struct DateSlot {
     QStringView name;
     DateWord::Kind kind; ///< of the words that it accepts

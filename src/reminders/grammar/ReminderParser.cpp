@@ -71,7 +71,7 @@ std::optional<Calendar::Day> resolveWeekday(
 {
     QString name = lowered;
     bool hasNext = false;
-    for (const QStringView marker : rules.grammar.next.tokenize(u'|', Qt::SkipEmptyParts)) {
+    for (const QStringView marker : WordLists::each(rules.grammar.next)) {
         if (name.contains(marker)) {
             name.remove(marker.toString());
             hasNext = true;
@@ -162,6 +162,11 @@ QStringView withoutLeadingSpace(QStringView text)
     return text;
 }
 } // namespace
+
+void ReminderParser::prepare()
+{
+    (void)Expression::of(ReminderLanguage::English);
+}
 
 std::optional<Calendar::Day> ReminderParser::resolveDay(
     std::optional<QStringView> dateToken, Instant now, const Calendar &calendar, ReminderLanguage language)
