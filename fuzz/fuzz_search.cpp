@@ -1,7 +1,8 @@
-// What the index finds in two texts is what the plain rules find. The first line is the query, the second one
-// text, the rest the other.
+// The search in slices finds in two texts what the plain rules find. The first line is the query, the second
+// one text, the rest the other.
 #include "FuzzInput.h"
 #include "search/ConceptEmbeddingProvider.h"
+#include "search/PlainRanking.h"
 #include "search/RankedSearch.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -12,11 +13,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QList<SemanticCandidate> texts{
         {QUuid(1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), rest.first(std::max<qsizetype>(0, end))},
         {QUuid(2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), rest.sliced(end + 1)}};
-    const auto queryVector = provider.sentenceVector(query);
 
     SearchIndex index;
-    index.setOrder(texts);
-    RankedSearch search(index, &provider, texts, {query, queryVector, 2, 2, {}});
+    index.setProvider(&provider);
+    index.setCandidates(texts);
+    const RankedSearch::Request request{query, index.queryVector(query), 2, 2};
+    RankedSearch search(index, request);
     while (!search.advance(QDeadlineTimer(0))) {
     }
     QHash<QUuid, SemanticSearch::Vector> vectors;
@@ -24,9 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         if (const auto vector = provider.sentenceVector(text.text))
             vectors.insert(text.id, *vector);
     }
-    const auto plain = SemanticSearch::rankMatches(query, texts, queryVector, vectors, 2, 2);
-    require(size_t(plain.size()) == search.matches().size());
-    for (size_t i = 0; i < search.matches().size(); ++i)
-        require(search.matches()[i].score == plain[qsizetype(i)]);
+    const auto plain = PlainRanking::rankMatches(query, texts, request.queryVector, vectors, 2, 2);
+    require(std::ranges::equal(search.matches(), plain));
     return 0;
 }

@@ -1,5 +1,6 @@
 // How well notes are found by what they mean, how fast, and how much is kept for it.
 #include "model/NoteCoding.h"
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "search/SearchEvaluation.h"
 #include "support/ManyNotes.h"
@@ -74,6 +75,7 @@ public:
     explicit Store(int count)
         : m_clock("2026-03-04T02:00:00Z")
         , notes(m_folder.filePath(QStringLiteral("notes.json")), m_clock)
+        , search(notes, &SearchEvaluation::provider(), m_clock)
     {
         const QStringList texts = SearchEvaluation::haystack(300);
         QList<Note> made = manyNotes(count);
@@ -83,7 +85,14 @@ public:
                            + QStringLiteral(" %1").arg(i % 1000);
         }
         notes.importNotes(made);
-        notes.setEmbeddingProvider(&SearchEvaluation::provider());
+    }
+
+    /// As the timeline asks, but in one slice.
+    QList<SemanticHit> matches(const QString &query)
+    {
+        SemanticMatches matches = search.semanticMatches(query, 20);
+        matches.advance();
+        return matches.hits();
     }
 
 private:
@@ -92,6 +101,7 @@ private:
 
 public:
     NoteStore notes;
+    NoteSearch search;
 };
 
 Store &store(int count)
@@ -119,50 +129,50 @@ void plainScan(benchmark::State &state)
 
 void substringPass(benchmark::State &state)
 {
-    const NoteStore &notes = store(int(state.range(0))).notes;
-    benchmark::DoNotOptimize(notes.daySections(noNoteHas));
+    NoteSearch &search = store(int(state.range(0))).search;
+    benchmark::DoNotOptimize(search.daySections(noNoteHas));
     for (auto _ : state)
-        benchmark::DoNotOptimize(notes.daySections(noNoteHas));
+        benchmark::DoNotOptimize(search.daySections(noNoteHas));
 }
 
 void firstUse(benchmark::State &state)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        const Store fresh(int(state.range(0)));
+        Store fresh(int(state.range(0)));
         state.ResumeTiming();
-        benchmark::DoNotOptimize(fresh.notes.semanticMatches(noNoteHas, 20));
+        benchmark::DoNotOptimize(fresh.matches(noNoteHas));
     }
 }
 
 void withoutLiteralMatch(benchmark::State &state)
 {
-    const NoteStore &notes = store(int(state.range(0))).notes;
-    benchmark::DoNotOptimize(notes.semanticMatches(noNoteHas, 20));
+    Store &notes = store(int(state.range(0)));
+    benchmark::DoNotOptimize(notes.matches(noNoteHas));
     for (auto _ : state)
-        benchmark::DoNotOptimize(notes.semanticMatches(noNoteHas, 20));
+        benchmark::DoNotOptimize(notes.matches(noNoteHas));
 }
 
 void relatedNotes(benchmark::State &state)
 {
-    const NoteStore &notes = store(int(state.range(0))).notes;
+    Store &of = store(int(state.range(0)));
     qsizetype next = 0;
-    benchmark::DoNotOptimize(notes.relatedNotes(notes.notes().front(), 5));
+    benchmark::DoNotOptimize(of.search.relatedNotes(of.notes.notes().front(), 5));
     for (auto _ : state)
-        benchmark::DoNotOptimize(notes.relatedNotes(notes.notes()[next++ % 300], 5));
+        benchmark::DoNotOptimize(of.search.relatedNotes(of.notes.notes()[next++ % 300], 5));
 }
 
 /// What the first key press after a change has to work out anew.
 void afterChange(benchmark::State &state)
 {
-    NoteStore &notes = store(int(state.range(0))).notes;
-    benchmark::DoNotOptimize(notes.semanticMatches(noNoteHas, 20));
+    Store &of = store(int(state.range(0)));
+    benchmark::DoNotOptimize(of.matches(noNoteHas));
     for (auto _ : state) {
         state.PauseTiming();
-        const Note note = notes.notes().front();
-        notes.update(note.id, note.text + u'x');
+        const Note note = of.notes.notes().front();
+        of.notes.update(note.id, note.text + u'x');
         state.ResumeTiming();
-        benchmark::DoNotOptimize(notes.semanticMatches(noNoteHas, 20));
+        benchmark::DoNotOptimize(of.matches(noNoteHas));
     }
 }
 
@@ -178,25 +188,24 @@ void oneSubject(benchmark::State &state)
                                                + SearchEvaluation::haystack(300)[i * 7 % 300]});
     }
     SearchIndex index;
-    index.setOrder(notes);
-    const RankedSearch::Request request{
-        noNoteHas, SearchEvaluation::provider().sentenceVector(noNoteHas), 20, 2, {}};
-    RankedSearch(index, &SearchEvaluation::provider(), notes, request).advance();
+    index.setProvider(&SearchEvaluation::provider());
+    index.setCandidates(notes);
+    SemanticMatches(index, noNoteHas, 20).advance();
     for (auto _ : state) {
         index.baseline.reset();
-        RankedSearch(index, &SearchEvaluation::provider(), notes, request).advance();
+        SemanticMatches(index, noNoteHas, 20).advance();
     }
 }
 
 void memory(benchmark::State &state)
 {
-    const Store fresh(int(state.range(0)));
-    benchmark::DoNotOptimize(fresh.notes.daySections(QString()));
+    Store fresh(int(state.range(0)));
+    benchmark::DoNotOptimize(fresh.search.daySections(QString()));
     benchmark::DoNotOptimize(SearchEvaluation::provider().sentenceVector(noNoteHas));
     malloc_trim(0);
     const auto before = mallinfo2();
     for (auto _ : state)
-        benchmark::DoNotOptimize(fresh.notes.semanticMatches(noNoteHas, 20));
+        benchmark::DoNotOptimize(fresh.matches(noNoteHas));
     malloc_trim(0);
     const auto after = mallinfo2();
     const double held = double(after.uordblks + after.hblkhd) - double(before.uordblks + before.hblkhd);

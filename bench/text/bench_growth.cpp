@@ -71,7 +71,7 @@ QList<Function> functions()
         {"fold", [](const QString &text) { use(CaseFolding::folded(text)); }},
         {"segments", [](const QString &text) { use(NoteHighlighting::segments(text)); }},
         {"segments, query", [](const QString &text) { use(NoteHighlighting::segments(text, u"s a")); }},
-        {"tags", [](const QString &text) { use(NoteHighlighting::tags(text)); }},
+        {"tags", [](const QString &text) { use(TagEditing::tokens(text)); }},
         {"replacingTag", [](const QString &text) { use(TagEditing::replacingTag(text, u"a", u"bc")); }},
         {"removingTag", [](const QString &text) { use(TagEditing::removingTag(text, u"a")); }},
         {"activeToken", [](const QString &text) { use(TagCompletion::activeToken(text, text.size())); }},

@@ -20,22 +20,22 @@ QuilletApp::QuilletApp(Start start)
     , m_notifications(m_clock)
     , m_reminders(ReminderStore::defaultFilePath(), m_notifications, m_clock)
     , m_notes(NoteStore::defaultFilePath(), m_clock)
+    , m_search(m_notes, &m_embeddings, m_clock)
     , m_panel(
           [this] {
               ReminderParser::prepare();
               DateDetector::prepare();
-              m_notes.prepareSearch();
+              m_search.prepare();
               m_appearance.follow();
               // After the tray has its icon, because this loads a library more.
               QApplication::setWindowIcon(
                   QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
-              return new ContentView(m_notes, m_reminders, m_dateDetector, m_titles, m_clock);
+              return new ContentView(m_notes, m_search, m_reminders, m_dateDetector, m_titles, m_clock);
           },
           [this] { return m_statusBar.iconRect(); })
     , m_delegate(m_notes, m_panel)
 {
     m_notes.setReminderStore(&m_reminders);
-    m_notes.setEmbeddingProvider(&m_embeddings);
     connectAll();
     if (start != Start::Hidden)
         connect(&m_statusBar, &StatusBarMenu::trayMissing, &m_panel, &PanelController::open);

@@ -9,6 +9,7 @@
 #include "desktop/DesktopNotificationCenter.h"
 #include "desktop/PageTitleFetcher.h"
 #include "foundation/Clock.h"
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "reminders/dates/DateDetector.h"
@@ -46,6 +47,7 @@ private:
     // Data
     ReminderStore m_reminders;
     NoteStore m_notes;
+    NoteSearch m_search;
     // User interface
     PanelController m_panel;
     StatusBarMenu m_statusBar;

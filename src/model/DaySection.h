@@ -1,13 +1,12 @@
 #pragma once
 
 #include "foundation/Instant.h"
-#include "model/Note.h"
 
 #include <QList>
 
-/// The notes of one calendar day.
+/// One calendar day and its notes.
 struct DaySection {
-    Instant day; ///< the day's first moment
-    QList<Note> notes;
+    Instant day;            ///< the day's first moment
+    QList<qsizetype> notes; ///< indexes into the list that was grouped
     bool operator==(const DaySection &) const = default;
 };

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "model/Note.h"
 #include "search/SemanticSearch.h"
 
 /// A note that answers a query, and why.
 struct SemanticHit {
-    Note note;
+    qsizetype note = 0; ///< index into NoteStore::notes()
     SemanticHitKind kind = SemanticHitKind::Substring;
     bool operator==(const SemanticHit &) const = default;
 };

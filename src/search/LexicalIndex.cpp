@@ -8,7 +8,7 @@
 #include <cstring>
 
 namespace {
-constexpr char separator = '\xFF'; // stands in no UTF-8
+constexpr char separator = '\xFF'; // never occurs in UTF-8
 
 void appendNumber(std::vector<quint8> &bytes, quint32 number)
 {
@@ -17,7 +17,7 @@ void appendNumber(std::vector<quint8> &bytes, quint32 number)
     bytes.push_back(quint8(number));
 }
 
-/// Lets go of room that growth has left over.
+/// Releases capacity left over from growth.
 template <typename T>
 void squeeze(std::vector<T> &list)
 {
@@ -28,9 +28,8 @@ void squeeze(std::vector<T> &list)
 
 void LexicalIndex::setOrder(const QList<SemanticCandidate> &texts)
 {
-    constexpr size_t littleWaste = 65536;
-    if (m_deadBytes > littleWaste && m_deadBytes > m_folded.size() / 2)
-        dropDead();
+    if (m_deadBytes > m_wasteLimit && m_deadBytes > m_folded.size() / 2)
+        compact();
     m_order.clear();
     m_order.reserve(size_t(texts.size()));
     m_numbers.reserve(texts.size());
@@ -68,9 +67,9 @@ void LexicalIndex::drop(QUuid id)
     m_numbers.erase(found);
 }
 
-void LexicalIndex::dropDead()
+void LexicalIndex::compact()
 {
-    LexicalIndex kept;
+    LexicalIndex kept(m_wasteLimit);
     std::vector<quint32> newNumbers(m_documents.size());
     for (size_t number = 0; number < m_documents.size(); ++number) {
         Document document = m_documents[number];
@@ -96,7 +95,7 @@ void LexicalIndex::dropDead()
 
 QList<qsizetype> LexicalIndex::containing(QStringView query) const
 {
-    const QByteArray wanted = CaseFolding::folded(query).toUtf8();
+    const QByteArray wanted = prepared(query);
     std::vector<bool> isHit(m_documents.size());
     const char *const begin = m_folded.data();
     const char *const end = begin + m_folded.size();
@@ -106,33 +105,43 @@ QList<qsizetype> LexicalIndex::containing(QStringView query) const
             static_cast<const char *>(memmem(from, size_t(end - from), wanted.data(), size_t(wanted.size())));
         if (!hit)
             break;
-        // The document that the hit lies in: mostly near the last one, so in steps that double.
-        const auto liesBehind = [&](const Document &each) { return begin + each.begin <= hit; };
+        // The document of the hit is mostly near the previous one, hence the search in doubling steps.
+        const auto startsBefore = [&](const Document &each) { return begin + each.begin <= hit; };
         qsizetype step = 1;
-        while (m_documents.end() - document > step && liesBehind(*(document + step))) {
+        while (m_documents.end() - document > step && startsBefore(*(document + step))) {
             document += step;
             step *= 2;
         }
         const auto limit = document + std::min(step, qsizetype(m_documents.end() - document));
-        document = std::partition_point(document, limit, liesBehind) - 1;
+        document = std::partition_point(document, limit, startsBefore) - 1;
         isHit[size_t(document - m_documents.begin())] = true;
         from = begin + document->begin + document->size + 1;
     }
-    QList<qsizetype> places;
-    for (size_t place = 0; place < m_order.size(); ++place) {
-        if (isHit[m_order[place]])
-            places.append(qsizetype(place));
+    QList<qsizetype> indexes;
+    for (size_t index = 0; index < m_order.size(); ++index) {
+        if (isHit[m_order[index]])
+            indexes.append(qsizetype(index));
     }
-    return places;
+    return indexes;
 }
 
-void LexicalIndex::readWords(qsizetype place, const QString &text)
+bool LexicalIndex::contains(qsizetype index, QByteArrayView query) const
 {
-    const quint32 number = m_order[size_t(place)];
+    return folded(document(index)).contains(query);
+}
+
+QByteArray LexicalIndex::prepared(QStringView query)
+{
+    return CaseFolding::folded(query.trimmed()).toUtf8();
+}
+
+void LexicalIndex::readWords(qsizetype index, const QString &text)
+{
+    const quint32 number = m_order[size_t(index)];
     Document &document = m_documents[number];
     const QString lower = text.toLower();
     const QByteArray bytes = lower.toUtf8();
-    if (bytes != QByteArrayView(m_folded.data() + document.begin, document.size))
+    if (bytes != folded(document))
         m_lowered.insert(number, bytes);
     document.isSingleCodePoints = Characters::areSingleCodePoints(lower);
 
@@ -149,12 +158,11 @@ void LexicalIndex::readWords(qsizetype place, const QString &text)
     document.wordsSize = quint32(m_words.size()) - document.wordsBegin;
 }
 
-LexicalIndex::Lexis LexicalIndex::lexis(qsizetype place) const
+LexicalIndex::Lexis LexicalIndex::lexis(qsizetype index) const
 {
-    const quint32 number = m_order[size_t(place)];
+    const quint32 number = m_order[size_t(index)];
     const Document &found = m_documents[number];
     const auto lowered = m_lowered.constFind(number);
-    return {lowered != m_lowered.cend() ? QByteArrayView(*lowered)
-                                        : QByteArrayView(m_folded.data() + found.begin, found.size),
+    return {lowered != m_lowered.cend() ? QByteArrayView(*lowered) : folded(found),
         std::span(m_words).subspan(found.wordsBegin, found.wordsSize), found.isSingleCodePoints};
 }

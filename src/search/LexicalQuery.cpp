@@ -17,7 +17,7 @@ quint64 pairOf(char32_t first, char32_t second)
     return quint64(first) << 32 | second;
 }
 
-/// The code point that starts at @p at in well-formed UTF-8; moves behind it.
+/// Decodes the code point at @p at, which must be well-formed UTF-8, and advances past it.
 char32_t nextCodePoint(const char *&at)
 {
     const auto byte = [&at](int index) { return char32_t(quint8(at[index])); };
@@ -56,7 +56,8 @@ bool isLetterOrNumber(char32_t codePoint)
     return isCommonHan || QChar::isLetterOrNumber(codePoint);
 }
 
-/// Those pairs whose characters are one code point each: the others occur only in texts that are not.
+/// The pairs whose characters are one code point each. Others occur only in texts that are not
+/// Lexis::isSingleCodePoints.
 std::vector<quint64> codePointPairs(const QSet<QString> &pairs)
 {
     std::vector<quint64> found;
@@ -90,7 +91,7 @@ LexicalQuery::PairSet::PairSet(const std::vector<quint64> &pairs)
     }
 }
 
-bool LexicalQuery::PairSet::meets(quint64 pair, quint32 round)
+bool LexicalQuery::PairSet::isNewIn(quint32 round, quint64 pair)
 {
     for (size_t at = pair * 0x9E3779B97F4A7C15u >> 20 & (m_slots.size() - 1); m_slots[at].pair != 0;
          at = (at + 1) & (m_slots.size() - 1)) {
@@ -155,7 +156,7 @@ int LexicalQuery::sharedPairs(const LexicalIndex::Lexis &text)
         const char32_t codePoint = nextCodePoint(at);
         if (!isLetterOrNumber(codePoint))
             continue;
-        if (previous != 0 && m_codePointPairs.meets(pairOf(previous, codePoint), m_round))
+        if (previous != 0 && m_codePointPairs.isNewIn(m_round, pairOf(previous, codePoint)))
             ++shared;
         previous = codePoint;
     }

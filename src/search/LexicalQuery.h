@@ -8,27 +8,28 @@
 
 #include <vector>
 
-/// A query made ready to be compared with many texts.
+/// A query prepared for comparison with many texts.
 class LexicalQuery
 {
 public:
     explicit LexicalQuery(const QString &query);
 
     [[nodiscard]] bool isEmpty() const { return m_lower.isEmpty(); }
-    /// The lexical score of SemanticSearch::rankMatches.
+    /// 100 for containing the query, 3 for each shared word, 1 for each shared pair of characters.
     [[nodiscard]] double score(const LexicalIndex::Lexis &text);
 
 private:
-    /// A set of pairs of code points that also tells whether a member has been met in the present text.
+    /// A set of pairs of code points that counts each member once per text.
     class PairSet
     {
     public:
         explicit PairSet(const std::vector<quint64> &pairs);
-        [[nodiscard]] bool meets(quint64 pair, quint32 round);
+        /// Whether the pair is a member that has not been asked for in this round.
+        [[nodiscard]] bool isNewIn(quint32 round, quint64 pair);
 
     private:
         struct Slot {
-            quint64 pair = 0; ///< 0 is an empty slot: no letter has the code 0
+            quint64 pair = 0; ///< 0 marks an empty slot: no letter has the code 0
             quint32 round = 0;
         };
         std::vector<Slot> m_slots; ///< open addressing; at least twice as many as pairs
@@ -38,8 +39,8 @@ private:
     [[nodiscard]] int sharedPairs(const LexicalIndex::Lexis &text);
 
     QByteArray m_lower;
-    QHash<QByteArray, quint32> m_words; ///< with the round in which each has last been met
-    std::vector<bool> m_wordShapes;     ///< by first byte and length: which words are worth looking up
+    QHash<QByteArray, quint32> m_words; ///< with the round in which each was last found
+    std::vector<bool> m_wordShapes;     ///< by first byte and length: whether a word is worth looking up
     QSet<QString> m_pairs;
     PairSet m_codePointPairs;
     quint32 m_round = 0; ///< one for each text

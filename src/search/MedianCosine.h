@@ -7,24 +7,24 @@
 
 #include <vector>
 
-/// The baseline of SemanticSearch, exact, without a cosine for each pair where that can be: worked out in
-/// slices, so that a key press need not wait for it.
+/// The baseline of a search: the exact median of the cosines of all pairs of vectors, 0 when no pair has a
+/// cosine. Computed in slices, so that typing never waits for it, and without a cosine per pair if possible.
 ///
-/// Where more than half of the pairs are sure to have one and the same cosine, that is the median: the
-/// vectors agree in the axes that all have, and most pairs share no other. Otherwise the pairs are gone
-/// through, equal vectors together and many at a time; only those near the median are kept apart.
+/// If more than half of the pairs certainly have one and the same cosine, that is the median: the vectors
+/// agree in the axes that all of them have, and most pairs share no other axis. Otherwise all pairs are
+/// visited, equal vectors as one and many at a time; only cosines near the median are stored.
 class MedianCosine
 {
 public:
-    /// What the vectors show must live as long as this.
+    /// The cache that the vectors show must not change while this exists.
     explicit MedianCosine(const std::vector<SparseVector> &vectors);
 
-    /// Works on until it is done or the time is over; whether it is done.
+    /// Works until it is done or @p deadline has expired; returns whether it is done.
     bool advance(const QDeadlineTimer &deadline);
     [[nodiscard]] double value() const { return m_value; }
 
 private:
-    /// Vectors that are the same.
+    /// Equal vectors.
     struct Group {
         SparseVector vector;
         quint64 count = 0;
@@ -47,12 +47,12 @@ private:
     double m_value = 0;
     bool m_isDone = false;
 
-    // The pass that is under way.
+    // The current pass.
     Window m_window{};
-    size_t m_block = 0; ///< the first of the groups that the others are compared with
+    size_t m_block = 0; ///< the first of the groups with which the others are compared
     size_t m_other = 0;
     std::vector<double> m_columns; ///< the block's values, axis by axis
-    quint64 m_below = 0;           ///< pairs whose cosine lies below the window
+    quint64 m_below = 0;           ///< number of pairs with a cosine below the window
     quint64 m_total = 0;
-    QHash<quint64, quint64> m_inside; ///< pairs by the bits of their cosine
+    QHash<quint64, quint64> m_inside; ///< number of pairs by the bits of their cosine
 };

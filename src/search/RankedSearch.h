@@ -8,9 +8,15 @@
 
 #include <memory>
 
-/// SemanticSearch::rankMatches over the texts of an index, worked out in slices.
+/// Ranks the candidates of an index by how much they resemble a query, in slices.
 ///
-/// Not to be used any more once the index has changed by other hands.
+/// A candidate's lexical score counts shared words and pairs of characters; its relative score is the cosine
+/// of its vector and the query's minus the baseline, the median cosine among the candidates. A candidate
+/// without lexical score is admitted if its relative score exceeds SemanticSearch::admission, as long as the
+/// cap allows; the cap is filled in the order of the candidates, not by the best.
+///
+/// Between slices the texts and the order of the index must not change. Once all texts have been read, no
+/// vector may be added or dropped either, since the baseline keeps views into the vector cache.
 class RankedSearch
 {
 public:
@@ -19,48 +25,48 @@ public:
         std::optional<SemanticSearch::Vector> queryVector;
         qsizetype limit = 0;
         qsizetype semanticOnlyCap = 0;
-        std::optional<QUuid> except; ///< a text of the order that is no candidate
+        std::optional<QUuid> except = {}; ///< a candidate to leave out
+        /// The baseline shifts all relative scores alike. Where no candidate is admitted by its vector alone
+        /// and only the order matters, it need not be subtracted and mostly not be computed.
+        bool onlyOrderMatters = false;
     };
 
-    /// @p texts are those of the index, in its order. Makes the vectors that are missing; without a provider
-    /// there are those that the index has.
-    RankedSearch(SearchIndex &index, SentenceEmbeddingProviding *provider, QList<SemanticCandidate> texts,
-        const Request &request);
+    /// The index must outlive the search.
+    RankedSearch(SearchIndex &index, const Request &request);
 
-    /// Works on until it is done or the time is over; whether it is done.
+    /// Works until it is done or @p deadline has expired; returns whether it is done.
     bool advance(const QDeadlineTimer &deadline = QDeadlineTimer(QDeadlineTimer::Forever));
-    struct Match {
-        qsizetype place = 0; ///< in the order of the texts
-        ScoredMatch score;
-    };
-    /// The best first, once it is done.
-    [[nodiscard]] const std::vector<Match> &matches() const { return m_matches; }
+    /// Best first. Empty until it is done.
+    [[nodiscard]] const std::vector<ScoredMatch> &matches() const { return m_matches; }
 
 private:
     enum class Stage { Reading, Baseline, Comparing, Settling, Done };
-    void read(qsizetype place);
-    void prepareBaseline();
-    void compare(qsizetype place);
-    [[nodiscard]] std::vector<SparseVector> candidateVectors() const;
-    [[nodiscard]] qsizetype resultSize() const;
-    void sortBest();
+    [[nodiscard]] bool isIndexUnchanged() const;
+    [[nodiscard]] std::unique_ptr<MedianCosine> medianOfCandidates();
+    void beginBaseline();
+    void compare(qsizetype index);
+    void endComparing();
     [[nodiscard]] bool hasCloseScores() const;
     void settle();
+    void finish();
+    [[nodiscard]] qsizetype resultSize() const;
+    void sortBest();
 
     SearchIndex &m_index;
-    SentenceEmbeddingProviding *m_provider;
-    QList<SemanticCandidate> m_texts;
     qsizetype m_limit;
     qsizetype m_semanticOnlyLeft;
     std::optional<QUuid> m_except;
     LexicalQuery m_query;
+    QByteArray m_preparedQuery; ///< for LexicalIndex::contains()
     std::optional<VectorQuery> m_vector;
-    std::vector<bool> m_contains; ///< by place: case aside
     bool m_needsBaseline;
+    quint64 m_indexRevision;
+    quint64 m_vectorRevision = 0; ///< when m_median was made
 
     Stage m_stage = Stage::Reading;
-    qsizetype m_next = 0; ///< the place that is next in this stage
+    qsizetype m_next = 0; ///< the next candidate in this stage
     std::unique_ptr<MedianCosine> m_median;
     double m_baseline = 0;
-    std::vector<Match> m_matches;
+    std::vector<ScoredMatch> m_scored;
+    std::vector<ScoredMatch> m_matches;
 };

@@ -1,7 +1,22 @@
 #include "search/SearchIndex.h"
 
+void SearchIndex::setProvider(SentenceEmbeddingProviding *provider)
+{
+    m_provider = provider;
+    m_vectorless.clear();
+}
+
+void SearchIndex::setCandidates(const QList<SemanticCandidate> &candidates)
+{
+    ++m_revision;
+    m_candidates = candidates;
+    texts.setOrder(candidates);
+    baseline.reset();
+}
+
 void SearchIndex::dropText(QUuid id)
 {
+    ++m_revision;
     texts.drop(id);
     m_vectorless.remove(id);
 }
@@ -12,20 +27,27 @@ void SearchIndex::dropVector(QUuid id)
     baseline.reset();
 }
 
-void SearchIndex::setOrder(const QList<SemanticCandidate> &candidates)
+void SearchIndex::read(qsizetype index)
 {
-    texts.setOrder(candidates);
-    baseline.reset();
+    const SemanticCandidate &candidate = m_candidates[index];
+    if (!texts.hasWords(index))
+        texts.readWords(index, candidate.text);
+    makeVector(candidate);
 }
 
-void SearchIndex::makeVector(const SemanticCandidate &text, SentenceEmbeddingProviding &provider)
+void SearchIndex::makeVector(const SemanticCandidate &text)
 {
-    if (vectors.contains(text.id) || m_vectorless.contains(text.id))
+    if (!m_provider || vectors.contains(text.id) || m_vectorless.contains(text.id))
         return;
-    if (const auto vector = provider.sentenceVector(text.text)) {
+    if (const auto vector = m_provider->sentenceVector(text.text)) {
         vectors.insert(text.id, *vector);
         baseline.reset();
     } else {
         m_vectorless.insert(text.id);
     }
+}
+
+std::optional<SemanticSearch::Vector> SearchIndex::queryVector(const QString &query) const
+{
+    return m_provider ? m_provider->sentenceVector(query.trimmed()) : std::nullopt;
 }

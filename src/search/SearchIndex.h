@@ -6,27 +6,40 @@
 
 #include <QSet>
 
-/// All that is kept about texts to find them: what follows from the text itself, and the sentence vectors,
-/// which their owner may keep longer.
+/// Everything kept about texts in order to find them: data derived from the texts themselves, and their
+/// sentence vectors, which the owner may keep longer.
 class SearchIndex
 {
 public:
-    /// Both to be called when the text changes; the vector's rules are the owner's.
+    /// Without a provider there are only the vectors that are put into the cache by hand. Cached vectors stay
+    /// when the provider changes. It must outlive the index.
+    void setProvider(SentenceEmbeddingProviding *provider);
+
+    /// The texts in the order in which results come. Must be set again after dropText(), before any search.
+    void setCandidates(const QList<SemanticCandidate> &candidates);
+    [[nodiscard]] const QList<SemanticCandidate> &candidates() const { return m_candidates; }
+    /// Call both when a text has changed or is gone; when a vector is dropped is the owner's decision.
     void dropText(QUuid id);
     void dropVector(QUuid id);
-    /// The texts in the order in which results come; to be called after a change before anything is asked.
-    void setOrder(const QList<SemanticCandidate> &texts);
 
-    /// Keeps the vector that the provider makes of the text, unless there is one already.
-    void makeVector(const SemanticCandidate &text, SentenceEmbeddingProviding &provider);
-    /// To be called when the provider is another.
-    void forgetVectorless() { m_vectorless.clear(); }
+    /// Makes sure that the words of the candidate, and its vector if it has one, are known.
+    void read(qsizetype index);
+    /// Caches the vector of the text, if there is one and it is not cached yet.
+    void makeVector(const SemanticCandidate &text);
+    /// Not cached.
+    [[nodiscard]] std::optional<SemanticSearch::Vector> queryVector(const QString &query) const;
 
     LexicalIndex texts;
     VectorCache vectors;
-    /// The median cosine of the vectors in the order, once it has been worked out.
+    /// The median cosine of the candidates' vectors, once it has been computed.
     std::optional<double> baseline;
 
+    /// Grows with each change of texts or order.
+    [[nodiscard]] quint64 revision() const { return m_revision; }
+
 private:
-    QSet<QUuid> m_vectorless; ///< of whose texts the provider makes no vector
+    SentenceEmbeddingProviding *m_provider = nullptr;
+    QList<SemanticCandidate> m_candidates;
+    QSet<QUuid> m_vectorless; ///< texts for which the provider yields no vector
+    quint64 m_revision = 0;
 };

@@ -3,12 +3,12 @@
 void VectorCache::insert(QUuid id, const Vector &vector)
 {
     remove(id);
-    constexpr size_t littleWaste = 65536;
-    if (m_dead > littleWaste && m_dead > m_values.size() / 2)
-        dropDead();
+    ++m_revision;
+    if (m_dead > m_wasteLimit && m_dead > m_values.size() / 2)
+        compact();
     Entry entry{m_values.size(), 0, quint32(vector.size()), SemanticSearch::norm(vector)};
     for (qsizetype axis = 0; axis < vector.size(); ++axis) {
-        // Zeros add nothing to a sum of products: what is left out changes no bit of a result.
+        // Zeros add nothing to a sum of products, so leaving them out changes no bit of a result.
         if (vector[axis] != 0.0) {
             m_axes.push_back(quint32(axis));
             m_values.push_back(vector[axis]);
@@ -23,11 +23,12 @@ void VectorCache::remove(QUuid id)
     const auto found = m_entries.constFind(id);
     if (found == m_entries.cend())
         return;
+    ++m_revision;
     m_dead += found->count;
     m_entries.erase(found);
 }
 
-void VectorCache::dropDead()
+void VectorCache::compact()
 {
     std::vector<quint32> axes;
     std::vector<double> values;

@@ -2,16 +2,37 @@
 
 #include "foundation/CaseFolding.h"
 #include "foundation/Regex.h"
+#include "text/TagEditing.h"
 
 namespace {
-/// Group 1 is a tag, group 2 a number: money, a date, a time.
-const Regex &pattern()
+using NoteHighlighting::SegmentKind;
+
+/// Amounts of money, calendar dates and clock times. Neither holds a "#", so that no match reaches into a
+/// tag.
+const Regex &numberPattern()
 {
-    static const Regex regex(QStringLiteral(R"((#[^\s#@]+)|)"
-                                            R"(([¥$€£]\s?\d[\d,]*(?:\.\d+)?)"
+    static const Regex regex(QStringLiteral(R"([¥$€£]\s?\d[\d,]*(?:\.\d+)?)"
                                             R"(|\d{4}[-/年]\d{1,2}[-/月]\d{1,2}日?)"
-                                            R"(|\d{1,2}:\d{2}))"));
+                                            R"(|\d{1,2}:\d{2})"));
     return regex;
+}
+
+void appendPlain(QStringView text, QList<NoteHighlighting::Segment> &out)
+{
+    if (!text.isEmpty())
+        out.append({SegmentKind::Plain, text.toString()});
+}
+
+void appendWithoutTags(QStringView text, QList<NoteHighlighting::Segment> &out)
+{
+    qsizetype cursor = 0;
+    for (const Regex::Match &match : numberPattern().allMatches(text)) {
+        const TextRange range = match.range();
+        appendPlain(text.sliced(cursor, range.start - cursor), out);
+        out.append({SegmentKind::Number, text.sliced(range.start, range.length()).toString()});
+        cursor = range.end;
+    }
+    appendPlain(text.sliced(cursor), out);
 }
 } // namespace
 
@@ -19,19 +40,12 @@ QList<NoteHighlighting::Segment> NoteHighlighting::segments(QStringView text)
 {
     QList<Segment> result;
     qsizetype cursor = 0;
-    const auto appendPlainUpTo = [&](qsizetype end) {
-        if (end > cursor)
-            result.append({SegmentKind::Plain, text.sliced(cursor, end - cursor).toString()});
-        cursor = end;
-    };
-    for (const Regex::Match &match : pattern().allMatches(text)) {
-        const TextRange range = match.range();
-        appendPlainUpTo(range.start);
-        const SegmentKind kind = match.group(1) ? SegmentKind::Tag : SegmentKind::Number;
-        result.append({kind, text.sliced(range.start, range.length()).toString()});
-        cursor = range.end;
+    for (const TagEditing::Token &tag : TagEditing::tokens(text)) {
+        appendWithoutTags(text.sliced(cursor, tag.range.start - cursor), result);
+        result.append({SegmentKind::Tag, tag.text});
+        cursor = tag.range.end;
     }
-    appendPlainUpTo(text.size());
+    appendWithoutTags(text.sliced(cursor), result);
     return result;
 }
 
@@ -49,14 +63,4 @@ QList<NoteHighlighting::Segment> NoteHighlighting::segments(QStringView text, QS
         cursor = hit.end;
     }
     return result += segments(text.sliced(cursor));
-}
-
-QStringList NoteHighlighting::tags(QStringView text)
-{
-    QStringList result;
-    for (const Segment &segment : segments(text)) {
-        if (segment.kind == SegmentKind::Tag)
-            result.append(segment.text);
-    }
-    return result;
 }

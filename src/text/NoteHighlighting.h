@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 /// Cuts a note's text into the runs that are told apart by colour.
 namespace NoteHighlighting {
@@ -24,7 +23,4 @@ struct Segment {
 /// The same with the search term's hits, which are never cut further; what lies between them is cut on its
 /// own.
 [[nodiscard]] QList<Segment> segments(QStringView text, QStringView query);
-
-/// The tags in order, repeated ones too, each with its "#".
-[[nodiscard]] QStringList tags(QStringView text);
 } // namespace NoteHighlighting

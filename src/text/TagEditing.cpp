@@ -1,7 +1,8 @@
 #include "text/TagEditing.h"
 
 #include "foundation/Characters.h"
-#include "foundation/Regex.h"
+
+#include <algorithm>
 
 namespace {
 bool isTag(const TagEditing::Token &token, QStringView name)
@@ -12,13 +13,23 @@ bool isTag(const TagEditing::Token &token, QStringView name)
 
 QList<TagEditing::Token> TagEditing::tokens(QStringView text)
 {
-    static const Regex pattern(QStringLiteral(R"(#[^\s#@]+)"));
+    // A plain loop, not a regular expression: every change of the notes counts the tags of all of them.
     QList<Token> tokens;
-    for (const Regex::Match &match : pattern.allMatches(text)) {
-        const TextRange range = match.range();
-        tokens.append({range, text.sliced(range.start, range.length()).toString()});
+    for (qsizetype start = text.indexOf(u'#'); start >= 0;) {
+        qsizetype end = start + 1;
+        while (end < text.size() && text[end] != u'#' && text[end] != u'@' && !text[end].isSpace())
+            ++end;
+        if (end > start + 1)
+            tokens.append({{start, end}, text.sliced(start, end - start).toString()});
+        start = text.indexOf(u'#', end);
     }
     return tokens;
+}
+
+bool TagEditing::isValidName(QStringView name)
+{
+    const auto isForbidden = [](QChar unit) { return QStringView(u" \t#@").contains(unit); };
+    return !name.isEmpty() && std::none_of(name.begin(), name.end(), isForbidden);
 }
 
 qsizetype TagEditing::occurrences(QStringView tag, QStringView text)

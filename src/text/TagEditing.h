@@ -6,7 +6,7 @@
 #include <QString>
 
 /// The tags within a text: a "#" and what follows it up to white space, "#" or "@", exactly as written. A
-/// tag's name is what stands behind its "#".
+/// tag's name is its text without the leading "#".
 namespace TagEditing {
 struct Token {
     TextRange range;
@@ -14,12 +14,15 @@ struct Token {
     bool operator==(const Token &) const = default;
 };
 
-[[nodiscard]] QList<Token> tokens(QStringView text);
+[[nodiscard]] QList<Token> tokens(QStringView text); ///< in text order
 
-/// How often the tag stands in the text.
+/// Whether a tag may be renamed to this: not empty, and without space, tab, "#" or "@".
+[[nodiscard]] bool isValidName(QStringView name);
+
+/// The number of times the tag occurs in the text.
 [[nodiscard]] qsizetype occurrences(QStringView tag, QStringView text);
 
-/// The text with one tag written as another; only whole tags are.
+/// The text with each whole occurrence of one tag replaced by another.
 [[nodiscard]] QString replacingTag(QStringView text, QStringView from, QStringView to);
 
 /// The text without the tag, and without the second of two spaces that this would leave behind. Trimmed of

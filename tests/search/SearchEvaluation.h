@@ -1,7 +1,7 @@
 #pragma once
 
+#include "model/NoteSearch.h"
 #include "search/ConceptEmbeddingProvider.h"
-#include "search/RankedSearch.h"
 #include "support/TestFiles.h"
 
 #include <QStringList>
@@ -70,15 +70,14 @@ inline SentenceEmbeddingProviding &provider()
     return provider;
 }
 
-/// What the timeline would show: the notes by their places.
-inline std::vector<RankedSearch::Match> shown(
-    SearchIndex &index, const QList<SemanticCandidate> &notes, const QString &query)
+/// What the timeline would show where no note contains the query.
+inline QList<SemanticHit> shown(SearchIndex &index, const QString &query)
 {
     if (!index.texts.containing(query).isEmpty())
         return {};
-    RankedSearch search(index, &provider(), notes, {query, provider().sentenceVector(query), 20, 2, {}});
-    search.advance();
-    return search.matches();
+    SemanticMatches matches(index, query, 20);
+    matches.advance();
+    return matches.hits();
 }
 
 inline QList<SemanticCandidate> candidates(const QStringList &texts)
@@ -93,16 +92,17 @@ inline Score evaluate(const QString &scope, Batch batch)
 {
     const QList<SemanticCandidate> others = candidates(haystack(199));
     SearchIndex index;
+    index.setProvider(&provider());
     Score score;
     for (const Pair &pair : pairs(scope, batch)) {
         ++score.pairs;
         QList<SemanticCandidate> notes = others;
-        const qsizetype place = score.pairs * 71 % 200; // anywhere
+        const qsizetype position = score.pairs * 71 % 200; // anywhere
         const SemanticCandidate target{QUuid::createUuid(), pair.note};
-        notes.insert(place, target);
-        index.setOrder(notes);
-        for (const RankedSearch::Match &match : shown(index, notes, pair.query))
-            score.shown += match.place == place;
+        notes.insert(position, target);
+        index.setCandidates(notes);
+        for (const SemanticHit &hit : shown(index, pair.query))
+            score.shown += hit.note == position;
 
         const auto query = provider().sentenceVector(pair.query);
         int asNear = 0;
@@ -128,15 +128,12 @@ inline QStringList falseAlarms()
 {
     const QList<SemanticCandidate> notes = candidates(haystack(200));
     SearchIndex index;
-    index.setOrder(notes);
+    index.setProvider(&provider());
+    index.setCandidates(notes);
     QStringList alarms;
     for (const QString &query : lines(QStringLiteral("unrelated.txt"))) {
-        const auto matches = shown(index, notes, query);
-        const bool isMeant =
-            std::any_of(matches.begin(), matches.end(), [](const RankedSearch::Match &match) {
-                return match.score.kind == SemanticHitKind::SemanticOnly;
-            });
-        if (isMeant)
+        const auto isMeant = [](const SemanticHit &hit) { return hit.kind == SemanticHitKind::SemanticOnly; };
+        if (std::ranges::any_of(shown(index, query), isMeant))
             alarms.append(query);
     }
     return alarms;

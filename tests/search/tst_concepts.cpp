@@ -1,4 +1,5 @@
 #include "search/ConceptFinder.h"
+#include "search/PlainRanking.h"
 #include "search/SearchEvaluation.h"
 
 #include <QTest>
@@ -128,7 +129,7 @@ private Q_SLOTS:
                 for (const auto &[query, note] : SearchEvaluation::pairs(scope, batch)) {
                     ++pairs;
                     const auto ranked =
-                        SemanticSearch::rankMatches(query, {{QUuid::createUuid(), note}}, {}, {}, 1, 0);
+                        PlainRanking::rankMatches(query, {{QUuid::createUuid(), note}}, {}, {}, 1, 0);
                     QVERIFY2(ranked.isEmpty() && !note.isEmpty(), qUtf8Printable(query + u'|' + note));
                 }
             }

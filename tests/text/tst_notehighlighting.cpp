@@ -75,11 +75,6 @@ private Q_SLOTS:
             whole += segment.text;
         QCOMPARE(whole, text);
     }
-
-    void tags_keep_order_and_repetition()
-    {
-        QCOMPARE(NoteHighlighting::tags(u"#a x #a #b"), (QStringList{u"#a"_s, u"#a"_s, u"#b"_s}));
-    }
 };
 
 QTEST_APPLESS_MAIN(NoteHighlightingTest)

@@ -44,6 +44,13 @@ private Q_SLOTS:
             tokens, (QList<TagEditing::Token>{{{4, 6}, u"#a"_s}, {{6, 8}, u"#b"_s}, {{12, 14}, u"#d"_s}}));
         QCOMPARE(TagEditing::occurrences(u"a", u"#a #ab #a"), 2);
     }
+
+    void a_valid_name_is_not_empty_and_has_no_blank_and_no_mark()
+    {
+        QVERIFY(TagEditing::isValidName(u"a　😀-1"));
+        for (const char16_t *name : {u"", u"a b", u"a\tb", u"#a", u"a@"})
+            QVERIFY2(!TagEditing::isValidName(name), qPrintable(QStringView(name).toString()));
+    }
 };
 
 QTEST_APPLESS_MAIN(TagEditingTest)

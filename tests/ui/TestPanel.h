@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/NoteCoding.h"
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "reminders/dates/DateDetector.h"
@@ -33,7 +34,8 @@ public:
     TestPanel()
         : reminders(m_folder.filePath(QStringLiteral("reminders.json")), m_scheduler, clock)
         , notes(m_folder.filePath(QStringLiteral("notes.json")), clock)
-        , content(new ContentView(notes, reminders, detector, titles, clock))
+        , search(notes, nullptr, clock)
+        , content(new ContentView(notes, search, reminders, detector, titles, clock))
         , window(content)
     {
         notes.setReminderStore(&reminders);
@@ -134,6 +136,7 @@ public:
     DateDetector detector{clock};
     ReminderStore reminders;
     NoteStore notes;
+    NoteSearch search;
     ContentView *content; ///< the window's
     PanelWindow window;
 };

@@ -1,4 +1,5 @@
 // now is Monday 2026-03-02 10:00 in Asia/Shanghai
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "search/ConceptEmbeddingProvider.h"
@@ -24,12 +25,12 @@ class TimelineModelTest final : public QObject
             rows.append(model.index(row).data().toString());
         return rows;
     }
-    static QList<int> places(const QSignalSpy &spy)
+    static QList<int> ranges(const QSignalSpy &spy)
     {
-        QList<int> places;
+        QList<int> ranges;
         for (const QList<QVariant> &arguments : spy)
-            places << arguments[1].toInt() << arguments[2].toInt();
-        return places;
+            ranges << arguments[1].toInt() << arguments[2].toInt();
+        return ranges;
     }
 
 private Q_SLOTS:
@@ -40,8 +41,9 @@ private Q_SLOTS:
         RecordingScheduler scheduler;
         ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
         NoteStore notes(folder.filePath(u"notes.json"_s), clock);
+        NoteSearch search(notes, nullptr, clock);
         notes.setReminderStore(&reminders);
-        TimelineModel model(notes, reminders, clock);
+        TimelineModel model(notes, search, reminders, clock);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
 
         const Note oldest = *notes.add(u"一"_s);
@@ -57,12 +59,12 @@ private Q_SLOTS:
         notes.update(middle.id, u"改"_s);
         QCOMPARE(changed.takeFirst()[0].toModelIndex().row(), 2);
         notes.remove(newest.id);
-        QCOMPARE(places(removed), (QList<int>{1, 1}));
+        QCOMPARE(ranges(removed), (QList<int>{1, 1}));
         removed.clear();
         notes.remove(oldest.id); // its day goes with it
-        QCOMPARE(places(removed), (QList<int>{2, 3}));
+        QCOMPARE(ranges(removed), (QList<int>{2, 3}));
         notes.restore(oldest.id);
-        QCOMPARE(places(inserted), (QList<int>{2, 3}));
+        QCOMPARE(ranges(inserted), (QList<int>{2, 3}));
         QCOMPARE(changed.count(), 0);
 
         reminders.schedule(middle.id, at("2026-03-04T01:00:00Z"), u"改"_s, u"改"_s);
@@ -72,9 +74,31 @@ private Q_SLOTS:
         removed.clear();
         model.setQuery(u"一"_s);
         QCOMPARE(rows(model), (QStringList{u"3月2日 星期一"_s, u"一"_s}));
-        QCOMPARE(places(removed), (QList<int>{0, 1}));
+        QCOMPARE(ranges(removed), (QList<int>{0, 1}));
         QCOMPARE(model.indexOf(middle.id), QModelIndex());
         QCOMPARE(model.indexOf(oldest.id).row(), 1);
+    }
+
+    void a_note_with_a_reminder_is_removed_while_a_filter_shows_the_oldest()
+    {
+        const QTemporaryDir folder;
+        TestClock clock("2026-03-02T02:00:00Z");
+        RecordingScheduler scheduler;
+        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
+        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
+        NoteSearch search(notes, nullptr, clock);
+        notes.setReminderStore(&reminders);
+        TimelineModel model(notes, search, reminders, clock);
+        const ParsedReminder soon{at("2026-03-03T07:00:00Z"), u"茶"_s};
+        notes.add(u"茶 一"_s);
+        notes.add(u"#茶"_s, {}, {}, soon);
+        const Note newest = *notes.add(u"茶 二"_s, {}, {}, soon);
+        model.setQuery(u"茶"_s);
+        notes.remove(newest.id);
+        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"#茶"_s, u"茶 一"_s}));
+        notes.removeTag(u"茶"_s);
+        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"茶 一"_s}));
+        QVERIFY(reminders.reminders().isEmpty());
     }
 
     void what_resembles_the_query_is_shown_where_nothing_contains_it()
@@ -85,8 +109,8 @@ private Q_SLOTS:
         ConceptEmbeddingProvider embeddings;
         ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
         NoteStore notes(folder.filePath(u"notes.json"_s), clock);
-        notes.setEmbeddingProvider(&embeddings);
-        TimelineModel model(notes, reminders, clock);
+        NoteSearch search(notes, &embeddings, clock);
+        TimelineModel model(notes, search, reminders, clock);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         for (const QString &text :
             {u"口腔科补洞"_s, u"整理书架"_s, u"看电影"_s, u"买牛奶"_s, u"牙线买细的"_s})

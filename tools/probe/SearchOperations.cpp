@@ -2,7 +2,7 @@
 #include "probe/Operations.h"
 
 #include "search/ConceptEmbeddingProvider.h"
-#include "search/SemanticSearch.h"
+#include "search/RankedSearch.h"
 
 #include <algorithm>
 
@@ -36,23 +36,35 @@ QJsonValue characterBigrams(Arguments &arguments)
     return sorted(SemanticSearch::characterBigrams(arguments.text(u"text"_s)));
 }
 
+QUuid numbered(qsizetype number)
+{
+    return QUuid(uint(number), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+}
+
 QJsonValue cosineSimilarity(Arguments &arguments)
 {
-    const auto cosine =
-        SemanticSearch::cosineSimilarity(arguments.numbers(u"a"_s), arguments.numbers(u"b"_s));
+    VectorCache cache;
+    cache.insert(numbered(0), arguments.numbers(u"b"_s));
+    const auto cosine = VectorQuery(arguments.numbers(u"a"_s)).cosine(*cache.find(numbered(0)));
     return cosine ? QJsonValue(*cosine) : QJsonValue();
 }
 
 QJsonValue baseline(Arguments &arguments)
 {
-    QList<SemanticSearch::Vector> vectors;
-    for (const QJsonValue &element : arguments.array(u"vectors"_s)) {
-        Arguments of(QJsonObject{{u"vectors"_s, element}});
-        vectors.append(of.numbers(u"vectors"_s));
+    VectorCache cache;
+    const QJsonArray vectors = arguments.array(u"vectors"_s);
+    for (qsizetype i = 0; i < vectors.size(); ++i) {
+        Arguments of(QJsonObject{{u"vectors"_s, vectors[i]}});
+        cache.insert(numbered(i), of.numbers(u"vectors"_s));
         if (!of.isGood())
             arguments.fail(of.error());
     }
-    return SemanticSearch::baseline(vectors);
+    std::vector<SparseVector> sparse;
+    for (qsizetype i = 0; i < vectors.size(); ++i)
+        sparse.push_back(*cache.find(numbered(i)));
+    MedianCosine median(sparse);
+    median.advance(QDeadlineTimer(QDeadlineTimer::Forever));
+    return median.value();
 }
 
 QJsonValue rankMatches(Arguments &arguments)
@@ -63,26 +75,38 @@ QJsonValue rankMatches(Arguments &arguments)
             arguments.fail(u"not a UUID: "_s + id);
         return uuid;
     };
+    QHash<QUuid, QList<double>> vectors;
+    for (const auto &[id, vector] : arguments.numbersByName(u"vectors"_s).asKeyValueRange())
+        vectors.insert(parsed(id), vector);
+    // The index knows its candidates by ids of their own, since the request may repeat one.
+    SearchIndex index;
+    QList<QUuid> ids;
     QList<SemanticCandidate> candidates;
     for (const QJsonValue &element : arguments.array(u"candidates"_s)) {
         Arguments of(element.toObject());
-        candidates.append({parsed(of.text(u"id"_s)), of.text(u"text"_s)});
+        ids.append(parsed(of.text(u"id"_s)));
+        candidates.append({numbered(candidates.size()), of.text(u"text"_s)});
+        if (const auto vector = vectors.constFind(ids.last()); vector != vectors.cend())
+            index.vectors.insert(candidates.last().id, *vector);
         if (!of.isGood())
             arguments.fail(u"a candidate: "_s + of.error());
     }
-    QHash<QUuid, SemanticSearch::Vector> vectors;
-    for (const auto &[id, vector] : arguments.numbersByName(u"vectors"_s).asKeyValueRange())
-        vectors.insert(parsed(id), vector);
-    std::optional<SemanticSearch::Vector> queryVector;
+    index.setCandidates(candidates);
+    RankedSearch::Request request{arguments.text(u"query"_s), {}, arguments.integer(u"limit"_s),
+        arguments.integer(u"semanticOnlyCap"_s)};
     if (arguments.has(u"queryVector"_s))
-        queryVector = arguments.numbers(u"queryVector"_s);
+        request.queryVector = arguments.numbers(u"queryVector"_s);
+    if (!arguments.isGood())
+        return {};
 
+    RankedSearch search(index, request);
+    search.advance();
     QJsonArray answers;
-    for (const ScoredMatch &match : SemanticSearch::rankMatches(arguments.text(u"query"_s), candidates,
-             queryVector, vectors, arguments.integer(u"limit"_s), arguments.integer(u"semanticOnlyCap"_s))) {
-        answers.append(QJsonObject{{u"id"_s, Answer::uuid(match.id)}, {u"lexicalScore"_s, match.lexicalScore},
-            {u"relativeScore"_s, match.relativeScore ? QJsonValue(*match.relativeScore) : QJsonValue()},
-            {u"kind"_s, Answer::kindName(match.kind)}});
+    for (const ScoredMatch &match : search.matches()) {
+        answers.append(
+            QJsonObject{{u"id"_s, Answer::uuid(ids[match.index])}, {u"lexicalScore"_s, match.lexicalScore},
+                {u"relativeScore"_s, match.relativeScore ? QJsonValue(*match.relativeScore) : QJsonValue()},
+                {u"kind"_s, Answer::kindName(match.kind)}});
     }
     return answers;
 }

@@ -1,8 +1,9 @@
 #include "probe/Arguments.h"
 #include "probe/Operations.h"
 
-#include "foundation/CaseFolding.h"
 #include "foundation/Clock.h"
+#include "model/Days.h"
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 
@@ -72,32 +73,27 @@ QJsonObject answer(const Reminder &reminder)
         {u"createdAt"_s, Answer::instant(reminder.createdAt)}};
 }
 
-QJsonArray answer(const QList<DaySection> &sections, const Calendar &calendar)
-{
-    QJsonArray answers;
-    for (const DaySection &section : sections) {
-        QJsonArray ids;
-        for (const Note &note : section.notes)
-            ids.append(Answer::uuid(note.id));
-        answers.append(QJsonObject{{u"day"_s, Answer::day(calendar.day(section.day))}, {u"ids"_s, ids}});
-    }
-    return answers;
-}
-
 QJsonValue daySections(Arguments &arguments)
 {
     const QList<Note> notes = arguments.notes();
+    const QString query = arguments.optionalText(u"query"_s).value_or(QString());
     const Calendar calendar = arguments.calendar();
-    if (arguments.flag(u"trash"_s))
-        return answer(NoteStore::groupTrashByDay(notes, calendar), calendar);
-    const QString query =
-        CaseFolding::folded(arguments.optionalText(u"query"_s).value_or(QString()).trimmed());
-    QList<Note> matching;
-    for (const Note &note : notes) {
-        if (CaseFolding::folded(note.text).contains(query))
-            matching.append(note);
+    QList<SemanticCandidate> texts;
+    for (const Note &note : notes)
+        texts.append({QUuid::createUuid(), note.text}); // the request may repeat an id
+    LexicalIndex index;
+    index.setOrder(texts);
+    const QList<qsizetype> indexes =
+        arguments.flag(u"trash"_s) ? Days::newestFirst(notes) : index.containing(query);
+
+    QJsonArray answers;
+    for (const DaySection &section : Days::group(notes, indexes, calendar)) {
+        QJsonArray ids;
+        for (const qsizetype note : section.notes)
+            ids.append(Answer::uuid(notes[note].id));
+        answers.append(QJsonObject{{u"day"_s, Answer::day(calendar.day(section.day))}, {u"ids"_s, ids}});
     }
-    return answer(NoteStore::groupByDay(matching, calendar), calendar);
+    return answers;
 }
 
 /// The two stores on a folder, and the steps that are done to them.
@@ -166,11 +162,12 @@ public:
 private:
     void open()
     {
+        m_search.reset();
         m_notes.reset();
         m_reminders = std::make_unique<ReminderStore>(m_folder + u"/reminders.json"_s, m_scheduler, m_clock);
         m_notes = std::make_unique<NoteStore>(m_folder + u"/notes.json"_s, m_clock);
         m_notes->setReminderStore(m_reminders.get());
-        m_notes->setEmbeddingProvider(m_embeddings.get());
+        m_search = std::make_unique<NoteSearch>(*m_notes, &m_embeddings, m_clock);
     }
 
     QUuid id(Arguments &step, const QString &key = u"id"_s)
@@ -289,9 +286,11 @@ private:
         QJsonArray answers;
         if (!step.isGood())
             return {};
-        for (const SemanticHit &hit : m_notes->semanticMatches(query, limit)) {
-            answers.append(
-                QJsonObject{{u"id"_s, Answer::uuid(hit.note.id)}, {u"kind"_s, Answer::kindName(hit.kind)}});
+        SemanticMatches matches = m_search->semanticMatches(query, limit);
+        matches.advance();
+        for (const SemanticHit &hit : matches.hits()) {
+            answers.append(QJsonObject{{u"id"_s, Answer::uuid(m_notes->notes()[hit.note].id)},
+                {u"kind"_s, Answer::kindName(hit.kind)}});
         }
         return answers;
     }
@@ -304,7 +303,7 @@ private:
         if (!step.isGood())
             return {};
         QJsonArray answers;
-        for (const Note &related : m_notes->relatedNotes(*note, limit))
+        for (const Note &related : m_search->relatedNotes(*note, limit))
             answers.append(Answer::uuid(related.id));
         return answers;
     }
@@ -313,15 +312,14 @@ private:
         const auto vectors = step.numbersByName(u"vectors"_s);
         if (!step.isGood())
             return {};
-        m_embeddings = std::make_unique<ProbeEmbeddings>();
-        m_embeddings->vectors = vectors;
-        m_notes->setEmbeddingProvider(m_embeddings.get());
+        m_embeddings.vectors = vectors;
+        m_search->setEmbeddingProvider(&m_embeddings);
         return {};
     }
     QJsonValue cachedVectors(Arguments &)
     {
         QStringList ids;
-        for (const QUuid id : m_notes->cachedVectors())
+        for (const QUuid id : m_search->cachedVectors())
             ids.append(Answer::uuid(id));
         ids.sort();
         return QJsonArray::fromStringList(ids);
@@ -386,9 +384,10 @@ private:
     QString m_folder;
     FixedClock m_clock;
     ProbeScheduler m_scheduler;
-    std::unique_ptr<ProbeEmbeddings> m_embeddings;
+    ProbeEmbeddings m_embeddings; ///< knows no text at first
     std::unique_ptr<ReminderStore> m_reminders;
     std::unique_ptr<NoteStore> m_notes;
+    std::unique_ptr<NoteSearch> m_search;
     QHash<QString, QUuid> m_names;
 };
 

@@ -30,7 +30,10 @@ QJsonValue segments(Arguments &arguments)
 
 QJsonValue tags(Arguments &arguments)
 {
-    return QJsonArray::fromStringList(NoteHighlighting::tags(arguments.text(u"text"_s)));
+    QJsonArray answers;
+    for (const TagEditing::Token &token : TagEditing::tokens(arguments.text(u"text"_s)))
+        answers.append(token.text);
+    return answers;
 }
 
 QJsonValue tokens(Arguments &arguments)

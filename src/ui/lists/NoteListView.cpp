@@ -18,10 +18,11 @@
 #include <QTimer>
 #include <QUrl>
 
-NoteListView::NoteListView(
-    NoteStore &notes, ReminderStore &reminders, PanelState &state, TimelineModel &timeline, QWidget *parent)
+NoteListView::NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders, PanelState &state,
+    TimelineModel &timeline, QWidget *parent)
     : RowListView(timeline, parent)
     , m_notes(notes)
+    , m_search(search)
     , m_reminders(reminders)
     , m_state(state)
     , m_timeline(timeline)
@@ -126,7 +127,7 @@ QColor NoteListView::groundOf(int row) const
 void NoteListView::showRelated(const Note &note)
 {
     const QRect row = visualRect(m_timeline.indexOf(note.id));
-    auto *related = new RelatedNotesView(m_notes, note, this);
+    auto *related = new RelatedNotesView(m_search, note, this);
     connect(related, &RelatedNotesView::selected, this, [this](QUuid id) { scrollAndFlash(id, false); });
     related->popUp({viewport()->mapToGlobal(row.topLeft()), row.size()});
 }

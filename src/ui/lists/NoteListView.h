@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class NoteSearch;
 class NoteStore;
 class PanelState;
 class ReminderStore;
@@ -18,8 +19,8 @@ class NoteListView final : public RowListView
     Q_OBJECT
 
 public:
-    NoteListView(NoteStore &notes, ReminderStore &reminders, PanelState &state, TimelineModel &model,
-        QWidget *parent = nullptr);
+    NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders, PanelState &state,
+        TimelineModel &model, QWidget *parent = nullptr);
 
     /// Scrolls the note into the middle and lights it up for a moment. A draft that hides the note is cleared
     /// first.
@@ -46,6 +47,7 @@ private:
     void setFlashID(std::optional<QUuid> id);
 
     NoteStore &m_notes;
+    NoteSearch &m_search;
     ReminderStore &m_reminders;
     PanelState &m_state;
     TimelineModel &m_timeline;

@@ -1,6 +1,6 @@
 #include "ui/lists/RelatedNotesView.h"
 
-#include "model/NoteStore.h"
+#include "model/NoteSearch.h"
 #include "text/L10n.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr qsizetype mostRelated = 5;
+constexpr qsizetype maxRelated = 5;
 
 /// One line of a note's text that fills the width it is given.
 class RelatedNoteButton final : public QPushButton
@@ -68,7 +68,7 @@ QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidg
 }
 } // namespace
 
-RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWidget *parent)
+RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget *parent)
     : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
     , m_frame(*this, backdropOf(*parent), {Design::popoverRadius, Design::popoverShadow, true})
 {
@@ -83,7 +83,7 @@ RelatedNotesView::RelatedNotesView(const NoteStore &store, const Note &note, QWi
     layout->setSpacing(0);
     layout->addWidget(
         label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
-    const QList<Note> related = store.relatedNotes(note, mostRelated);
+    const QList<Note> related = search.relatedNotes(note, maxRelated);
     if (related.isEmpty()) {
         layout->addWidget(
             label(L10n::text("暂无相关笔记"), NoteStyle::font(), NoteStyle::metaColor(palette()), this));

@@ -5,7 +5,7 @@
 #include <QUuid>
 #include <QWidget>
 
-class NoteStore;
+class NoteSearch;
 struct Note;
 
 /// A popover with the notes that resemble one, a button for each. It deletes itself when it closes.
@@ -14,7 +14,7 @@ class RelatedNotesView final : public QWidget
     Q_OBJECT
 
 public:
-    RelatedNotesView(const NoteStore &store, const Note &note, QWidget *parent);
+    RelatedNotesView(NoteSearch &search, const Note &note, QWidget *parent);
 
     /// Shows it below this place on the screen, or above where there is no room.
     void popUp(const QRect &place);

@@ -3,6 +3,7 @@
 #include "foundation/Characters.h"
 #include "model/NoteStore.h"
 #include "text/L10n.h"
+#include "text/TagEditing.h"
 #include "ui/dialogs/ModalQuestion.h"
 #include "ui/lists/TagModel.h"
 #include "ui/looks/Design.h"
@@ -106,7 +107,7 @@ void TagListView::commitRename(const QString &from, const QString &to)
 {
     const QString name = Characters::trimmedOfBlanks(to).toString();
     m_rename.setRenaming({});
-    if (name.isEmpty() || name.contains(u'#') || name.contains(u'@') || name == from)
+    if (!TagEditing::isValidName(name) || name == from)
         return;
     if (m_notes.tags().contains(name)) {
         const QString message =

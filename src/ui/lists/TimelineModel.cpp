@@ -1,6 +1,7 @@
 #include "ui/lists/TimelineModel.h"
 
 #include "foundation/Clock.h"
+#include "model/NoteSearch.h"
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
@@ -14,7 +15,7 @@ namespace {
 using namespace std::chrono_literals;
 constexpr auto untilTheFrameIsShown = 20ms;
 constexpr auto slice = 4ms; ///< of a frame of 16
-constexpr qsizetype mostHits = 20;
+constexpr qsizetype maxHits = 20;
 } // namespace
 
 bool isSameRow(const TimelineRow &a, const TimelineRow &b)
@@ -28,9 +29,11 @@ bool operator==(const TimelineRow &a, const TimelineRow &b)
            && a.isSemanticOnly == b.isSemanticOnly && a.text == b.text;
 }
 
-TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent)
+TimelineModel::TimelineModel(const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders,
+    const Clock &clock, QObject *parent)
     : RowsOf(parent)
     , m_notes(notes)
+    , m_search(search)
     , m_reminders(reminders)
     , m_clock(clock)
     , m_today(clock.calendar().startOfDay(clock.now()))
@@ -43,7 +46,7 @@ TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const C
             if (note.quoteID)
                 repliedTo.insert(*note.quoteID);
         }
-        m_notesDidChange = true; // and with them the places in the rows that are shown
+        m_notesDidChange = true; // and with them the indexes in the rows that are shown
         m_isRepliedTo.clear();
         for (const Note &note : m_notes.notes())
             m_isRepliedTo.push_back(!repliedTo.isEmpty() && repliedTo.contains(note.id));
@@ -55,7 +58,7 @@ TimelineModel::TimelineModel(NoteStore &notes, ReminderStore &reminders, const C
             m_reminded.insert(reminder.noteID);
         refresh();
     };
-    connect(&m_notes, &NoteStore::notesChanged, this, findReplies);
+    connect(&m_search, &NoteSearch::changed, this, findReplies);
     connect(&m_reminders, &ReminderStore::remindersChanged, this, findReminded);
     findReplies();
     findReminded();
@@ -80,26 +83,28 @@ void TimelineModel::timeDidPass()
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
-void TimelineModel::appendNote(
-    QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const
+void TimelineModel::appendSections(
+    const QList<DaySection> &sections, bool isSemanticOnly, QList<TimelineRow> &out) const
 {
-    const Note &note = m_notes.notes()[place];
-    rows.append({TimelineRow::Kind::Note, day, note.id, note.text, place,
-        !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(place)], isSemanticOnly});
+    for (const DaySection &section : sections) {
+        out.append({.kind = TimelineRow::Kind::Day, .day = section.day, .isSemanticOnly = isSemanticOnly});
+        for (const qsizetype index : section.notes) {
+            const Note &note = m_notes.notes()[index];
+            out.append({TimelineRow::Kind::Note, section.day, note.id, note.text, index,
+                !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(index)],
+                isSemanticOnly});
+        }
+    }
 }
 
 void TimelineModel::refresh()
 {
-    m_search.reset();
+    m_matches.reset();
     m_searchTimer.stop();
     QList<TimelineRow> found;
-    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(m_query)) {
-        found.append({.kind = TimelineRow::Kind::Day, .day = section.day});
-        for (const qsizetype place : section.places)
-            appendNote(found, section.day, place, false);
-    }
+    appendSections(m_search.daySections(m_query), false, found);
     const bool needsSearch = found.isEmpty() && !m_notes.notes().isEmpty();
-    // Until it is known what resembles this query, what resembled the last one stays.
+    // The hits of the previous query stay until those of this one are known.
     const bool keepsHits =
         needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().front().isSemanticOnly;
     if (!keepsHits)
@@ -111,27 +116,23 @@ void TimelineModel::refresh()
 
 void TimelineModel::continueSearch()
 {
-    if (!m_search)
-        m_search = m_notes.beginRankedSearch(m_query, mostHits);
-    if (!m_search->advance(QDeadlineTimer(slice))) {
+    if (!m_matches)
+        m_matches = std::make_unique<SemanticMatches>(m_search.semanticMatches(m_query, maxHits));
+    if (!m_matches->advance(QDeadlineTimer(slice))) {
         m_searchTimer.start(0ms);
         return;
     }
-    const auto search = std::move(m_search);
+    const auto matches = std::move(m_matches);
     QList<TimelineRow> found;
-    if (!search->matches().empty())
+    if (!matches->hits().isEmpty())
         found.append({.kind = TimelineRow::Kind::Title, .isSemanticOnly = true});
-    for (const NoteStore::DayPlaces &section : m_notes.dayPlaces(*search)) {
-        found.append({.kind = TimelineRow::Kind::Day, .day = section.day, .isSemanticOnly = true});
-        for (const qsizetype place : section.places)
-            appendNote(found, section.day, place, true);
-    }
+    appendSections(m_search.daySections(matches->hits()), true, found);
     show(found);
 }
 
 const Note &TimelineModel::note(int number) const
 {
-    return m_notes.notes()[row(number).place];
+    return m_notes.notes()[row(number).noteIndex];
 }
 
 QList<TimelineModel::Action> TimelineModel::actions(int number) const
@@ -140,7 +141,7 @@ QList<TimelineModel::Action> TimelineModel::actions(int number) const
     if (row(number).isRepliedTo)
         actions.append(Action::JumpToReply);
     if (row(number).hasReminder)
-        actions.append(Action::TellReminder);
+        actions.append(Action::ShowReminder);
     return actions;
 }
 
@@ -183,7 +184,7 @@ RowContent TimelineModel::content(int number) const
         case Action::JumpToReply:
             content.symbols.append({QStringLiteral("reply"), L10n::text("跳转到最新回复"), true});
             break;
-        case Action::TellReminder:
+        case Action::ShowReminder:
             if (const auto reminder = m_reminders.reminder(note.id)) {
                 const QString when =
                     NoteFormatting::reminderTimeString(reminder->fireAt, m_clock.now(), m_clock.calendar());

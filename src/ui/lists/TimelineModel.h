@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DaySection.h"
 #include "model/Note.h"
 #include "ui/lists/RowModel.h"
 
@@ -10,19 +11,20 @@
 #include <vector>
 
 class Clock;
+class NoteSearch;
 class NoteStore;
-class RankedSearch;
 class ReminderStore;
+class SemanticMatches;
 
-/// One row of the timeline: the header of a day, or a note of that day; above what only resembles the query
-/// also a title.
+/// One row of the timeline: the header of a day, or a note of that day; notes that only resemble the query
+/// also have a title above them.
 struct TimelineRow {
     enum class Kind { Title, Day, Note };
     Kind kind = Kind::Day;
-    Instant day = {};    ///< not of a title
-    QUuid id = {};       ///< the rest is only of a note
-    QString text = {};   ///< the only thing about a note that changes
-    qsizetype place = 0; ///< of the note in the store, now
+    Instant day = {};        ///< unset for a title
+    QUuid id = {};           ///< this and the rest are set for a note only
+    QString text = {};       ///< the only part of a note that changes
+    qsizetype noteIndex = 0; ///< into NoteStore::notes()
     bool hasReminder = false;
     bool isRepliedTo = false;
     bool isSemanticOnly = false; ///< found among the notes that resemble the query
@@ -33,45 +35,49 @@ struct TimelineRow {
 /// Whether the rows show the same.
 [[nodiscard]] bool operator==(const TimelineRow &a, const TimelineRow &b);
 
-/// The store's day sections as rows: those of the notes that contain the query, or, where there are none, of
-/// the notes that resemble it. Announces exactly the rows that came, went or changed.
+/// The live notes by day as rows: those that contain the query or, if there are none, those that resemble it.
+/// Announces exactly the rows that were inserted, removed or changed.
 ///
-/// What resembles the query is looked for a little later and in slices, so that typing never waits for it.
+/// Notes that resemble the query are searched for a little later and in slices, so that typing never waits.
 class TimelineModel final : public RowsOf<TimelineRow>
 {
     Q_OBJECT
 
 public:
-    TimelineModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent = nullptr);
+    TimelineModel(const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders,
+        const Clock &clock, QObject *parent = nullptr);
     ~TimelineModel() override;
 
     void setQuery(const QString &query);
     [[nodiscard]] const QString &query() const { return m_query; }
-    void timeDidPass(); ///< a minute, midnight, or a change of the clock
+    void timeDidPass(); ///< call after a minute, midnight, or a change of the clock
 
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).isNote(); }
     [[nodiscard]] QString text(int row) const override;
-    [[nodiscard]] const Note &note(int row) const;         ///< of a note's row; until the store changes
+    [[nodiscard]] const Note &note(
+        int row) const; ///< the row must be a note's; valid until the store changes
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
 
-    /// What the symbols of a note's row are for, in their order.
-    enum class Action { JumpToReply, TellReminder };
+    /// The actions of the symbols in a note's row, in their order.
+    enum class Action { JumpToReply, ShowReminder };
     [[nodiscard]] QList<Action> actions(int row) const;
 
 private:
-    void refresh() override; ///< also while nobody looks, so that the panel opens at once
+    void refresh() override; ///< also while the panel is hidden, so that it opens at once
     void continueSearch();
-    void appendNote(QList<TimelineRow> &rows, Instant day, qsizetype place, bool isSemanticOnly) const;
+    void appendSections(
+        const QList<DaySection> &sections, bool isSemanticOnly, QList<TimelineRow> &out) const;
 
-    NoteStore &m_notes;
-    ReminderStore &m_reminders;
+    const NoteStore &m_notes;
+    NoteSearch &m_search;
+    const ReminderStore &m_reminders;
     const Clock &m_clock;
     QString m_query;
     QSet<QUuid> m_reminded;
-    std::vector<bool> m_isRepliedTo; ///< by the place of the note
+    std::vector<bool> m_isRepliedTo; ///< by the index of the note
     bool m_notesDidChange = false;
-    Instant m_today;                        ///< its start, as the headers tell it
-    std::unique_ptr<RankedSearch> m_search; ///< under way
+    Instant m_today;                            ///< the start of the day that the headers call today
+    std::unique_ptr<SemanticMatches> m_matches; ///< the search under way
     QTimer m_searchTimer;
 };

@@ -26,8 +26,8 @@ void TrashModel::refresh()
     QList<TrashRow> rows;
     for (const DaySection &section : m_notes.trashDaySections()) {
         rows.append({section.day, {}});
-        for (const Note &note : section.notes)
-            rows.append({section.day, note});
+        for (const qsizetype index : section.notes)
+            rows.append({section.day, m_notes.trash()[index]});
     }
     show(rows);
 }

@@ -46,14 +46,14 @@ bool hasComposer(PanelMode mode)
 }
 } // namespace
 
-ContentView::ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
-    PageTitleFetching &titles, const Clock &clock, QWidget *parent)
+ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders,
+    const DateDetecting &detector, PageTitleFetching &titles, const Clock &clock, QWidget *parent)
     : QWidget(parent)
     , m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
-    , m_timelineModel(new TimelineModel(notes, reminders, clock, this))
-    , m_timeline(new NoteListView(notes, reminders, m_state, *m_timelineModel, this))
+    , m_timelineModel(new TimelineModel(notes, search, reminders, clock, this))
+    , m_timeline(new NoteListView(notes, search, reminders, m_state, *m_timelineModel, this))
     , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
     , m_title(new QLabel(this))
     , m_stack(new QStackedLayout)

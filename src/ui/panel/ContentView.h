@@ -11,6 +11,7 @@ class Clock;
 class ComposerView;
 class DateDetecting;
 class NoteListView;
+class NoteSearch;
 class NoteStore;
 class PageTitleFetching;
 class QLabel;
@@ -29,7 +30,7 @@ class ContentView final : public QWidget
     Q_OBJECT
 
 public:
-    ContentView(NoteStore &notes, ReminderStore &reminders, const DateDetecting &detector,
+    ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders, const DateDetecting &detector,
         PageTitleFetching &titles, const Clock &clock, QWidget *parent = nullptr);
 
     [[nodiscard]] PanelState &state() { return m_state; }
