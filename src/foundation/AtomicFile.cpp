@@ -27,18 +27,17 @@ public:
     ~Descriptor()
     {
         if (isOpen())
-            (void)close();
+            m_calls.close(m_fd); // after an fsync it has nothing more to report
     }
     Descriptor(const Descriptor &) = delete;
     Descriptor &operator=(const Descriptor &) = delete;
 
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
     [[nodiscard]] int fd() const { return m_fd; }
-    [[nodiscard]] bool close() { return m_calls.close(std::exchange(m_fd, -1)) == 0; }
 
 private:
     FileCalls &m_calls;
-    int m_fd;
+    const int m_fd;
 };
 
 QString stagedPath(const QString &path)
@@ -234,7 +233,7 @@ private:
     {
         const QString path = stagedPath(target);
         const auto failure = [&path] { return systemFailure(QStringLiteral("cannot write"), path); };
-        Descriptor file(m_calls, path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+        const Descriptor file(m_calls, path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
         if (!file.isOpen())
             return failure();
         Outcome written = Done{};
@@ -242,7 +241,7 @@ private:
             if (written && !writeAll(file.fd(), piece))
                 written = failure();
         });
-        if (written && (m_calls.fsync(file.fd()) != 0 || !file.close()))
+        if (written && m_calls.fsync(file.fd()) != 0)
             written = failure();
         return written;
     }
@@ -306,11 +305,12 @@ Outcome AtomicFile::replace(const QList<Content> &contents, FileCalls &calls)
     // A commit whose renaming failed half-way must be completed before its staged files are overwritten.
     if (Outcome earlier = files.recover(targets.value()); !earlier)
         return earlier;
-    if (Outcome staged = files.stageAll(targets.value(), contents); !staged) {
-        (void)files.discardStaged(targets.value()); // if this fails, the next commit does it
-        return staged;
-    }
-    return files.renameStaged(targets.value());
+    Outcome done = files.stageAll(targets.value(), contents);
+    if (done)
+        done = files.renameStaged(targets.value());
+    if (!done)
+        (void)files.recover(targets.value()); // if this fails, the next commit does it
+    return done;
 }
 
 Result<std::optional<QByteArray>> AtomicFile::read(const QString &path, FileCalls &calls)

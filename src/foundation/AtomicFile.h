@@ -26,8 +26,8 @@ struct Content {
 };
 
 /// Replaces all files, or none. New files are readable by their owner only; the folders must exist. After a
-/// failure the files are still as before, or as they should have become; the next replace() or recover() of
-/// the same files, in the same order, decides which.
+/// failure the files are as before, or as they should have become, or a replace() or recover() of the same
+/// files, in the same order, will make them so.
 Outcome replace(const QList<Content> &contents, FileCalls &calls = FileCalls::system());
 
 /// Completes or discards an earlier replace() of these files, in this order, that was interrupted.

@@ -51,6 +51,8 @@ Range commitTwice(const QStringList &paths, SimulatedDisk &disk)
             qFatal("the error is lost: %s", qPrintable(committed.message()));
         if (disk.hasOpenFiles())
             qFatal("a file stays open");
+        if (!disk.hasStopped() && disk.files().size() != size_t(paths.size()))
+            qFatal("a staged file stays");
     }
     return allowed;
 }
