@@ -2,10 +2,11 @@
 
 #include <sys/stat.h>
 
-SystemClock::SystemClock()
-    : m_zoneFile(zoneFile())
+SystemClock::SystemClock(QByteArray zoneFile)
+    : m_zoneFile(std::move(zoneFile))
+    , m_version(zoneFileVersion())
     , m_calendar(Calendar::system())
-    , m_lastLook(std::chrono::steady_clock::now())
+    , m_lastCheck(std::chrono::steady_clock::now())
 {
 }
 
@@ -14,10 +15,10 @@ Instant SystemClock::now() const
     return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
 }
 
-SystemClock::ZoneFile SystemClock::zoneFile()
+SystemClock::FileVersion SystemClock::zoneFileVersion() const
 {
     struct stat link = {};
-    if (lstat("/etc/localtime", &link) != 0)
+    if (lstat(m_zoneFile.constData(), &link) != 0)
         return {};
     constexpr std::int64_t second = 1'000'000'000;
     return {link.st_ino, link.st_mtim.tv_sec * second + link.st_mtim.tv_nsec};
@@ -25,12 +26,12 @@ SystemClock::ZoneFile SystemClock::zoneFile()
 
 const Calendar &SystemClock::calendar() const
 {
-    // It is asked for each row that is drawn: the file is looked at now and then.
+    // Called for each row that is painted, so the file is not examined each time.
     const auto present = std::chrono::steady_clock::now();
-    if (present - m_lastLook >= std::chrono::seconds(1)) {
-        m_lastLook = present;
-        if (const ZoneFile current = zoneFile(); current != m_zoneFile) {
-            m_zoneFile = current;
+    if (present - m_lastCheck >= std::chrono::seconds(1)) {
+        m_lastCheck = present;
+        if (const FileVersion current = zoneFileVersion(); current != m_version) {
+            m_version = current;
             m_calendar = Calendar::system();
         }
     }

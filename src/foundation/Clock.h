@@ -3,21 +3,23 @@
 #include "foundation/Calendar.h"
 #include "foundation/Instant.h"
 
+#include <QByteArray>
+
 #include <chrono>
 #include <cstdint>
 #include <utility>
 
-/// The present, as the person at the machine reads it. Handed in by constructor, so that tests set their own.
+/// The current time and time zone of the user. Passed to constructors, so that tests can set their own.
 class Clock
 {
 public:
     virtual ~Clock() = default;
     [[nodiscard]] virtual Instant now() const = 0;
-    /// In the person's time zone, which may change while the program runs: ask anew, keep no copy.
+    /// In the user's time zone, which may change while the program runs: do not keep a copy.
     [[nodiscard]] virtual const Calendar &calendar() const = 0;
 };
 
-/// Stands still until it is set.
+/// Does not advance; it is set.
 class FixedClock : public Clock
 {
 public:
@@ -35,24 +37,26 @@ private:
     Calendar m_calendar;
 };
 
-/// The machine's clock and time zone. A change of the zone is noticed within a second. Of one thread.
+/// The machine's clock and time zone. A change of the zone is noticed within a second. For one thread.
 class SystemClock final : public Clock
 {
 public:
-    SystemClock();
+    /// The zone is read again when @p zoneFile has changed.
+    explicit SystemClock(QByteArray zoneFile = "/etc/localtime");
     [[nodiscard]] Instant now() const override;
     [[nodiscard]] const Calendar &calendar() const override;
 
 private:
-    /// Which file names the zone: another whenever the zone is set.
-    struct ZoneFile {
+    /// Differs whenever the zone has been set.
+    struct FileVersion {
         std::uint64_t inode = 0;
         std::int64_t modified = 0; ///< in nanoseconds
-        bool operator==(const ZoneFile &) const = default;
+        bool operator==(const FileVersion &) const = default;
     };
-    [[nodiscard]] static ZoneFile zoneFile();
+    [[nodiscard]] FileVersion zoneFileVersion() const;
 
-    mutable ZoneFile m_zoneFile;
+    QByteArray m_zoneFile;
+    mutable FileVersion m_version;
     mutable Calendar m_calendar;
-    mutable std::chrono::steady_clock::time_point m_lastLook;
+    mutable std::chrono::steady_clock::time_point m_lastCheck;
 };

@@ -1,7 +1,11 @@
 #include "foundation/Calendar.h"
+#include "foundation/Clock.h"
+#include "foundation/DateFormat.h"
 #include "foundation/InternetDateTime.h"
 #include "support/TestClock.h"
 
+#include <QScopeGuard>
+#include <QTemporaryFile>
 #include <QTest>
 
 using namespace std::chrono;
@@ -60,6 +64,37 @@ private Q_SLOTS:
             berlin.addingDays(at("2026-03-28T01:30:00Z"), 1), at("2026-03-29T01:00:00Z")); // 02:30 is skipped
     }
 
+    void times_long_ago_are_read_from_the_same_clock()
+    {
+        const Calendar shanghai("Asia/Shanghai"); // 8:05:43 before UTC until 1901
+        QCOMPARE(shanghai.timeOfDay(at("1900-01-01T00:00:30Z")), (Calendar::TimeOfDay{8, 6}));
+        QCOMPARE(shanghai.startOfMinute(at("1900-01-01T00:00:30Z")), at("1900-01-01T00:00:17Z"));
+    }
+
+    void a_date_is_formatted_in_its_zone_and_language()
+    {
+        const auto text = [](const char *locale, const char *zone) {
+            return DateFormat::format(at("2026-03-02T02:00:00Z"), u"EEE H", locale, Calendar(zone));
+        };
+        QCOMPARE(text("en", "UTC"), QStringLiteral("Mon 2"));
+        QCOMPARE(text("en", "Asia/Shanghai"), QStringLiteral("Mon 10"));
+        QCOMPARE(text("de", "UTC"), QStringLiteral("Mo. 2"));
+    }
+
+    void a_new_time_zone_is_noticed_within_a_second()
+    {
+        QTemporaryFile link;
+        QVERIFY(link.open());
+        const QByteArray before = qgetenv("TZ");
+        const auto restore = qScopeGuard([&before] { qputenv("TZ", before); });
+        qputenv("TZ", "Europe/Berlin");
+        const SystemClock clock(link.fileName().toLocal8Bit());
+        QCOMPARE(clock.calendar().timeZoneID(), "Europe/Berlin");
+        qputenv("TZ", "Asia/Shanghai");
+        QVERIFY(link.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFileDevice::FileModificationTime));
+        QTRY_COMPARE_WITH_TIMEOUT(clock.calendar().timeZoneID(), "Asia/Shanghai", 2000);
+    }
+
     void internet_date_times_are_read_strictly_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -77,9 +112,11 @@ private Q_SLOTS:
         row("2024-05-01 08:30:00Z", "");
         row("2024-05-01t08:30:00z", "");
         row("2024-05-01T24:00:00Z", "");
+        row("2024-05-01T08:60:00Z", "");
         row("2024-05-01T08:30:60Z", "");
         row("2024-05-01T08:30:00+0800", "");
         row("2024-05-01T08:30:00+24:00", "");
+        row("2024-05-01T08:30:00+08:60", "");
         row("2024-05-01T08:30:00Zjunk", "");
         row("+024-05-01T08:30:00Z", "");
         row("9999-12-31T23:59:59Z", "9999-12-31T23:59:59Z");

@@ -1,4 +1,5 @@
 #include "foundation/CaseFolding.h"
+#include "foundation/Characters.h"
 #include "foundation/Regex.h"
 
 #include <QTest>
@@ -37,6 +38,35 @@ private Q_SLOTS:
         for (const TextRange &range : CaseFolding::occurrences(text, query))
             found.append(text.sliced(range.start, range.length()));
         QCOMPARE(found, hits);
+    }
+
+    void a_character_is_what_is_seen_as_one_data()
+    {
+        QTest::addColumn<QStringList>("characters");
+        QTest::addColumn<bool>("areSingleCodePoints");
+        const auto row = [](const char *name, const QStringList &characters, bool areSingleCodePoints) {
+            QTest::newRow(name) << characters << areSingleCodePoints;
+        };
+        row("letters", {u"a"_s, u"é"_s, u"字"_s, u"각"_s, u"😀"_s}, true);
+        row("a mark", {u"x"_s, u"e\u0301"_s}, false);
+        row("many marks", {u"x"_s, u"e"_s + QString(100, QChar(0x301)), u"y"_s}, false);
+        row("a line break of two", {u"a"_s, u"\r\n"_s, u"\n"_s}, false);
+        row("single letters of Hangul", {u"\u1100\u1161"_s, u"a"_s}, false);
+        row("a vowel of Hangul", {u"가\u1161"_s}, false);
+        row("a family", {u"👩‍👩‍👧"_s, u"👩"_s}, false);
+    }
+    void a_character_is_what_is_seen_as_one()
+    {
+        QFETCH(QStringList, characters);
+        const QString text = characters.join(QString());
+        QTEST(Characters::areSingleCodePoints(text), "areSingleCodePoints");
+        QStringList found;
+        for (const TextRange &range : Characters::all(text)) {
+            found.append(text.sliced(range.start, range.length()));
+            for (qsizetype position = range.start; position < range.end; ++position)
+                QCOMPARE(Characters::at(text, position), range);
+        }
+        QCOMPARE(found, characters);
     }
 
     void a_regex_counts_utf16_units_and_knows_unicode()

@@ -18,9 +18,9 @@ class NoteCodingTest final : public QObject
 {
     Q_OBJECT
 
-    const Note m_note{QUuid(u"{0f8fad5b-d9cb-469f-a165-70867728950e}"_s), u"买 \"书\" a/b\\\n\u0001😀"_s,
-        u"引"_s, QUuid(u"{7c9e6679-7425-40de-944b-e07fc1f90ae7}"_s), u"https://a.example/x?y=1"_s,
-        at("2024-05-01T08:30:00Z")};
+    const Note m_note{QUuid(u"{0f8fad5b-d9cb-469f-a165-70867728950e}"_s),
+        u"买 \"书\" a/b\\\b\f\n\r\t\u0001😀"_s, u"引"_s, QUuid(u"{7c9e6679-7425-40de-944b-e07fc1f90ae7}"_s),
+        u"https://a.example/x?y=1"_s, at("2024-05-01T08:30:00Z")};
 
 private Q_SLOTS:
     void the_written_form_is_exact()
@@ -32,7 +32,7 @@ private Q_SLOTS:
                                          "    'link' : 'https:\\/\\/a.example\\/x?y=1',\n"
                                          "    'quote' : '引',\n"
                                          "    'quoteID' : '7C9E6679-7425-40DE-944B-E07FC1F90AE7',\n"
-                                         "    'text' : '买 \\'书\\' a\\/b\\\\\\n\\u0001😀'\n"
+                                         "    'text' : '买 \\'书\\' a\\/b\\\\\\b\\f\\n\\r\\t\\u0001😀'\n"
                                          "  },\n"
                                          "  {\n"
                                          "    'createdAt' : '2024-05-01T08:30:00Z',\n"
@@ -49,11 +49,16 @@ private Q_SLOTS:
     void every_text_comes_back()
     {
         for (const QString &text : {u"\uFEFF"_s, u"\uFEFF\uFEFFx"_s, u"\u2028\u0085\u007F"_s,
-                 u"e\u0301👩‍👩‍👧"_s, QString(100'000, u'字'), QString(1, u'\0')}) {
+                 u"\u07FF\u0800\uFFFF\U00010000\U0010FFFF"_s, u"e\u0301👩‍👩‍👧"_s,
+                 QString(100'000, u'字'), QString(100'000, u'\0')}) {
             Note note = m_note;
             note.text = text;
             QCOMPARE(noteDecoder::decodeNotes(noteEncoder::encode(QList{note})).value().first().text, text);
         }
+        Note halves = m_note; // of pairs
+        halves.text = QString(3, QChar(0xD83D)) + QChar(0xDE00) + QChar(0xDE00);
+        QCOMPARE(noteDecoder::decodeNotes(noteEncoder::encode(QList{halves})).value().first().text,
+            u"\uFFFD\uFFFD😀\uFFFD"_s);
     }
 
     void reminders_are_written_with_sorted_keys()
@@ -72,7 +77,9 @@ private Q_SLOTS:
                                          "]");
         QCOMPARE(noteEncoder::encode(QList<Reminder>{reminder}), expected);
         QCOMPARE(noteDecoder::decodeReminders(expected).value(), QList<Reminder>{reminder});
-        QVERIFY(!noteDecoder::decodeReminders(QByteArray(expected).replace("\"createdAt\"", "\"other\"")));
+        for (const char *key : {"createdAt", "fireAt", "fullText", "id", "noteID", "text"})
+            QVERIFY(!noteDecoder::decodeReminders(
+                QByteArray(expected).replace(json("'") + key + json("'"), "\"other\"")));
     }
 
     void one_bad_element_fails_the_array_data()
@@ -89,12 +96,14 @@ private Q_SLOTS:
         const auto plus = [&good](const QByteArray &member) { return good + ',' + member; };
         row("lower-case id", good, true);
         row("unknown keys, nulls", plus(json("'quote':null,'quoteID':null,'link':null,'x':{'y':[1]}")), true);
-        row("no text", json("'id':'0f8fad5b-d9cb-469f-a165-70867728950e','createdAt':'2024-05-01T08:30:00Z'"),
-            false);
+        for (const char *key : {"id", "text", "createdAt"})
+            row(key, QByteArray(good).replace(key, "other"), false);
         row("text is null", plus(json("'text':null")), false);
         row("text is a number", plus(json("'text':1")), false);
         row("id in braces", withID("{0f8fad5b-d9cb-469f-a165-70867728950e}"), false);
-        row("id without dashes", withID("0f8fad5bd9cb469fa16570867728950e"), false);
+        for (const char *id : {"0f8fad5b0d9cb-469f-a165-70867728950e", "0f8fad5b-d9cb0469f-a165-70867728950e",
+                 "0f8fad5b-d9cb-469f0a165-70867728950e", "0f8fad5b-d9cb-469f-a165070867728950e"})
+            row(id, withID(id), false);
         row("id with a letter too far", withID("0f8fad5b-d9cb-469f-a165-70867728950g"), false);
         row("a fraction of a second", QByteArray(good).replace("08:30:00Z", "08:30:00.5Z"), false);
         row("a date alone", QByteArray(good).replace("T08:30:00Z", ""), false);

@@ -50,6 +50,7 @@ private Q_SLOTS:
         QCOMPARE(reminders->reminders(), (QList<Reminder>{early, late, alsoLate}));
         QCOMPARE(saved(), reminders->reminders());
         QCOMPARE(reminders->reminder(note), early);
+        QCOMPARE(late.createdAt, m_clock.now());
 
         QCOMPARE(m_scheduler->askedOptions, (QList<int>{6, 6, 6}));
         QCOMPARE(m_scheduler->added.first(), (NotificationRequest{text(late.id), u"Quillet 提醒"_s, u"后"_s,
@@ -59,8 +60,8 @@ private Q_SLOTS:
     void the_log_tells_what_the_service_answered()
     {
         const auto reminders = store();
-        m_scheduler->error = u"no\nway"_s;
-        QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization error: no way");
+        m_scheduler->error = u"no\r\nway"_s;
+        QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization error: no  way");
         QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=false");
         reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
         m_scheduler->error.clear();
@@ -68,6 +69,51 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=true");
         reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
         QCOMPARE(reminders->authorizationStatus(), AuthorizationStatus::Authorized);
+    }
+
+    void the_status_is_asked_at_start_and_announced_only_when_it_changes()
+    {
+        m_scheduler->status = AuthorizationStatus::Denied;
+        auto reminders = store();
+        QCOMPARE(reminders->authorizationStatus(), AuthorizationStatus::Denied);
+        QSignalSpy changed(reminders.get(), &ReminderStore::authorizationStatusChanged);
+        reminders->refreshAuthorizationStatus();
+        QCOMPARE(changed.count(), 0);
+        m_scheduler->completions.first()(AuthorizationStatus::Authorized);
+        QCOMPARE(changed.count(), 1);
+        reminders.reset();
+        m_scheduler->completions.first()(AuthorizationStatus::Denied); // an answer after the store has gone
+    }
+
+    void each_change_is_announced_before_it_is_saved()
+    {
+        m_scheduler->status = AuthorizationStatus::Authorized;
+        const auto reminders = store();
+        writeFile(file(), noteEncoder::encode(QList<Reminder>()));
+        QString log; // how many reminders are in the list and in the file, at each announcement
+        connect(reminders.get(), &ReminderStore::remindersChanged, this,
+            [&] { log += u"%1/%2 "_s.arg(reminders->reminders().size()).arg(saved().size()); });
+        for (const char *time : {"2026-03-02T02:05:00Z", "2026-03-02T02:06:00Z"})
+            reminders->schedule({}, at(time), u"x"_s, u"x"_s);
+        reminders->cancel(reminders->reminders().first().id);
+        m_clock.set("2026-03-02T02:06:00Z");
+        reminders->pruneExpired();
+        QCOMPARE(log, u"1/0 2/1 1/2 0/1 "_s);
+        QFile::remove(file());
+        reminders->pruneExpired(); // nothing
+        QVERIFY(!QFile::exists(file()));
+    }
+
+    void a_failed_save_is_logged_and_made_good_by_the_next()
+    {
+        const auto reminders = store();
+        QVERIFY(QDir().mkdir(file()));
+        QTest::ignoreMessage(QtWarningMsg,
+            QRegularExpression(u"^Quillet: failed to save reminders: cannot replace .*: Is a directory$"_s));
+        reminders->schedule({}, at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        QVERIFY(QDir().rmdir(file()));
+        reminders->schedule({}, at("2026-03-02T02:06:00Z"), u"x"_s, u"x"_s);
+        QCOMPARE(saved(), reminders->reminders());
     }
 
     void cancelling_withdraws_each_request_of_the_note()
@@ -115,9 +161,12 @@ private Q_SLOTS:
         Reminder ahead = passed;
         ahead.id = QUuid::createUuid();
         ahead.fireAt = at("2026-03-03T01:00:00Z");
-        writeFile(file(), noteEncoder::encode(QList<Reminder>{ahead, passed}));
+        Reminder dueNow = passed;
+        dueNow.id = QUuid::createUuid();
+        dueNow.fireAt = m_clock.now();
+        writeFile(file(), noteEncoder::encode(QList<Reminder>{ahead, dueNow, passed}));
         const auto reminders = store();
-        QCOMPARE(reminders->reminders(), (QList<Reminder>{passed, ahead}));
+        QCOMPARE(reminders->reminders(), (QList<Reminder>{passed, dueNow, ahead}));
         QCOMPARE(m_scheduler->added.size(), 1);
         QCOMPARE(m_scheduler->added.first().identifier, text(ahead.id));
         QCOMPARE(ReminderStore::active(), reminders.get());

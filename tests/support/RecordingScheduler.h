@@ -21,12 +21,14 @@ public:
     }
     void notificationAuthorizationStatus(std::function<void(AuthorizationStatus)> completion) override
     {
+        completions.append(completion);
         completion(status);
     }
 
     AuthorizationStatus status = AuthorizationStatus::NotDetermined;
     QString error;
     QList<int> askedOptions;
+    QList<std::function<void(AuthorizationStatus)>> completions; ///< called already; may be called again
     QList<NotificationRequest> added;
     QList<QStringList> removed;
 };
