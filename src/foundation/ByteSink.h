@@ -4,9 +4,8 @@
 
 #include <functional>
 
-/// Takes bytes piece by piece; they need not outlive the call.
+/// Receives bytes piece by piece; they are valid only during the call.
 using ByteSink = std::function<void(QByteArrayView)>;
 
-/// Gives its bytes, from first to last, to a sink. So a file can be written that never stands in memory as a
-/// whole.
+/// Passes its bytes in order to a sink, so that a file can be written without holding all of it in memory.
 using ByteSource = std::function<void(const ByteSink &)>;

@@ -71,7 +71,7 @@ Instant Calendar::fromLocal(LocalTime local) const
     if (offsetAt(instant) == former)
         return instant;
     // The wall time was skipped: the offset before the gap leads past its end, which is the next existing
-    // moment.
+    // instant.
     icu::TimeZoneTransition gap;
     if (m_zone->icuZone->getPreviousTransition(UDate(instant.time_since_epoch().count()), true, gap))
         return Instant(milliseconds(qint64(gap.getTime())));

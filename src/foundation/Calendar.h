@@ -9,7 +9,7 @@
 
 /// The Gregorian calendar in one time zone. A cheap value.
 ///
-/// Wall times that a zone skips move to the next moment that exists; those that occur twice mean the first.
+/// A wall time that the zone skips becomes the next existing instant; one that occurs twice means the first.
 class Calendar
 {
 public:
@@ -23,14 +23,14 @@ public:
 
     /// @p timeZoneID is an IANA name ("Asia/Shanghai"); an unknown one means UTC.
     explicit Calendar(const QByteArray &timeZoneID);
-    /// In the time zone that the machine is set to now.
+    /// In the current time zone of the machine.
     [[nodiscard]] static Calendar system();
 
     [[nodiscard]] QByteArray timeZoneID() const;
 
     [[nodiscard]] Day day(Instant instant) const;
     [[nodiscard]] TimeOfDay timeOfDay(Instant instant) const;
-    /// The first moment of the day: not always 00:00.
+    /// The first instant of the day, which is not always 00:00.
     [[nodiscard]] Instant startOfDay(Day day) const;
     [[nodiscard]] Instant startOfDay(Instant instant) const { return startOfDay(day(instant)); }
     [[nodiscard]] Instant startOfMinute(Instant instant) const;
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] std::optional<Instant> instant(Day day, TimeOfDay time) const;
     /// The same wall time @p days later.
     [[nodiscard]] Instant addingDays(Instant instant, int days) const;
-    /// Counted between the starts of the two days, so never off by one around a change of the clocks.
+    /// From the day of @p from to the day of @p to, whatever the times of day and however long the days are.
     [[nodiscard]] int daysBetween(Instant from, Instant to) const;
 
 private:

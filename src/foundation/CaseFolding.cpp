@@ -12,9 +12,8 @@ const char16_t *utf16(QStringView text)
     return reinterpret_cast<const char16_t *>(text.utf16());
 }
 
-/// A text's folded form and, for each of its UTF-16 units, where the character behind it starts in the text.
-/// Folding looks at one character at a time, so the folded text is the characters' folded forms one after
-/// another.
+/// A text's folded form and, for each of its UTF-16 units, the start in the text of the code point it comes
+/// from. Folding treats each code point separately, so the folded text is the concatenation of their forms.
 struct MappedFold {
     QString folded;
     std::vector<qsizetype> origin; ///< one entry more than units: the text's length
@@ -27,7 +26,7 @@ struct MappedFold {
         for (qsizetype i = 0; i < text.size();) {
             const qsizetype start = i;
             U16_FWD_1(units, i, text.size());
-            char16_t form[8]; // no character folds to more than three
+            char16_t form[8]; // no code point folds to more than three
             UErrorCode status = U_ZERO_ERROR;
             const int32_t length =
                 u_strFoldCase(form, 8, units + start, int32_t(i - start), U_FOLD_CASE_DEFAULT, &status);
@@ -37,7 +36,7 @@ struct MappedFold {
         origin.push_back(text.size());
     }
 
-    /// A position between two characters of the text, not within the folded form of one.
+    /// Whether the position is between two code points of the text, not within the folded form of one.
     [[nodiscard]] bool isBoundary(qsizetype position) const
     {
         return position == 0 || origin[size_t(position)] != origin[size_t(position) - 1];

@@ -5,13 +5,13 @@
 #include <QList>
 #include <QString>
 
-/// Comparison without regard to case by Unicode full case folding: no locale, diacritics kept, "ß" equal to
-/// "ss".
+/// Case-insensitive comparison by full Unicode case folding: independent of the locale, diacritics are kept,
+/// "ß" equals "ss".
 namespace CaseFolding {
 [[nodiscard]] QString folded(QStringView text);
 
-/// Where @p query stands in @p text, case aside: from left to right, not overlapping. The ranges are those of
-/// the original characters ("STRASSE" finds the six of "Straße"); a hit never begins or ends within a
-/// character.
+/// The matches of @p query in @p text, ignoring case, from left to right and not overlapping. The ranges
+/// refer to @p text itself ("STRASSE" matches the six characters of "Straße"); no match begins or ends within
+/// a character.
 [[nodiscard]] QList<TextRange> occurrences(QStringView text, QStringView query);
 } // namespace CaseFolding

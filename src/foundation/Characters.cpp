@@ -22,9 +22,9 @@ icu::BreakIterator &boundaries()
 
 TextRange Characters::at(QStringView text, qsizetype position)
 {
-    constexpr qsizetype longest = 256; // no character that people write is longer
-    const qsizetype from = std::max<qsizetype>(0, position - longest);
-    const QStringView window = text.sliced(from, std::min(text.size(), position + longest) - from);
+    constexpr qsizetype maxLength = 256; // longer than any character in real text
+    const qsizetype from = std::max<qsizetype>(0, position - maxLength);
+    const QStringView window = text.sliced(from, std::min(text.size(), position + maxLength) - from);
     const icu::UnicodeString source(
         false, reinterpret_cast<const char16_t *>(window.utf16()), int32_t(window.size()));
     boundaries().setText(source);

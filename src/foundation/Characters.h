@@ -5,19 +5,19 @@
 #include <QList>
 #include <QStringView>
 
-/// Characters as a person sees them: grapheme clusters, one or many UTF-16 units each.
+/// User-perceived characters: grapheme clusters, each of one or more UTF-16 units.
 namespace Characters {
-/// The character that the unit at @p position belongs to. It is looked for within a few hundred units, so
-/// that asking costs the same in a long text.
+/// The character that contains the unit at @p position. Only a few hundred units around it are examined, so
+/// the cost does not depend on the length of the text.
 [[nodiscard]] TextRange at(QStringView text, qsizetype position);
 
-/// All of them, from left to right.
+/// All characters, from left to right.
 [[nodiscard]] QList<TextRange> all(QStringView text);
 
-/// Whether each code point is sure to be a character by itself: no marks, no joiners, no single letters of
-/// Hangul. Most texts are so, and can be walked without asking for boundaries.
+/// Whether every code point is certain to be a character of its own: no combining marks, joiners or Hangul
+/// jamo. True for most texts, which can then be traversed without finding boundaries.
 [[nodiscard]] bool areSingleCodePoints(QStringView text);
 
-/// Without spaces and tabs at both ends; line breaks stay.
+/// Without the spaces and tabs at both ends; line breaks are kept.
 [[nodiscard]] QStringView trimmedOfBlanks(QStringView text);
 } // namespace Characters

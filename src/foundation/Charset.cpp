@@ -9,7 +9,7 @@
 std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &name, Extent extent)
 {
     if (name.isEmpty())
-        return std::nullopt; // which ICU takes for its default
+        return std::nullopt; // ICU would use its default charset
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(
         ucnv_open(name.constData(), &status), &ucnv_close);
@@ -17,7 +17,7 @@ std::optional<QString> Charset::decode(QByteArrayView bytes, const QByteArray &n
         return std::nullopt;
     ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
 
-    // No encoding makes more than two UTF-16 units of a byte.
+    // No encoding yields more than two UTF-16 units per byte.
     QString text(bytes.size() * 2 + 2, Qt::Uninitialized);
     auto *target = reinterpret_cast<char16_t *>(text.data());
     const char *source = bytes.data();

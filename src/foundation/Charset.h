@@ -5,18 +5,18 @@
 
 #include <optional>
 
-/// Texts in other encodings than our own.
+/// Decoding of text in other encodings.
 namespace Charset {
 enum class Extent {
     Whole,
-    Beginning, ///< cut off somewhere, maybe within a character, which is then left out
+    Beginning, ///< truncated, possibly within a character, which is then left out
 };
 
-/// Nothing when the name (as IANA has it, in any case) is unknown, or when a single byte does not decode.
+/// Nothing if the name (an IANA name, in any case) is unknown or if any byte cannot be decoded.
 [[nodiscard]] std::optional<QString> decode(
     QByteArrayView bytes, const QByteArray &name, Extent extent = Extent::Whole);
 
-/// UTF-8 in which anything may be broken: as few U+FFFD stand for what does not decode as Unicode recommends.
-/// A byte order mark at the start is no part of the text.
+/// Decodes UTF-8 that may be invalid: each maximal invalid sequence becomes one U+FFFD, as Unicode
+/// recommends. A byte order mark at the start is removed.
 [[nodiscard]] QString decodeLeniently(QByteArrayView bytes);
 } // namespace Charset

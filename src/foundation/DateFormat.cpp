@@ -41,14 +41,15 @@ std::shared_ptr<const icu::SimpleDateFormat> makeFormatter(const Key &key)
 QString DateFormat::format(
     Instant instant, QStringView pattern, const QByteArray &locale, const Calendar &calendar)
 {
-    // A handful of patterns in one locale; a new time zone starts afresh.
+    // Few patterns are in use at a time. A change of the time zone leaves stale entries, so the cache is
+    // bounded.
     static QHash<Key, std::shared_ptr<const icu::SimpleDateFormat>> formatters;
-    constexpr qsizetype mostKept = 16;
+    constexpr qsizetype maxFormatters = 16;
 
     const Key key{pattern.toString(), locale, calendar.timeZoneID()};
     auto found = formatters.constFind(key);
     if (found == formatters.cend()) {
-        if (formatters.size() >= mostKept)
+        if (formatters.size() >= maxFormatters)
             formatters.clear();
         found = formatters.insert(key, makeFormatter(key));
     }

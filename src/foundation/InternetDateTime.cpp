@@ -8,33 +8,33 @@ namespace {
 constexpr Instant earliest{sys_days(year(0) / January / 1)};
 constexpr Instant latest{sys_days(year(9999) / December / 31) + hours(24) - milliseconds(1)};
 
-void writePair(char *place, unsigned value)
+void writePair(char *out, unsigned value)
 {
-    place[0] = char('0' + value / 10);
-    place[1] = char('0' + value % 10);
+    out[0] = char('0' + value / 10);
+    out[1] = char('0' + value % 10);
 }
 } // namespace
 
-void InternetDateTime::write(Instant instant, char *place)
+void InternetDateTime::write(Instant instant, char *out)
 {
     const auto wholeSeconds = floor<seconds>(std::clamp(instant, earliest, latest));
     const auto midnight = floor<days>(wholeSeconds);
     const year_month_day date(midnight);
     const hh_mm_ss time(wholeSeconds - midnight);
     const auto yearNumber = unsigned(int(date.year()));
-    writePair(place, yearNumber / 100);
-    writePair(place + 2, yearNumber % 100);
-    place[4] = '-';
-    writePair(place + 5, unsigned(date.month()));
-    place[7] = '-';
-    writePair(place + 8, unsigned(date.day()));
-    place[10] = 'T';
-    writePair(place + 11, unsigned(time.hours().count()));
-    place[13] = ':';
-    writePair(place + 14, unsigned(time.minutes().count()));
-    place[16] = ':';
-    writePair(place + 17, unsigned(time.seconds().count()));
-    place[19] = 'Z';
+    writePair(out, yearNumber / 100);
+    writePair(out + 2, yearNumber % 100);
+    out[4] = '-';
+    writePair(out + 5, unsigned(date.month()));
+    out[7] = '-';
+    writePair(out + 8, unsigned(date.day()));
+    out[10] = 'T';
+    writePair(out + 11, unsigned(time.hours().count()));
+    out[13] = ':';
+    writePair(out + 14, unsigned(time.minutes().count()));
+    out[16] = ':';
+    writePair(out + 17, unsigned(time.seconds().count()));
+    out[19] = 'Z';
 }
 
 QByteArray InternetDateTime::format(Instant instant)
@@ -45,7 +45,7 @@ QByteArray InternetDateTime::format(Instant instant)
 }
 
 namespace {
-/// Reads fixed-width fields from the front of a text and remembers whether all of them were there.
+/// Reads fixed-width fields from the front of a text and remembers whether all of them were valid.
 class FieldReader
 {
 public:

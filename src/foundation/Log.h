@@ -3,7 +3,6 @@
 #include <QStringView>
 
 namespace Log {
-/// Writes "Quillet: " and the message as one line to the system log: standard error, which the journal
-/// collects.
+/// Writes "Quillet: " and the message as one line to standard error, which the system journal collects.
 void line(QStringView message);
 } // namespace Log

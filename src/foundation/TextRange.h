@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// A stretch of a text, in UTF-16 units; @c end lies behind its last unit.
+/// A range of a text in UTF-16 units; @c end is one past the last unit.
 struct TextRange {
     qsizetype start = 0;
     qsizetype end = 0;

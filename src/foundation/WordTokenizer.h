@@ -5,8 +5,8 @@
 #include <QList>
 #include <QStringView>
 
-/// Words by Unicode's rules, and in Chinese and Japanese by a dictionary.
+/// Words by the Unicode rules; for Chinese and Japanese by a dictionary.
 namespace WordTokenizer {
-/// Letters, numbers and ideographs that stand together, from left to right; punctuation and blanks are none.
+/// The words, numbers and ideographs from left to right, without punctuation and white space.
 [[nodiscard]] QList<TextRange> words(QStringView text);
 } // namespace WordTokenizer

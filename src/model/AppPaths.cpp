@@ -16,15 +16,15 @@ Outcome move(const QString &name, const QString &oldFolder, const QString &newFo
         return Failure{file.errorString()};
     return Done{};
 }
-} // namespace
 
-QString AppPaths::applicationSupport()
+QString applicationSupport()
 {
-    // A relative path would mean another folder at every start; the base directory specification has it
-    // ignored.
-    const QString told = qEnvironmentVariable("XDG_DATA_HOME");
-    return QDir::isAbsolutePath(told) ? told : QDir::homePath() + QStringLiteral("/.local/share");
+    // The base directory specification requires relative paths to be ignored: they would depend on the
+    // current directory.
+    const QString configured = qEnvironmentVariable("XDG_DATA_HOME");
+    return QDir::isAbsolutePath(configured) ? configured : QDir::homePath() + QStringLiteral("/.local/share");
 }
+} // namespace
 
 QString AppPaths::dataFolder()
 {

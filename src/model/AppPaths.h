@@ -2,18 +2,15 @@
 
 #include <QString>
 
-/// Where the data files live.
+/// The locations of the data files.
 namespace AppPaths {
-/// The person's data folder: $XDG_DATA_HOME, or ~/.local/share.
-[[nodiscard]] QString applicationSupport();
-
-/// Quillet's own folder in it.
+/// "Quillet" in the user's data folder: $XDG_DATA_HOME if it is absolute, else ~/.local/share.
 [[nodiscard]] QString dataFolder();
 
-/// Moves the data files out of the folder that an earlier name of the program used, where they are not yet in
-/// the new one. Failures are logged, one line each.
+/// Moves data files from the folder used under the program's earlier name, unless the new folder has them
+/// already. Each failure is one line in the log.
 void migrateLegacyDataIfNeeded(const QString &base);
 
-/// The path of a data file at its default place, after the migration.
+/// The path of a data file in the default folder. Migrates legacy data first.
 [[nodiscard]] QString defaultFile(const QString &name);
 } // namespace AppPaths

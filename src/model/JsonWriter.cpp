@@ -9,7 +9,7 @@
 namespace {
 constexpr std::array<char, 128> makeEscapes()
 {
-    // 0: as it stands; 'u': by its number; else the letter behind the backslash.
+    // 0: unescaped; 'u': by code point; else the letter after the backslash.
     std::array<char, 128> escapes{};
     for (size_t control = 0; control < 0x20; ++control)
         escapes[control] = 'u';
@@ -75,7 +75,7 @@ char *write(char *out, QByteArrayView bytes)
     return out + bytes.size();
 }
 
-/// Of a length that the compiler knows, which makes it a few moves instead of a call.
+/// The length is known at compile time, so this is a few moves instead of a call.
 template <size_t Size>
 char *writeLiteral(char *out, const char (&literal)[Size])
 {
@@ -83,44 +83,44 @@ char *writeLiteral(char *out, const char (&literal)[Size])
     return out + Size - 1;
 }
 
-/// More than any separator or bracket takes.
-constexpr qsizetype mostPunctuation = 16;
+/// More than any separator or bracket needs.
+constexpr qsizetype maxPunctuation = 16;
 
-/// Small enough to stay in the processor's cache.
-constexpr qsizetype usualBuffer = 64 * 1024;
+/// Small enough for the processor's cache.
+constexpr qsizetype bufferSize = 64 * 1024;
 
-/// One UTF-16 unit becomes at most the six bytes of an escape.
-constexpr qsizetype mostBytesPerUnit = 6;
+/// An escape such as \u0001 is the longest form of one UTF-16 unit.
+constexpr qsizetype maxBytesPerUnit = 6;
 } // namespace
 
 JsonWriter::JsonWriter(const ByteSink &sink)
     : m_sink(sink)
 {
-    m_buffer.resize(usualBuffer);
-    written(writeLiteral(grow(mostPunctuation), "[\n"));
+    m_buffer.resize(bufferSize);
+    setEnd(writeLiteral(reserve(maxPunctuation), "[\n"));
 }
 
-char *JsonWriter::grow(qsizetype most)
+char *JsonWriter::reserve(qsizetype maxBytes)
 {
-    if (m_size + most > m_buffer.size()) {
+    if (m_size + maxBytes > m_buffer.size()) {
         m_sink(QByteArrayView(m_buffer.constData(), m_size));
         m_size = 0;
-        m_buffer.resize(std::max(most, usualBuffer));
+        m_buffer.resize(std::max(maxBytes, bufferSize));
     }
     return m_buffer.data() + m_size;
 }
 
 void JsonWriter::beginObject()
 {
-    char *out = grow(mostPunctuation);
-    written(m_hasObjects ? writeLiteral(out, ",\n  {") : writeLiteral(out, "  {"));
+    char *out = reserve(maxPunctuation);
+    setEnd(m_hasObjects ? writeLiteral(out, ",\n  {") : writeLiteral(out, "  {"));
     m_hasObjects = true;
     m_hasMembers = false;
 }
 
-char *JsonWriter::beginMember(QByteArrayView key, qsizetype mostValue)
+char *JsonWriter::beginMember(QByteArrayView key, qsizetype maxValueBytes)
 {
-    char *out = grow(2 * mostPunctuation + key.size() + mostValue);
+    char *out = reserve(2 * maxPunctuation + key.size() + maxValueBytes);
     out = m_hasMembers ? writeLiteral(out, ",\n    \"") : writeLiteral(out, "\n    \"");
     m_hasMembers = true;
     return writeLiteral(write(out, key), "\" : \"");
@@ -128,7 +128,7 @@ char *JsonWriter::beginMember(QByteArrayView key, qsizetype mostValue)
 
 void JsonWriter::add(QByteArrayView key, QStringView value)
 {
-    char *out = beginMember(key, value.size() * mostBytesPerUnit);
+    char *out = beginMember(key, value.size() * maxBytesPerUnit);
     for (qsizetype i = 0; i < value.size(); ++i) {
         const char16_t unit = value[i].unicode();
         if (unit < 0x80) {
@@ -143,7 +143,7 @@ void JsonWriter::add(QByteArrayView key, QStringView value)
         }
     }
     *out++ = '"';
-    written(out);
+    setEnd(out);
 }
 
 void JsonWriter::add(QByteArrayView key, Instant value)
@@ -152,7 +152,7 @@ void JsonWriter::add(QByteArrayView key, Instant value)
     InternetDateTime::write(value, out);
     out += InternetDateTime::length;
     *out++ = '"';
-    written(out);
+    setEnd(out);
 }
 
 void JsonWriter::add(QByteArrayView key, QUuid value)
@@ -171,16 +171,16 @@ void JsonWriter::add(QByteArrayView key, QUuid value)
         out = writeHex(out, value.data4[i], 2);
     }
     *out++ = '"';
-    written(out);
+    setEnd(out);
 }
 
 void JsonWriter::endObject()
 {
-    written(writeLiteral(grow(mostPunctuation), "\n  }"));
+    setEnd(writeLiteral(reserve(maxPunctuation), "\n  }"));
 }
 
 void JsonWriter::finish()
 {
-    written(writeLiteral(grow(mostPunctuation), "\n]"));
+    setEnd(writeLiteral(reserve(maxPunctuation), "\n]"));
     m_sink(QByteArrayView(m_buffer.constData(), m_size));
 }

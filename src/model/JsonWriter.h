@@ -8,8 +8,8 @@
 #include <QUuid>
 
 /// Writes an array of flat objects of strings in the exact form of the data files: UTF-8, two-space
-/// indentation, a blank on both sides of the colon, every slash escaped, an empty array as "[", an empty
-/// line, "]". Keys must be added in ascending order. A surrogate without its partner is written as U+FFFD.
+/// indentation, a space on both sides of the colon, every slash escaped, an empty array as "[", an empty
+/// line, "]". Keys must be added in ascending order. An unpaired surrogate is written as U+FFFD.
 class JsonWriter
 {
 public:
@@ -23,14 +23,13 @@ public:
     void finish();
 
 private:
-    /// Makes room for at most so many bytes more and tells where to write them; written() is told where they
-    /// end.
-    char *grow(qsizetype most);
-    void written(const char *end) { m_size = end - m_buffer.constData(); }
-    char *beginMember(QByteArrayView key, qsizetype mostValue);
+    /// Returns where to write up to @p maxBytes. Call setEnd() with the end of what was written.
+    char *reserve(qsizetype maxBytes);
+    void setEnd(const char *end) { m_size = end - m_buffer.constData(); }
+    char *beginMember(QByteArrayView key, qsizetype maxValueBytes);
 
     const ByteSink &m_sink;
-    QByteArray m_buffer; ///< longer than what is written to it
+    QByteArray m_buffer; ///< its capacity; m_size bytes are used
     qsizetype m_size = 0;
     bool m_hasObjects = false;
     bool m_hasMembers = false;

@@ -25,7 +25,7 @@ constexpr std::array<signed char, 256> makeHexValues()
     return values;
 }
 
-/// Exactly the 36 characters of the canonical form, in either case.
+/// Accepts exactly the 36 characters of the canonical form, in either case.
 std::optional<QUuid> parseUuid(std::string_view text)
 {
     static constexpr std::array<signed char, 256> hexValues = makeHexValues();
@@ -33,7 +33,7 @@ std::optional<QUuid> parseUuid(std::string_view text)
     if (text.size() != 36 || text[8] != '-' || text[13] != '-' || text[18] != '-' || text[23] != '-')
         return std::nullopt;
     std::array<uchar, 16> bytes{};
-    int all = 0; // negative as soon as one digit is none
+    int all = 0; // negative if any digit is invalid
     for (size_t i = 0; i < bytes.size(); ++i) {
         const int value = hexValues[uchar(text[bytesAt[i]])] * 16 | hexValues[uchar(text[bytesAt[i] + 1])];
         all |= value;
@@ -44,51 +44,51 @@ std::optional<QUuid> parseUuid(std::string_view text)
     return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
 }
 
-// Each reads one value into its place and tells whether it could.
+// Each reads one value into @p out and returns whether it is valid.
 
-bool read(dom::element value, QString &place)
+bool read(dom::element value, QString &out)
 {
     std::string_view text;
     if (value.get(text) != simdjson::SUCCESS)
         return false;
-    place = QString::fromUtf8(text.data(), qsizetype(text.size()));
-    if (text.starts_with(byteOrderMark)) // which Qt takes for a mark, but in a note it is a character
-        place.prepend(QChar(QChar::ByteOrderMark));
+    out = QString::fromUtf8(text.data(), qsizetype(text.size()));
+    if (text.starts_with(byteOrderMark)) // Qt drops it, but in a note it is a character
+        out.prepend(QChar(QChar::ByteOrderMark));
     return true;
 }
 
-bool read(dom::element value, QUuid &place)
+bool read(dom::element value, QUuid &out)
 {
     std::string_view text;
     if (value.get(text) != simdjson::SUCCESS)
         return false;
     const auto id = parseUuid(text);
-    place = id.value_or(QUuid());
+    out = id.value_or(QUuid());
     return id.has_value();
 }
 
-bool read(dom::element value, Instant &place)
+bool read(dom::element value, Instant &out)
 {
     std::string_view text;
     if (value.get(text) != simdjson::SUCCESS)
         return false;
     const auto instant = InternetDateTime::parse({text.data(), qsizetype(text.size())});
-    place = instant.value_or(Instant());
+    out = instant.value_or(Instant());
     return instant.has_value();
 }
 
 template <typename T>
-bool read(dom::element value, std::optional<T> &place)
+bool read(dom::element value, std::optional<T> &out)
 {
     if (value.is_null()) {
-        place.reset();
+        out.reset();
         return true;
     }
-    return read(value, place.emplace());
+    return read(value, out.emplace());
 }
 
-/// Whether an address is as simple as most are: a web address of a named host, in characters that need no
-/// thought.
+/// Whether this is the common, simple case: a web address with a host name, in characters that are always
+/// valid. Avoids parsing the URL.
 bool isPlainAddress(QStringView address)
 {
     const qsizetype scheme = address.indexOf(u"://");
@@ -168,8 +168,8 @@ Result<QList<Record>> decode(QByteArrayView bytes)
     dom::parser parser;
     dom::array array;
     if (bytes.isEmpty())
-        return Failure{QStringLiteral("the text is empty")}; // there may not even be a pointer to it
-    // simdjson skips a byte order mark, which our form does not have.
+        return Failure{QStringLiteral("the text is empty")}; // and may have no data pointer
+    // simdjson would skip a byte order mark, which the file format does not allow.
     if (bytes.startsWith(byteOrderMark.data()))
         return Failure{QStringLiteral("the text begins with a byte order mark")};
     if (const auto error = parser.parse(bytes.data(), size_t(bytes.size())).get(array))
@@ -180,7 +180,7 @@ Result<QList<Record>> decode(QByteArrayView bytes)
     for (const dom::element element : array) {
         dom::object object;
         if (element.get(object) != simdjson::SUCCESS || !read(object, records.emplaceBack()))
-            return Failure{QStringLiteral("element %1 is not as it should be").arg(records.size() - 1)};
+            return Failure{QStringLiteral("element %1 is invalid").arg(records.size() - 1)};
     }
     return records;
 }

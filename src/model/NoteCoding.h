@@ -14,7 +14,7 @@ namespace noteEncoder {
 void encode(const QList<Note> &notes, const ByteSink &sink);
 void encode(const QList<Reminder> &reminders, const ByteSink &sink);
 
-/// The same, all at once.
+/// The same, as one byte array.
 template <typename Record>
 [[nodiscard]] QByteArray encode(const QList<Record> &records)
 {
@@ -24,7 +24,7 @@ template <typename Record>
 }
 } // namespace noteEncoder
 
-/// Strict: one element that is not as it should be fails the whole array. Unknown keys are ignored.
+/// Strict: one invalid element fails the whole array. Unknown keys are ignored.
 namespace noteDecoder {
 [[nodiscard]] Result<QList<Note>> decodeNotes(QByteArrayView bytes);
 [[nodiscard]] Result<QList<Reminder>> decodeReminders(QByteArrayView bytes);

@@ -9,6 +9,7 @@
 
 namespace NoteFileCodec {
 /// The notes of an import file: JSON in the form of the data files, or else Markdown, whose notes without a
-/// date are of today. Fails with "unrecognizedFormat" when it is no JSON and Markdown yields no note.
+/// date belong to the day of @p now. Fails with "unrecognizedFormat" if it is not such JSON and, read as
+/// Markdown, contains no note.
 [[nodiscard]] Result<QList<Note>> decode(QByteArrayView bytes, Instant now, const Calendar &calendar);
 } // namespace NoteFileCodec

@@ -56,7 +56,7 @@ TimePrefix splitTimePrefix(QStringView text)
     const int second = number(3);
     if (hour > 23 || minute > 59)
         return {std::nullopt, text};
-    // Seconds that no clock shows are read, and count as none.
+    // Seconds from 60 on are consumed, but ignored.
     return {
         hours(hour) + minutes(minute) + seconds(second < 60 ? second : 0), text.sliced(match->range().end)};
 }
@@ -68,7 +68,7 @@ QStringView withoutListMarker(QStringView line)
     return match ? line.sliced(match->range().end) : line;
 }
 
-/// Reads line after line and remembers what the next one belongs to.
+/// Reads line by line and keeps the state that the next line depends on.
 class Parser final
 {
 public:
@@ -120,7 +120,7 @@ private:
 
     const Calendar &m_calendar;
     Instant m_day;
-    int m_untimed = 0; ///< notes of the day without a time
+    int m_untimed = 0; ///< notes without a time on this day so far
     bool m_takesQuote = false;
     QList<Note> m_notes;
 };

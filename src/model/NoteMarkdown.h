@@ -6,13 +6,14 @@
 #include <QList>
 #include <QString>
 
-/// Notes as a Markdown journal: a heading for each day, a list item with its time for each note, its quote
-/// below.
+/// Notes as a Markdown journal: a heading for each day, a list item with the time for each note, its quote
+/// below it.
 namespace NoteMarkdown {
-/// In the order given; ids and links are lost, seconds too.
+/// In the order given. Ids, links and seconds are not exported.
 [[nodiscard]] QString exported(const QList<Note> &notes, const Calendar &calendar);
 
-/// New notes, in the order of the lines. Notes before any heading are of @p fallbackDay; those without a time
-/// follow each other by a second from the start of their day on. Never fails: what cannot be read is skipped.
+/// New notes, in the order of the lines. Notes before the first heading belong to @p fallbackDay; those
+/// without a time are one second apart, from the start of their day. Never fails: lines it cannot read are
+/// skipped.
 [[nodiscard]] QList<Note> parse(QStringView text, Instant fallbackDay, const Calendar &calendar);
 } // namespace NoteMarkdown

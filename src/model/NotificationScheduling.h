@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/// What is known of the person's leave to notify them.
+/// Whether the user allows notifications, as far as is known.
 enum class AuthorizationStatus {
     NotDetermined = 0,
     Denied = 1,
@@ -23,7 +23,7 @@ constexpr int alert = 4;
 
 /// One notification, to be shown once, at the start of a minute.
 struct NotificationRequest {
-    QString identifier; ///< a later request of the same name replaces this one
+    QString identifier; ///< a later request with the same identifier replaces this one
     QString title;
     QString body;
     QString noteID; ///< handed back when the notification is clicked
@@ -31,12 +31,13 @@ struct NotificationRequest {
     bool operator==(const NotificationRequest &) const = default;
 };
 
-/// The way to the notification service, which holds the requests until they are due.
+/// The notification service, which holds requests until they are due.
 class NotificationScheduling
 {
 public:
     virtual ~NotificationScheduling() = default;
-    /// @p error is empty unless the asking itself failed. The completion may come at once or later.
+    /// Asks the user for permission. @p error is empty unless asking failed. The completion may be called
+    /// immediately or later.
     virtual void requestAuthorization(
         int options, std::function<void(bool granted, const QString &error)> completion) = 0;
     virtual void add(const NotificationRequest &request) = 0;

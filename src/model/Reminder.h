@@ -7,7 +7,7 @@
 
 /// A notification that is due for a note.
 struct Reminder {
-    QUuid id; ///< also names the request at the notification service
+    QUuid id; ///< also the identifier of the notification request
     QUuid noteID;
     QString text;     ///< what the notification says: the note without its date and time
     QString fullText; ///< the whole note when the reminder was made

@@ -108,7 +108,7 @@ void ReminderStore::pruneExpired()
         && m_authorizationStatus != AuthorizationStatus::Provisional)
         return;
     const Instant now = m_clock.now();
-    // Earliest first, so that what has expired stands in front.
+    // The list is sorted by time, so the expired reminders are at its start.
     const auto firstToKeep = std::find_if(m_reminders.begin(), m_reminders.end(),
         [now](const Reminder &reminder) { return reminder.fireAt > now; });
     if (firstToKeep == m_reminders.begin())

@@ -12,36 +12,37 @@
 
 #include <optional>
 
-/// Owns the pending reminders and hands each one to the notification service. UI thread only.
+/// Owns the pending reminders and submits each to the notification service. UI thread only.
 class ReminderStore final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Loads the file and submits what is still to come. Service and clock must outlive the store.
+    /// Loads the file and submits the reminders that are in the future. Scheduler and clock must outlive the
+    /// store.
     ReminderStore(const QString &filePath, NotificationScheduling &scheduler, const Clock &clock,
         QObject *parent = nullptr);
     ~ReminderStore() override;
 
     [[nodiscard]] static QString defaultFilePath();
-    /// The store that was made last, while it exists.
+    /// The store created last, or null if it has been destroyed.
     [[nodiscard]] static ReminderStore *active() { return s_active; }
 
-    /// How a reminder is put to the notification service.
+    /// The request that is submitted for a reminder.
     [[nodiscard]] static NotificationRequest notificationRequest(
         const Reminder &reminder, const Calendar &calendar);
 
     [[nodiscard]] const QList<Reminder> &reminders() const { return m_reminders; } ///< earliest first
     [[nodiscard]] AuthorizationStatus authorizationStatus() const { return m_authorizationStatus; }
 
-    /// Nothing when @p fireAt is not in the future. A note may have several reminders.
+    /// Returns nothing if @p fireAt is not in the future. A note may have several reminders.
     std::optional<Reminder> schedule(
         QUuid noteID, Instant fireAt, const QString &text, const QString &fullText);
-    /// Schedules what was shown once more: ten minutes from now, at the next full minute.
+    /// Schedules a reminder that was shown again: ten minutes from now, rounded up to a full minute.
     std::optional<Reminder> snooze(QUuid noteID, const QString &text, const QString &fullText);
     void cancel(QUuid id);            ///< an unknown id changes nothing
     void cancelForNote(QUuid noteID); ///< all reminders of the note
-    /// Drops the reminders whose time has come; keeps them all while notifications are not allowed.
+    /// Removes the reminders that are due. Keeps all while notifications are not allowed.
     void pruneExpired();
     void refreshAuthorizationStatus();
 
