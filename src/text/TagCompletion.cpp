@@ -2,6 +2,7 @@
 
 #include "foundation/CaseFolding.h"
 #include "foundation/Characters.h"
+#include "text/TagEditing.h"
 
 QPointer<TagCompletionState> TagCompletionState::s_active;
 
@@ -10,7 +11,7 @@ std::optional<TagCompletion::Token> TagCompletion::activeToken(QStringView draft
     const QStringView text = draft.first(cursor);
     for (qsizetype i = cursor - 1; i >= 0; --i) {
         const QChar unit = text[i];
-        if (unit != u'#' && unit != u'@' && !unit.isSpace())
+        if (!TagEditing::endsTag(unit))
             continue;
         // Only as a whole character: in "#️⃣" the "#" is a part of another one.
         const TextRange character = Characters::at(text, i);

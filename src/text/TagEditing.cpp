@@ -11,13 +11,18 @@ bool isTag(const TagEditing::Token &token, QStringView name)
 }
 } // namespace
 
+bool TagEditing::endsTag(QChar character)
+{
+    return character == u'#' || character == u'@' || character.isSpace();
+}
+
 QList<TagEditing::Token> TagEditing::tokens(QStringView text)
 {
     // A plain loop, not a regular expression: every change of the notes counts the tags of all of them.
     QList<Token> tokens;
     for (qsizetype start = text.indexOf(u'#'); start >= 0;) {
         qsizetype end = start + 1;
-        while (end < text.size() && text[end] != u'#' && text[end] != u'@' && !text[end].isSpace())
+        while (end < text.size() && !endsTag(text[end]))
             ++end;
         if (end > start + 1)
             tokens.append({{start, end}, text.sliced(start, end - start).toString()});

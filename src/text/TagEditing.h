@@ -14,6 +14,9 @@ struct Token {
     bool operator==(const Token &) const = default;
 };
 
+/// Whether a tag ends before this character: white space, "#" or "@".
+[[nodiscard]] bool endsTag(QChar character);
+
 [[nodiscard]] QList<Token> tokens(QStringView text); ///< in text order
 
 /// Whether a tag may be renamed to this: not empty, and without space, tab, "#" or "@".
