@@ -24,7 +24,7 @@ bool set(std::optional<Fact> &fact, Value value)
 }
 
 // A new slot is a row of this table.
-constexpr DateSlot slots[] = {
+constexpr DateSlot slotTable[] = {
     {u"hour", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
             return isNumber(word, 0, 24) && set(facts.hour, word.value);
@@ -90,7 +90,7 @@ DateWord DateWord::joined(int weekday, DayPart part)
 
 const DateSlot *DateSlot::named(QStringView name)
 {
-    const auto *found = std::find_if(
-        std::begin(slots), std::end(slots), [name](const DateSlot &slot) { return slot.name == name; });
-    return found == std::end(slots) ? nullptr : found;
+    const auto *found = std::find_if(std::begin(slotTable), std::end(slotTable),
+        [name](const DateSlot &slot) { return slot.name == name; });
+    return found == std::end(slotTable) ? nullptr : found;
 }
