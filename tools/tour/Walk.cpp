@@ -47,8 +47,9 @@ void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
         screen.type(text);
         screen.press({Keysym::enter});
     }
+    const bool areSaved = PrivateDesktop::waitUntil([&road] { return road.savedNotes().size() == 4; });
     PrivateDesktop::settle();
-    tour.step(QStringLiteral("four notes"), road.savedNotes().size() == 4);
+    tour.step(QStringLiteral("four notes"), areSaved);
     const auto look = [&](const QString &what) {
         PrivateDesktop::settle();
         tour.step(what, road.panel().has_value());
