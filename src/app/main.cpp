@@ -4,6 +4,7 @@
 #include "desktop/SingleInstance.h"
 #include "model/AppPaths.h"
 #include "text/L10n.h"
+#include "ui/lists/RowListAccessible.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -58,6 +59,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(ApplicationIdentity::id);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    RowListAccessible::install();
     // For Qt's own texts, in the file dialogs and in the menu of the field.
     QTranslator qtTranslator;
     if (qtTranslator.load(

@@ -13,11 +13,11 @@
 #include "ui/composer/ReminderBar.h"
 #include "ui/lists/NoteListView.h"
 #include "ui/lists/RelatedNotesView.h"
-#include "ui/lists/RowDelegate.h"
+#include "ui/lists/RowListAccessible.h"
+#include "ui/lists/RowModel.h"
 #include "ui/panel/ContentView.h"
 #include "ui/panel/PanelWindow.h"
 
-#include <QAbstractItemModel>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -35,7 +35,8 @@ public:
         : reminders(m_folder.filePath(QStringLiteral("reminders.json")), m_scheduler, clock)
         , notes(m_folder.filePath(QStringLiteral("notes.json")), clock)
         , search(notes, nullptr, clock)
-        , content(new ContentView(notes, search, reminders, detector, titles, clock))
+        , content((RowListAccessible::install(),
+              new ContentView(notes, search, reminders, detector, titles, clock)))
         , window(content)
     {
         notes.setReminderStore(&reminders);
@@ -73,29 +74,27 @@ public:
     }
     RecordingScheduler &scheduler() { return m_scheduler; }
 
-    static QStringList rowsOf(const QAbstractItemView &view)
+    static QStringList rowsOf(const RowListView &view)
     {
         QStringList rows;
-        for (int row = 0; row < view.model()->rowCount(); ++row)
-            rows.append(view.model()->index(row, 0).data().toString());
+        for (int row = 0; row < view.model().rowCount(); ++row)
+            rows.append(view.model().text(row));
         return rows;
     }
     QStringList rows() { return rowsOf(list()); }
-    void clickRow(QAbstractItemView &view, int row)
+    void clickRow(RowListView &view, int row)
     {
-        const QPoint where = view.visualRect(view.model()->index(row, 0)).center();
+        const QPoint where = view.rectOf(row).center();
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, where);
     }
     /// Clicks the part, which is searched for point by point.
     void clickPart(int row, RowPart part)
     {
-        const RowDelegate *rows = list().findChild<RowDelegate *>();
-        const QRect rect = list().visualRect(list().model()->index(row, 0));
-        const RowLayout &layout = rows->layout(row, rect.width(), list().palette());
-        for (int y = 0; y < rect.height(); y += 2) {
-            for (int x = 0; x < rect.width(); x += 2) {
-                if (layout.partAt({x, y}) == part) {
-                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, rect.topLeft() + QPoint(x, y));
+        const QRect rect = list().rectOf(row);
+        for (int y = rect.top(); y < rect.bottom(); y += 2) {
+            for (int x = rect.left(); x < rect.right(); x += 2) {
+                if (list().hitAt({x, y}) == RowListView::Hit{row, part}) {
+                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {x, y});
                     return;
                 }
             }
@@ -104,14 +103,14 @@ public:
     }
     void doubleClick(int row)
     {
-        const QPoint where = list().visualRect(list().model()->index(row, 0)).center();
+        const QPoint where = list().rectOf(row).center();
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
     }
     /// An entry of the row's context menu.
     void choose(int row, const QString &entry) { choose(list(), row, entry); }
-    static void choose(QAbstractItemView &view, int row, const QString &entry)
+    static void choose(RowListView &view, int row, const QString &entry)
     {
-        const QPoint where = view.visualRect(view.model()->index(row, 0)).center();
+        const QPoint where = view.rectOf(row).center();
         QContextMenuEvent event(QContextMenuEvent::Mouse, where, view.viewport()->mapToGlobal(where));
         QCoreApplication::sendEvent(view.viewport(), &event);
         QMenu *menu = view.findChildren<QMenu *>().last();

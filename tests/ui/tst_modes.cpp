@@ -4,7 +4,6 @@
 #include "ui/dialogs/FileDialogs.h"
 #include "ui/dialogs/ImportExport.h"
 #include "ui/dialogs/ModalQuestion.h"
-#include "ui/lists/RowDelegate.h"
 #include "ui/lists/TagRenameState.h"
 
 #include <QClipboard>
@@ -123,7 +122,7 @@ private Q_SLOTS:
         panel.notes.add(u"新"_s);
         panel.press(Qt::Key_Down);
         QTRY_VERIFY(panel.list().hasFocus());
-        QCOMPARE(panel.list().currentIndex().row(), 1);
+        QCOMPARE(panel.list().currentRow(), 1);
         QTest::keyClick(&panel.list(), Qt::Key_Down);
         QTest::keyClick(&panel.list(), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"旧"_s);
@@ -217,7 +216,7 @@ private Q_SLOTS:
         panel.notes.add(u"甲 #a"_s);
         panel.notes.add(u"乙 #b"_s);
         panel.state().setMode(PanelMode::Tags);
-        auto *list = panel.find<QAbstractItemView>("tagList");
+        auto *list = panel.find<RowListView>("tagList");
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#b"_s, u"#a"_s}));
         const auto rename = [&](int row, const QString &to) {
             panel.choose(*list, row, u"重命名"_s);
@@ -264,7 +263,7 @@ private Q_SLOTS:
         panel.reminders.schedule(note.id, at("2026-03-02T02:30:00Z"), u"交房租"_s, note.text);
         panel.reminders.schedule(note.id, at("2026-03-03T02:00:00Z"), u"交房租"_s, note.text);
         panel.state().setMode(PanelMode::Reminders);
-        auto *list = panel.find<QAbstractItemView>("reminderList");
+        auto *list = panel.find<RowListView>("reminderList");
         QCOMPARE(panel.rowsOf(*list).size(), 2);
         QVERIFY(!panel.find<QWidget>("permissionBanner")->isVisible());
         panel.clock.set("2026-03-02T02:30:00Z");
@@ -291,7 +290,7 @@ private Q_SLOTS:
         QVERIFY(!empty->isEnabled());
         panel.notes.remove(note.id);
         panel.notes.remove(panel.notes.notes().first().id);
-        auto *list = panel.find<QAbstractItemView>("trashList");
+        auto *list = panel.find<RowListView>("trashList");
         QCOMPARE(panel.rowsOf(*list).size(), 3);
         QTest::keyClick(list, Qt::Key_Down);
         QTest::keyClick(list, Qt::Key_Return);

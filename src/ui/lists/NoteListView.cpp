@@ -4,7 +4,6 @@
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
 #include "ui/lists/RelatedNotesView.h"
-#include "ui/lists/RowListAccessible.h"
 #include "ui/lists/TimelineModel.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
@@ -27,7 +26,6 @@ NoteListView::NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &
     , m_state(state)
     , m_timeline(timeline)
 {
-    RowListAccessible::install(); // for the panel's other lists too, which are made after this one
     setObjectName(QStringLiteral("timeline"));
     setAccessibleName(L10n::text("笔记"));
     connect(&m_state, &PanelState::draftChanged, this, &NoteListView::queryDidChange);
@@ -42,11 +40,11 @@ void NoteListView::queryDidChange()
     if (m_timeline.query() == m_state.draft())
         return;
     m_timeline.setQuery(m_state.draft());
-    forgetHeights(); // the hits in the rows that stay are others
+    forgetHeights(); // other matches are coloured in the rows that stay
     verticalScrollBar()->setValue(0);
 }
 
-RowListView::EmptyState NoteListView::emptyState() const
+RowPainter::EmptyState NoteListView::emptyState() const
 {
     const bool isBlank = m_state.draft().trimmed().isEmpty();
     if (isBlank)
@@ -54,7 +52,7 @@ RowListView::EmptyState NoteListView::emptyState() const
     return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记")};
 }
 
-// What can be done with a note
+// Actions of a note
 
 void NoteListView::activate(int row)
 {
@@ -126,7 +124,7 @@ QColor NoteListView::groundOf(int row) const
 
 void NoteListView::showRelated(const Note &note)
 {
-    const QRect row = visualRect(m_timeline.indexOf(note.id));
+    const QRect row = rectOf(m_timeline.indexOf(note.id).row());
     auto *related = new RelatedNotesView(m_search, note, this);
     connect(related, &RelatedNotesView::selected, this, [this](QUuid id) { scrollAndFlash(id, false); });
     related->popUp({viewport()->mapToGlobal(row.topLeft()), row.size()});
@@ -157,7 +155,7 @@ void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
     const auto jump = [this, noteID, clearsExternalTarget] {
         const QModelIndex index = m_timeline.indexOf(noteID);
         if (index.isValid())
-            scrollTo(index, PositionAtCenter);
+            scrollToCenter(index.row());
         setFlashID(noteID);
         if (clearsExternalTarget)
             m_state.setJumpTargetID({});

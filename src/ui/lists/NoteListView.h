@@ -13,7 +13,7 @@ class ReminderStore;
 class TimelineModel;
 struct Note;
 
-/// The timeline: the notes by day, filtered by the draft, and what can be done with each.
+/// The timeline: the notes by day, filtered by the draft, and the actions of a note.
 class NoteListView final : public RowListView
 {
     Q_OBJECT
@@ -22,12 +22,11 @@ public:
     NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders, PanelState &state,
         TimelineModel &model, QWidget *parent = nullptr);
 
-    /// Scrolls the note into the middle and lights it up for a moment. A draft that hides the note is cleared
-    /// first.
+    /// Scrolls the note to the center and flashes it. A draft that hides the note is cleared first.
     void scrollAndFlash(QUuid noteID, bool clearsExternalTarget);
     [[nodiscard]] std::optional<QUuid> flashID() const { return m_flashID; }
 
-    [[nodiscard]] EmptyState emptyState() const override;
+    [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
 protected:
     void activate(int row) override; ///< edits the note

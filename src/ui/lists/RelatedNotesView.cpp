@@ -14,7 +14,7 @@
 namespace {
 constexpr qsizetype maxRelated = 5;
 
-/// One line of a note's text that fills the width it is given.
+/// A button with one line of a note's text, elided to its width.
 class RelatedNoteButton final : public QPushButton
 {
 public:
@@ -36,18 +36,18 @@ protected:
             painter.setBrush(isDown() ? NoteStyle::flash(palette()) : NoteStyle::editing(palette()));
             painter.drawRoundedRect(rect(), 2 * Design::grid, 2 * Design::grid);
         }
-        const QRect place = rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0);
+        const QRect line = rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0);
         painter.setFont(NoteStyle::font());
         painter.setPen(NoteStyle::color(palette()));
-        painter.drawText(place, Qt::AlignVCenter | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(m_text, Qt::ElideRight, place.width()));
+        painter.drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
+            painter.fontMetrics().elidedText(m_text, Qt::ElideRight, line.width()));
     }
 
 private:
     QString m_text;
 };
 
-/// What shines through the parent's window shines through one on top of it.
+/// A popover over a translucent window is translucent too.
 FloatingFrame::Backdrop backdropOf(const QWidget &parent)
 {
     return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingFrame::Backdrop::Sharp
@@ -98,14 +98,14 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     }
 }
 
-void RelatedNotesView::popUp(const QRect &place)
+void RelatedNotesView::popUp(const QRect &anchor)
 {
     adjustSize();
     const int margin = m_frame.margin();
     const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin);
-    const bool fitsBelow = place.bottom() + 1 - margin + height() <= available.bottom();
-    move(std::clamp(place.left() + Design::edge - margin, available.left(), available.right() - width()),
-        fitsBelow ? place.bottom() + 1 - margin : place.top() - height() + margin);
+    const bool fitsBelow = anchor.bottom() + 1 - margin + height() <= available.bottom();
+    move(std::clamp(anchor.left() + Design::edge - margin, available.left(), available.right() - width()),
+        fitsBelow ? anchor.bottom() + 1 - margin : anchor.top() - height() + margin);
     show();
 }
 

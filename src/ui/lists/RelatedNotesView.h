@@ -8,7 +8,7 @@
 class NoteSearch;
 struct Note;
 
-/// A popover with the notes that resemble one, a button for each. It deletes itself when it closes.
+/// A popover with a button for each note related to one. It deletes itself when it closes.
 class RelatedNotesView final : public QWidget
 {
     Q_OBJECT
@@ -16,8 +16,8 @@ class RelatedNotesView final : public QWidget
 public:
     RelatedNotesView(NoteSearch &search, const Note &note, QWidget *parent);
 
-    /// Shows it below this place on the screen, or above where there is no room.
-    void popUp(const QRect &place);
+    /// Shows it below @p anchor on the screen, or above where there is no room.
+    void popUp(const QRect &anchor);
 
 Q_SIGNALS:
     void selected(QUuid noteID);

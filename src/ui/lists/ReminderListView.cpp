@@ -15,7 +15,7 @@ ReminderListView::ReminderListView(ReminderStore &reminders, ReminderModel &mode
     setAccessibleName(L10n::text("提醒"));
 }
 
-RowListView::EmptyState ReminderListView::emptyState() const
+RowPainter::EmptyState ReminderListView::emptyState() const
 {
     return {QStringLiteral("bell"), L10n::text("暂无提醒")};
 }

@@ -7,7 +7,7 @@
 class ReminderModel;
 class ReminderStore;
 
-/// The reminders: each can be followed to its note, and cancelled.
+/// The reminders: each leads to its note and can be cancelled.
 class ReminderListView final : public RowListView
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class ReminderListView final : public RowListView
 public:
     ReminderListView(ReminderStore &reminders, ReminderModel &model, QWidget *parent = nullptr);
 
-    [[nodiscard]] EmptyState emptyState() const override;
+    [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
 Q_SIGNALS:
     void noteChosen(QUuid noteID);

@@ -10,14 +10,14 @@ class NoteStore;
 class ReminderStore;
 
 struct ReminderRow {
-    std::optional<Reminder> reminder; ///< nothing for the header of those that have expired
+    std::optional<Reminder> reminder; ///< none in the header of the expired ones
     bool isExpired = false;
-    QString text; ///< the note's, or the reminder's own where the note is gone
+    QString text; ///< the note's, or the reminder's own when the note no longer exists
     bool operator==(const ReminderRow &) const = default;
 };
 [[nodiscard]] bool isSameRow(const ReminderRow &a, const ReminderRow &b);
 
-/// The reminders that are still to come, and behind them those whose time has passed.
+/// The upcoming reminders, followed by the expired ones.
 class ReminderModel final : public RowsOf<ReminderRow>
 {
     Q_OBJECT

@@ -3,10 +3,10 @@
 #include <QList>
 #include <QString>
 
-/// A symbol at the right side of a row.
+/// A symbol on the right of a row.
 struct RowSymbol {
     QString name;          ///< under resources/symbols
-    QString help;          ///< told as a tooltip
+    QString help;          ///< its tooltip
     bool isButton = false; ///< can be clicked
     bool operator==(const RowSymbol &) const = default;
 };
@@ -14,26 +14,26 @@ struct RowSymbol {
 /// What a row of a list shows.
 struct RowContent {
     QString header; ///< a header of one line; the rest is empty then
-    QString lead;   ///< in the column at the left: the time of day
+    QString lead;   ///< in the column on the left: the time of day
     QString above;  ///< a small line above the text
     QString quote;  ///< the quoted note, in a block of one line above the text
-    QString text;   ///< in as many lines as it takes
-    QString query;  ///< whose hits in the text are coloured
+    QString text;   ///< wrapped into as many lines as it needs
+    QString query;  ///< its matches in the text are coloured
     QString link;   ///< an address or a path in one line below the text
     QString linkSymbol;
     QString marker;   ///< a small line at the bottom
-    QString trailing; ///< at the right side: a number
+    QString trailing; ///< on the right: a number
     QList<RowSymbol> symbols;
-    bool isExpired = false; ///< paler than the others
+    bool isExpired = false; ///< in a paler colour
 
     [[nodiscard]] bool isHeader() const { return !header.isEmpty(); }
     bool operator==(const RowContent &) const = default;
 };
 
-/// What of a row stands under the pointer.
+/// The part of a row under a point.
 struct RowPart {
     enum class Kind { None, Body, Quote, Link, Symbol };
     Kind kind = Kind::None;
-    int symbol = -1; ///< its place among the symbols
+    int symbol = -1; ///< index among the symbols
     bool operator==(const RowPart &) const = default;
 };

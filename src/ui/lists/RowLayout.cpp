@@ -27,12 +27,12 @@ QList<QTextLayout::FormatRange> colours(const QString &text, const QString &quer
     return ranges;
 }
 
-/// A text that came from elsewhere may have lines of its own, and be longer than anybody reads in a list:
-/// what lies behind is read where the note is edited.
+/// An imported text may contain line breaks, and be longer than is useful in a list; the whole of it is shown
+/// when the note is edited.
 QString shownText(const QString &text)
 {
-    constexpr qsizetype mostShown = 2000;
-    QString shown = text.size() > mostShown ? text.first(mostShown) + QChar(0x2026) : text;
+    constexpr qsizetype maxShown = 2000;
+    QString shown = text.size() > maxShown ? text.first(maxShown) + QChar(0x2026) : text;
     return shown.replace(u'\n', QChar::LineSeparator);
 }
 } // namespace
@@ -40,7 +40,6 @@ QString shownText(const QString &text)
 RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     : m_content(std::move(content))
     , m_text(shownText(m_content.text), NoteStyle::font())
-    , m_width(width)
 {
     if (m_content.isHeader()) {
         m_height = Design::headerHeight;

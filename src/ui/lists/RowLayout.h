@@ -7,12 +7,12 @@
 
 class QPalette;
 
-/// Where the parts of a row stand, and its text broken into lines. The same for measuring, painting and
-/// clicking.
+/// The rectangles of the parts of a row, and its text broken into lines; used for measuring, painting and hit
+/// testing alike.
 class RowLayout
 {
 public:
-    /// The palette gives the colours.
+    /// @p palette decides between light and dark colours.
     RowLayout(RowContent content, int width, const QPalette &palette);
 
     [[nodiscard]] const RowContent &content() const { return m_content; }
@@ -39,7 +39,6 @@ private:
     QRect m_linkRect;
     QRect m_markerRect;
     QRect m_trailingRect;
-    QPoint m_symbols; ///< the first symbol's corner
-    int m_width = 0;
+    QPoint m_symbols; ///< top left corner of the first
     int m_height = 0;
 };

@@ -1,22 +1,23 @@
 #include "ui/lists/RowListAccessible.h"
 
 #include "ui/lists/RowListView.h"
+#include "ui/lists/RowModel.h"
 
-#include <QAbstractItemModel>
+#include <algorithm>
 
 namespace {
 class RowAccessible final : public QAccessibleInterface, public QAccessibleActionInterface
 {
 public:
-    RowAccessible(const RowListAccessible &list, int row)
+    RowAccessible(const RowListAccessible &list, const QPersistentModelIndex &index)
         : m_list(list)
-        , m_row(row)
+        , m_index(index)
     {
     }
 
-    [[nodiscard]] int row() const { return m_row; }
+    [[nodiscard]] int row() const { return m_index.row(); }
 
-    [[nodiscard]] bool isValid() const override { return m_list.isValid() && index().isValid(); }
+    [[nodiscard]] bool isValid() const override { return m_list.isValid() && m_index.isValid(); }
     [[nodiscard]] QObject *object() const override { return nullptr; }
     [[nodiscard]] QAccessibleInterface *childAt(int, int) const override { return nullptr; }
     [[nodiscard]] QAccessibleInterface *parent() const override
@@ -28,20 +29,20 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface *) const override { return -1; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? index().data(Qt::AccessibleTextRole).toString() : QString();
+        return kind == QAccessible::Name ? m_index.data(Qt::AccessibleTextRole).toString() : QString();
     }
     void setText(QAccessible::Text, const QString &) override {}
     [[nodiscard]] QRect rect() const override
     {
-        const QRect place = m_list.view()->visualRect(index());
-        return {m_list.view()->viewport()->mapToGlobal(place.topLeft()), place.size()};
+        const QRect rect = m_list.view()->rectOf(row());
+        return {m_list.view()->viewport()->mapToGlobal(rect.topLeft()), rect.size()};
     }
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
     [[nodiscard]] QAccessible::State state() const override
     {
         QAccessible::State state;
         state.focusable = state.selectable = true;
-        state.focused = m_list.view()->hasFocus() && m_list.view()->currentIndex() == index();
+        state.focused = m_list.view()->hasFocus() && m_list.view()->currentRow() == row();
         return state;
     }
     void *interface_cast(QAccessible::InterfaceType type) override
@@ -54,17 +55,15 @@ public:
     void doAction(const QString &name) override
     {
         if (name == pressAction())
-            m_list.view()->activateRow(m_row);
+            m_list.view()->activateRow(row());
         else if (name == showMenuAction())
-            m_list.view()->showMenuOfRow(m_row);
+            m_list.view()->showMenuOfRow(row());
     }
     [[nodiscard]] QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
-    [[nodiscard]] QModelIndex index() const { return m_list.view()->model()->index(m_row, 0); }
-
     const RowListAccessible &m_list;
-    int m_row;
+    QPersistentModelIndex m_index;
 };
 
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
@@ -76,26 +75,42 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
 
 void RowListAccessible::install()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    Q_UNUSED(installed);
+    QAccessible::installFactory(makeInterface);
+}
+
+void RowListAccessible::announceCurrentRow(RowListView &view)
+{
+    if (!QAccessible::isActive() || !view.hasFocus() || view.currentRow() < 0)
+        return;
+    QAccessibleEvent event(&view, QAccessible::Focus);
+    event.setChild(view.currentRow());
+    QAccessible::updateAccessibility(&event);
 }
 
 RowListAccessible::RowListAccessible(RowListView *view)
     : QAccessibleWidget(view, QAccessible::List)
 {
-    const auto forget = [this] { forgetRows(); };
-    m_connections = {QObject::connect(view->model(), &QAbstractItemModel::rowsInserted, view, forget),
-        QObject::connect(view->model(), &QAbstractItemModel::rowsRemoved, view, forget)};
+    const RowModel *model = &view->model();
+    m_connections = {
+        QObject::connect(model, &RowModel::rowsInserted, view,
+            [this](const QModelIndex &, int first, int last) {
+                announceRows(first, last, QAccessible::ObjectCreated);
+            }),
+        QObject::connect(model, &RowModel::rowsAboutToBeRemoved, view,
+            [this](const QModelIndex &, int first, int last) { forgetRows(first, last); }),
+        QObject::connect(model, &RowModel::dataChanged, view,
+            [this](const QModelIndex &first, const QModelIndex &last) {
+                announceRows(first.row(), last.row(), QAccessible::NameChanged);
+            }),
+    };
 }
 
 RowListAccessible::~RowListAccessible()
 {
     for (const QMetaObject::Connection &connection : m_connections)
         QObject::disconnect(connection);
-    forgetRows();
+    for (const QAccessible::Id id : std::as_const(m_rows))
+        QAccessible::deleteAccessibleInterface(id);
 }
 
 RowListView *RowListAccessible::view() const
@@ -103,40 +118,58 @@ RowListView *RowListAccessible::view() const
     return static_cast<RowListView *>(widget());
 }
 
-void RowListAccessible::forgetRows()
+void RowListAccessible::announceRows(int first, int last, QAccessible::Event event) const
 {
-    for (const QAccessible::Id id : std::as_const(m_rows))
+    // Those out of view are found when they are asked for: a query may bring a hundred thousand.
+    const int lastInView = std::min(last, view()->lastRowInView());
+    for (int row = std::max(first, view()->firstRowInView()); row <= lastInView; ++row) {
+        QAccessibleEvent announced(view(), event);
+        announced.setChild(row);
+        QAccessible::updateAccessibility(&announced);
+    }
+}
+
+void RowListAccessible::forgetRows(int first, int last)
+{
+    QList<QPersistentModelIndex> forgotten;
+    for (const QPersistentModelIndex &index : m_rows.keys()) {
+        if (index.row() >= first && index.row() <= last)
+            forgotten.append(index);
+    }
+    for (const QPersistentModelIndex &index : forgotten) {
+        const QAccessible::Id id = m_rows.take(index);
+        QAccessibleEvent event(QAccessible::accessibleInterface(id), QAccessible::ObjectDestroyed);
+        QAccessible::updateAccessibility(&event);
         QAccessible::deleteAccessibleInterface(id);
-    m_rows.clear();
+    }
 }
 
 int RowListAccessible::childCount() const
 {
-    return view()->model()->rowCount();
+    return view()->model().rowCount();
 }
 
 QAccessibleInterface *RowListAccessible::child(int row) const
 {
     if (row < 0 || row >= childCount())
         return nullptr;
-    const auto known = m_rows.constFind(row);
+    const QPersistentModelIndex index = view()->model().index(row);
+    const auto known = m_rows.constFind(index);
     if (known != m_rows.cend())
         return QAccessible::accessibleInterface(*known);
-    auto *made = new RowAccessible(*this, row);
-    m_rows.insert(row, QAccessible::registerAccessibleInterface(made));
+    auto *made = new RowAccessible(*this, index);
+    m_rows.insert(index, QAccessible::registerAccessibleInterface(made));
     return made;
 }
 
 QAccessibleInterface *RowListAccessible::childAt(int x, int y) const
 {
-    const QModelIndex index = view()->indexAt(view()->viewport()->mapFromGlobal(QPoint(x, y)));
-    return index.isValid() ? child(index.row()) : nullptr;
+    return child(view()->rowAt(view()->viewport()->mapFromGlobal(QPoint(x, y))));
 }
 
 QAccessibleInterface *RowListAccessible::focusChild() const
 {
-    const QModelIndex current = view()->currentIndex();
-    return view()->hasFocus() && current.isValid() ? child(current.row()) : nullptr;
+    return view()->hasFocus() ? child(view()->currentRow()) : nullptr;
 }
 
 int RowListAccessible::indexOfChild(const QAccessibleInterface *wanted) const

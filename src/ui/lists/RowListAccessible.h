@@ -2,15 +2,19 @@
 
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QPersistentModelIndex>
 
 class RowListView;
 
-/// A list as it is told to those who listen to the screen: its rows are its children.
+/// A list as screen readers see it: its rows are its children. It notifies them of rows that come, go or
+/// change.
 class RowListAccessible final : public QAccessibleWidget
 {
 public:
-    /// From now on each RowListView is told like this.
+    /// Makes this the interface of every RowListView; called once when the application starts.
     static void install();
+    /// Notifies screen readers of the row that has the focus, if the list has it.
+    static void announceCurrentRow(RowListView &view);
 
     explicit RowListAccessible(RowListView *view);
     ~RowListAccessible() override;
@@ -24,8 +28,10 @@ public:
     [[nodiscard]] RowListView *view() const;
 
 private:
-    void forgetRows();
+    void announceRows(int first, int last, QAccessible::Event event) const;
+    void forgetRows(int first, int last);
 
-    mutable QHash<int, QAccessible::Id> m_rows; ///< those that have been asked for
+    /// Those that have been asked for. A persistent index is the same key wherever its row moves.
+    mutable QHash<QPersistentModelIndex, QAccessible::Id> m_rows;
     QList<QMetaObject::Connection> m_connections;
 };

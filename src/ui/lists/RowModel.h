@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-/// Rows that tell what they show. For those who listen to the screen the display role is a row's text.
+/// A list model whose rows say what they show. Display role and accessible text are the row's text.
 class RowModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class RowModel : public QAbstractListModel
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    /// While nobody looks at the rows, what changes waits; all is brought up to date once somebody does.
+    /// While no view shows the rows, changes wait; they are applied once one does.
     void setSeen(bool isSeen)
     {
         m_isSeen = isSeen;
@@ -34,7 +34,7 @@ public:
     }
 
 protected:
-    virtual void refresh() = 0; ///< shows what is so now
+    virtual void refresh() = 0; ///< to the present state of what the rows are made from
     void refreshWhenSeen()
     {
         m_isStale = !m_isSeen;
@@ -47,8 +47,8 @@ private:
     bool m_isStale = false;
 };
 
-/// Rows of one type. What is new is compared with what is shown, and exactly what came, went or changed is
-/// announced. Two rows stand for the same thing, whatever has become of it, where isSameRow(a, b).
+/// Rows of one type. show() compares the new rows with the present ones and announces exactly the difference.
+/// isSameRow(a, b) says whether two rows represent the same thing, which may have changed.
 template <typename Row>
 class RowsOf : public RowModel
 {
@@ -65,7 +65,7 @@ public:
 protected:
     void show(const QList<Row> &rows)
     {
-        // What stands before and behind the place of a change stays; what lies between comes and goes.
+        // Rows before the first and after the last difference stay; those between are replaced.
         const auto isSame = [](const Row &a, const Row &b) { return isSameRow(a, b); };
         const auto [oldFront, newFront] =
             std::mismatch(m_rows.cbegin(), m_rows.cend(), rows.cbegin(), rows.cend(), isSame);
@@ -84,7 +84,7 @@ protected:
                 changed.append(number);
         }
 
-        // The rows that stay are brought up to date first: whoever is told of the others may look at them.
+        // The rows that stay are updated first, because slots may read them.
         for (int number = 0; number < front; ++number)
             m_rows[number] = rows[number];
         for (int back = 1; back <= rows.size() - front - inserted; ++back)

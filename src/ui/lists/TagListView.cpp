@@ -28,7 +28,7 @@ void TagListView::setQuery(const QString &query)
     forgetHeights();
 }
 
-RowListView::EmptyState TagListView::emptyState() const
+RowPainter::EmptyState TagListView::emptyState() const
 {
     return {QStringLiteral("number"),
         m_notes.tagSummaries().isEmpty() ? L10n::text("无标签") : L10n::text("无匹配标签")};
@@ -75,12 +75,12 @@ void TagListView::editDidChange()
             .arg(NoteStyle::fieldColor(palette()).name(), NoteStyle::tagColor(palette()).name())
             .arg(Design::grid));
     m_editor->selectAll();
-    // Return, or the focus going elsewhere; whichever is first.
+    // On Return or when the focus leaves, whichever comes first.
     connect(m_editor, &QLineEdit::editingFinished, this, [this, from = *renaming, editor = m_editor] {
         if (m_editor == editor)
             commitRename(from, editor->text());
     });
-    updateGeometries();
+    rowsMoved();
     m_editor->show();
     m_editor->setFocus();
 }
@@ -94,12 +94,11 @@ void TagListView::endEdit()
     editor->deleteLater();
 }
 
-void TagListView::updateGeometries()
+void TagListView::rowsMoved()
 {
-    RowListView::updateGeometries();
     if (!m_editor || !m_rename.renaming())
         return;
-    const QRect row = visualRect(m_tags.index(m_tags.rowOf(*m_rename.renaming())));
+    const QRect row = rectOf(m_tags.rowOf(*m_rename.renaming()));
     m_editor->setGeometry(row.adjusted(Design::edge + 2 * Design::grid, 1, -Design::edge, -1));
 }
 

@@ -7,7 +7,7 @@ class NoteStore;
 class QLineEdit;
 class TagModel;
 
-/// The tags: a click filters the timeline by one; each can be renamed, merged and deleted.
+/// The tags: a click filters the timeline by a tag; each can be renamed, merged and deleted.
 class TagListView final : public RowListView
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     TagListView(NoteStore &notes, TagModel &model, QWidget *parent = nullptr);
 
     void setQuery(const QString &query);
-    [[nodiscard]] EmptyState emptyState() const override;
+    [[nodiscard]] RowPainter::EmptyState emptyState() const override;
     [[nodiscard]] TagRenameState &renameState() { return m_rename; }
 
 Q_SIGNALS:
@@ -27,7 +27,7 @@ protected:
     void clickPart(int row, RowPart part) override;
     void remove(int row) override; ///< asks first
     void fillMenu(QMenu &menu, int row) override;
-    void updateGeometries() override;
+    void rowsMoved() override;
 
 private:
     void editDidChange();
@@ -38,5 +38,5 @@ private:
     NoteStore &m_notes;
     TagModel &m_tags;
     TagRenameState m_rename;
-    QLineEdit *m_editor = nullptr; ///< over the row of the tag that is being renamed
+    QLineEdit *m_editor = nullptr; ///< over the row of the tag being renamed
 };

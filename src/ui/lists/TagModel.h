@@ -7,7 +7,7 @@ class NoteStore;
 
 [[nodiscard]] bool isSameRow(const TagSummary &a, const TagSummary &b);
 
-/// The tags whose name contains the query, case aside.
+/// The tags whose name contains the query, compared without case.
 class TagModel final : public RowsOf<TagSummary>
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int) const override { return false; }
     [[nodiscard]] QString text(int row) const override;
-    [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when it is not shown
+    [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when not shown
 
 private:
     void refresh() override;

@@ -13,7 +13,7 @@ class TagRenameState final : public QObject
 
 public:
     explicit TagRenameState(QObject *parent = nullptr);
-    /// The one that was made last, while it exists.
+    /// The instance created last, while it exists.
     [[nodiscard]] static TagRenameState *active() { return s_active; }
 
     [[nodiscard]] const std::optional<QString> &renaming() const { return m_renaming; }

@@ -15,7 +15,7 @@ TrashListView::TrashListView(NoteStore &notes, TrashModel &model, QWidget *paren
     setAccessibleName(L10n::text("回收站"));
 }
 
-RowListView::EmptyState TrashListView::emptyState() const
+RowPainter::EmptyState TrashListView::emptyState() const
 {
     return {QStringLiteral("trash"), L10n::text("回收站为空")};
 }

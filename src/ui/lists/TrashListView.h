@@ -5,7 +5,7 @@
 class NoteStore;
 class TrashModel;
 
-/// The trash: each note can be put back.
+/// The trash: each note can be restored.
 class TrashListView final : public RowListView
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class TrashListView final : public RowListView
 public:
     TrashListView(NoteStore &notes, TrashModel &model, QWidget *parent = nullptr);
 
-    [[nodiscard]] EmptyState emptyState() const override;
+    [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
 protected:
-    void activate(int row) override; ///< puts the note back
+    void activate(int row) override; ///< restores the note
     void clickPart(int row, RowPart part) override;
     void fillMenu(QMenu &menu, int row) override;
 

@@ -10,12 +10,12 @@ class NoteStore;
 
 struct TrashRow {
     Instant day;
-    std::optional<Note> note; ///< nothing for the header of the day
+    std::optional<Note> note; ///< none in the header of the day
     bool operator==(const TrashRow &) const = default;
 };
 [[nodiscard]] bool isSameRow(const TrashRow &a, const TrashRow &b);
 
-/// The trashed notes by the day on which they were written.
+/// The trashed notes, grouped by the day on which they were written.
 class TrashModel final : public RowsOf<TrashRow>
 {
     Q_OBJECT

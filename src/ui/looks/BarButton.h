@@ -2,13 +2,13 @@
 
 #include <QToolButton>
 
-/// A flat button that shows one of the symbols in the colour of small text.
+/// A flat button with a symbol in the colour of small text.
 class BarButton final : public QToolButton
 {
     Q_OBJECT
 
 public:
-    /// @p help is its tooltip and its name for those who listen to the screen.
+    /// @p help is its tooltip and its accessible name.
     BarButton(const QString &symbol, const QString &help, QWidget *parent = nullptr);
 
     void setHelp(const QString &help);

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// A button with a word on it, in the shape of the field that it stands in the place of.
+/// A text button in the capsule shape of the composer's field, which it replaces.
 class CapsuleButton final : public QPushButton
 {
     Q_OBJECT

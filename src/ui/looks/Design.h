@@ -13,12 +13,12 @@ inline constexpr int panelRadius = 12;
 inline constexpr int shadowMargin = 20; ///< around the panel, where there is a compositor
 inline constexpr int popoverRadius = 8;
 inline constexpr int popoverShadow = 12;
-// The least at which all text stands out from its ground, whatever shines through: the orange of a match is
-// the first to suffer in light, grey in dark.
+// The least opacity at which all text keeps its contrast on any background: limited by the orange of a match
+// in light, by grey in dark.
 inline constexpr float sharpGroundOpacity = 0.97F;
 inline constexpr float blurredLightGroundOpacity = 0.965F;
 inline constexpr float blurredDarkGroundOpacity = 0.88F;
-inline constexpr int fadingEdge = 20;  ///< of a list that goes on below
+inline constexpr int fadingEdge = 20;  ///< of a list that continues below
 inline constexpr int panelMargin = 12; ///< to the edge of the screen
 inline constexpr int grid = 4;
 inline constexpr int edge = 12; ///< from the panel's side to its content
@@ -30,7 +30,7 @@ inline constexpr int topBarHeight = 36;
 inline constexpr int headerHeight = 28;
 inline constexpr int timeColumn = 44;
 inline constexpr int rowPadding = 6;
-inline constexpr int smallLineHeight = 16; ///< of a remark above or below a row's text
+inline constexpr int smallLineHeight = 16; ///< of a small line above or below a row's text
 inline constexpr int quoteHeight = 22;
 inline constexpr int rowRadius = 8;
 inline constexpr int symbolSize = 14;

@@ -67,7 +67,7 @@ void FloatingFrame::windowDidResize()
 
 void FloatingFrame::paintShadow(QPainter &painter) const
 {
-    // Soft at its edge and a little lower than the frame, as if the light came from above.
+    // Soft at its edge, and offset downwards as if lit from above.
     constexpr int lower = 3;
     constexpr qreal darkest = 0.10;
     QPainterPath around;
@@ -75,7 +75,7 @@ void FloatingFrame::paintShadow(QPainter &painter) const
     QPainterPath within;
     within.addRoundedRect(inside(), m_shape.radius, m_shape.radius);
     painter.save();
-    painter.setClipPath(around - within); // it would darken a ground that lets it through
+    painter.setClipPath(around - within); // it would darken a translucent ground
     painter.setPen(Qt::NoPen);
     const int reach = m_shape.shadow - lower;
     for (int spread = reach; spread > 0; --spread) {
@@ -92,12 +92,12 @@ void FloatingFrame::paint(QPainter &painter)
     const QPalette palette = m_window.palette();
     const bool isOpaque = m_backdrop == Backdrop::None;
     const QColor color = ground(palette, m_shape.isSolid ? Backdrop::None : m_backdrop);
-    m_picture.paint(painter, m_window, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &picture) {
+    m_image.paint(painter, m_window, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &image) {
         if (!isOpaque)
-            paintShadow(picture);
-        picture.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
-        picture.setPen(NoteStyle::hairline(palette));
-        picture.drawRoundedRect(
+            paintShadow(image);
+        image.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
+        image.setPen(NoteStyle::hairline(palette));
+        image.drawRoundedRect(
             QRectF(inside()).adjusted(0.5, 0.5, -0.5, -0.5), m_shape.radius, m_shape.radius);
     });
 }

@@ -10,31 +10,30 @@ class QPalette;
 class QRegion;
 class QWidget;
 
-/// The looks of a floating window: rounded corners and a hairline; where the desktop puts windows together
-/// also a shadow, and a ground that lets a little shine through. Elsewhere the window is cut out of its
-/// rectangle.
+/// The frame of a floating window: rounded corners and a hairline; with a compositor also a shadow and a
+/// slightly translucent ground. Without one the window is masked to its shape.
 class FloatingFrame final
 {
 public:
-    /// What the desktop can show behind the window.
+    /// What the desktop shows through a translucent window.
     enum class Backdrop { None, Sharp, Blurred };
 
-    /// Nearly opaque, so that text stays readable over whatever shines through.
+    /// Nearly opaque, so that text stays readable on any background.
     [[nodiscard]] static QColor ground(const QPalette &palette, Backdrop backdrop);
 
     struct Shape {
         int radius;
-        int shadow;           ///< how far it reaches
-        bool isSolid = false; ///< nothing shines through the ground
+        int shadow;           ///< its width
+        bool isSolid = false; ///< with an opaque ground
     };
 
-    /// Sets the window's attributes, so it is made before the window is shown.
+    /// Sets the window's attributes; to be created before the window is shown.
     FloatingFrame(QWidget &window, Backdrop backdrop, Shape shape);
 
     [[nodiscard]] Backdrop backdrop() const { return m_backdrop; }
     [[nodiscard]] int margin() const; ///< from the window's edge to the frame's: room for the shadow
     [[nodiscard]] QRect inside() const;
-    /// What is within the rounded corners, in device pixels.
+    /// The area within the rounded corners, in device pixels.
     [[nodiscard]] QRegion outline(qreal devicePixelRatio) const;
 
     void windowDidResize();
@@ -46,5 +45,5 @@ private:
     QWidget &m_window;
     Backdrop m_backdrop;
     Shape m_shape;
-    CachedImage m_picture;
+    CachedImage m_image;
 };

@@ -2,8 +2,8 @@
 
 class QMenu;
 
-/// The looks of the program's own menus.
+/// The style of the program's own menus.
 namespace MenuLooks {
-/// Before the menu is shown. Its corners are round where its parent's window lets something shine through.
+/// To be called before the menu is shown. Its corners are round where its parent's window is translucent.
 void apply(QMenu &menu);
 } // namespace MenuLooks

@@ -31,7 +31,8 @@ bool NoteStyle::isDark(const QPalette &palette)
 QPalette NoteStyle::palette(bool isDark)
 {
     QPalette made;
-    made.setColor(QPalette::Window, isDark ? Qt::black : Qt::white); // by which the colours below are chosen
+    made.setColor(
+        QPalette::Window, isDark ? Qt::black : Qt::white); // decides which colours the functions below return
     const QPalette appearance = made;
     const QColor text = color(appearance);
     const QColor faint = metaColor(appearance);

@@ -7,10 +7,10 @@
 #include <QPalette>
 
 /// The colours and fonts of the panel. Each colour has a value for a light and one for a dark appearance,
-/// told from the palette it is asked for.
+/// chosen by the palette that is passed.
 namespace NoteStyle {
 [[nodiscard]] bool isDark(const QPalette &palette);
-/// The palette of all that Qt paints itself: fields, menus, dialogs.
+/// For what Qt paints itself: fields, menus, dialogs.
 [[nodiscard]] QPalette palette(bool isDark);
 
 [[nodiscard]] QColor numberColor(const QPalette &palette);
@@ -21,14 +21,14 @@ namespace NoteStyle {
 [[nodiscard]] QColor color(const QPalette &palette);     ///< body text
 [[nodiscard]] QColor metaColor(const QPalette &palette); ///< times, headers, hints
 [[nodiscard]] QColor background(const QPalette &palette);
-[[nodiscard]] QColor fieldColor(const QPalette &palette);  ///< the capsule that is written in
+[[nodiscard]] QColor fieldColor(const QPalette &palette);  ///< the capsule of the text field
 [[nodiscard]] QColor quoteGround(const QPalette &palette); ///< behind a quoted note
-[[nodiscard]] QColor hover(const QPalette &palette);       ///< behind what is pointed at
+[[nodiscard]] QColor hover(const QPalette &palette);       ///< behind the row or button under the pointer
 [[nodiscard]] QColor hairline(const QPalette &palette);
-[[nodiscard]] QColor editing(const QPalette &palette); ///< behind the note that is being edited
+[[nodiscard]] QColor editing(const QPalette &palette); ///< behind the note being edited
 [[nodiscard]] QColor flash(const QPalette &palette);   ///< behind a note that was jumped to
 
-/// The colour of a kind of run; an invalid one where the row's own colour stays.
+/// The colour of a kind of segment; invalid where the row's own colour applies.
 [[nodiscard]] QColor segmentColor(NoteHighlighting::SegmentKind kind, const QPalette &palette);
 
 [[nodiscard]] QFont font();       ///< 13

@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-/// A scroll bar of which only the handle is seen.
+/// A scroll bar that shows only its handle.
 class SlimScrollBar final : public QScrollBar
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 #include <QSvgRenderer>
 
 namespace {
-/// The symbols are written in black; their colour is put in before they are drawn.
+/// The files are black; the colour is replaced before rendering.
 QByteArray coloured(const QString &name, const QColor &color)
 {
     QFile file(QStringLiteral(":/symbols/%1.svg").arg(name));

@@ -7,10 +7,10 @@
 class QPainter;
 class QRect;
 
-/// Quillet's own symbols, each one colour on a clear ground, drawn in the colour of the text they stand
-/// beside; but for the one of the tray, which brings its colours.
+/// Quillet's own symbols: one colour on a transparent ground, which is replaced by the colour asked for. The
+/// tray's symbol has colours of its own.
 namespace Symbol {
-/// @p name is a file under resources/symbols, without its ending.
+/// @p name is a file under resources/symbols, without the extension.
 void paint(QPainter &painter, const QRect &rect, const QString &name, const QColor &color);
 
 [[nodiscard]] QIcon icon(const QString &name, const QColor &color, const QList<int> &sizes);

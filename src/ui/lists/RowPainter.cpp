@@ -1,0 +1,125 @@
+#include "ui/lists/RowPainter.h"
+
+#include "ui/looks/Design.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/looks/Symbol.h"
+
+#include <QPainter>
+
+RowPainter::RowPainter(QPainter &painter, const QPalette &palette)
+    : m_painter(painter)
+    , m_palette(palette)
+    , m_meta(NoteStyle::metaColor(palette))
+{
+}
+
+void RowPainter::drawLine(const QRect &rect, const QString &text, Qt::Alignment alignment)
+{
+    m_painter.drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
+        m_painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void RowPainter::paintHeader(const QRect &rect, const QString &text)
+{
+    m_painter.setFont(NoteStyle::headerFont());
+    m_painter.setPen(m_meta);
+    drawLine(rect.adjusted(Design::edge, 0, -Design::edge, 0), text);
+}
+
+void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Marks &marks)
+{
+    const RowContent &content = layout.content();
+    if (content.isHeader()) {
+        paintHeader(rect, content.header);
+        return;
+    }
+    const QPoint origin = rect.topLeft();
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setPen(Qt::NoPen);
+    if (marks.ground.isValid()) {
+        m_painter.setBrush(marks.ground);
+        m_painter.drawRoundedRect(
+            rect.adjusted(Design::grid, 1, -Design::grid, -1), Design::rowRadius, Design::rowRadius);
+    }
+    if (!content.quote.isEmpty()) {
+        paintQuote(
+            layout.quoteRect().translated(origin), content.quote, marks.hovered.kind == RowPart::Kind::Quote);
+    }
+    m_painter.setFont(NoteStyle::quoteFont());
+    m_painter.setPen(m_meta);
+    drawLine(layout.leadRect().translated(origin), content.lead);
+    drawLine(layout.aboveRect().translated(origin), content.above);
+    drawLine(layout.markerRect().translated(origin), content.marker);
+    drawLine(layout.trailingRect().translated(origin), content.trailing, Qt::AlignRight);
+    if (!content.link.isEmpty()) {
+        paintLink(layout.linkRect().translated(origin), content, marks.hovered.kind == RowPart::Kind::Link);
+    }
+    for (qsizetype i = 0; i < content.symbols.size(); ++i) {
+        const bool isHovered = marks.hovered == RowPart{RowPart::Kind::Symbol, int(i)};
+        Symbol::paint(m_painter, layout.symbolRect(i).translated(origin), content.symbols[i].name,
+            isHovered && content.symbols[i].isButton ? NoteStyle::color(m_palette) : m_meta);
+    }
+    m_painter.setPen(content.isExpired ? m_meta : NoteStyle::color(m_palette));
+    layout.drawText(m_painter, origin);
+}
+
+void RowPainter::paintQuote(const QRect &block, const QString &quote, bool isHovered)
+{
+    constexpr int size = Design::smallSymbolSize;
+    m_painter.setBrush(isHovered ? NoteStyle::hairline(m_palette) : NoteStyle::quoteGround(m_palette));
+    m_painter.drawRoundedRect(block, Design::grid, Design::grid);
+    Symbol::paint(m_painter,
+        {block.left() + Design::grid, block.top() + (block.height() - size) / 2, size, size},
+        QStringLiteral("text.quote"), m_meta);
+    m_painter.setFont(NoteStyle::quoteFont());
+    m_painter.setPen(m_meta);
+    drawLine(block.adjusted(size + 2 * Design::grid, 0, -Design::grid, 0), quote.simplified());
+}
+
+void RowPainter::paintLink(QRect line, const RowContent &content, bool isHovered)
+{
+    if (!content.linkSymbol.isEmpty()) {
+        constexpr int size = Design::smallSymbolSize;
+        Symbol::paint(m_painter, {line.left(), line.top() + (line.height() - size) / 2, size, size},
+            content.linkSymbol, m_meta);
+        line.adjust(size + Design::grid, 0, 0, 0);
+    }
+    QFont font = NoteStyle::quoteFont();
+    font.setUnderline(isHovered);
+    m_painter.setFont(font);
+    m_painter.setPen(NoteStyle::tagColor(m_palette));
+    drawLine(line, content.link);
+}
+
+void RowPainter::paintEmptyState(const QRect &page, const EmptyState &state)
+{
+    constexpr int size = Design::emptySymbolSize;
+    const QRect inner = page.adjusted(Design::edge, 0, -Design::edge, 0);
+    const QPoint middle = inner.center();
+    Symbol::paint(m_painter, {middle.x() - size / 2, middle.y() - size - Design::grid, size, size},
+        state.symbol, NoteStyle::hairline(m_palette));
+    m_painter.setFont(NoteStyle::font());
+    m_painter.setPen(m_meta);
+    const int top = middle.y() + 2 * Design::grid;
+    m_painter.drawText(QRect(inner.left(), top, inner.width(), inner.bottom() - middle.y()),
+        Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, state.text);
+}
+
+void RowPainter::paintFading(const QRect &rect, const std::function<void(QPainter &)> &paint)
+{
+    // Through an image, so that whatever is behind the list does not fade.
+    const qreal ratio = m_painter.device()->devicePixelRatioF();
+    QImage image(rect.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter onImage(&image);
+    onImage.translate(-rect.topLeft());
+    paint(onImage);
+    onImage.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    QLinearGradient fade(rect.topLeft(), rect.bottomLeft());
+    fade.setColorAt(0, Qt::black);
+    fade.setColorAt(1, Qt::transparent);
+    onImage.fillRect(rect, fade);
+    onImage.end();
+    m_painter.drawImage(rect.topLeft(), image);
+}

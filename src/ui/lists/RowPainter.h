@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/lists/RowLayout.h"
+
+#include <QPalette>
+
+#include <functional>
+
+/// Paints what a list shows: headers, entries, the text of an empty list, and the fading edge.
+class RowPainter final
+{
+public:
+    /// How a row is marked, beside what it shows.
+    struct Marks {
+        QColor ground; ///< behind the row; invalid for none
+        RowPart hovered;
+    };
+    /// What a list without rows shows.
+    struct EmptyState {
+        QString symbol;
+        QString text;
+    };
+
+    RowPainter(QPainter &painter, const QPalette &palette);
+
+    void paintRow(const QRect &rect, const RowLayout &layout, const Marks &marks);
+    void paintHeader(const QRect &rect, const QString &text);
+    void paintEmptyState(const QRect &page, const EmptyState &state);
+    /// Lets what @p paint paints fade out towards the bottom of @p rect.
+    void paintFading(const QRect &rect, const std::function<void(QPainter &)> &paint);
+
+private:
+    void paintQuote(const QRect &block, const QString &quote, bool isHovered);
+    void paintLink(QRect line, const RowContent &content, bool isHovered);
+    void drawLine(const QRect &rect, const QString &text, Qt::Alignment alignment = Qt::AlignLeft);
+
+    QPainter &m_painter;
+    const QPalette &m_palette;
+    QColor m_meta; ///< the colour of everything but the text
+};
