@@ -1,4 +1,4 @@
-// That everybody can read the panel, and have it read to them.
+// The panel can be read on the screen and by a screen reader.
 #include "ui/TestPanel.h"
 #include "ui/looks/FloatingFrame.h"
 #include "ui/looks/NoteStyle.h"
@@ -27,7 +27,7 @@ double contrast(QColor a, QColor b)
 }
 
 /// "role name" of all that is under it.
-QStringList told(QAccessibleInterface *interface)
+QStringList described(QAccessibleInterface *interface)
 {
     if (!interface)
         return {};
@@ -35,7 +35,7 @@ QStringList told(QAccessibleInterface *interface)
     QStringList all{
         QString::fromLatin1(roles.valueToKey(interface->role())) + u' ' + interface->text(QAccessible::Name)};
     for (int i = 0; i < interface->childCount(); ++i)
-        all += told(interface->child(i));
+        all += described(interface->child(i));
     return all;
 }
 } // namespace
@@ -91,11 +91,11 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 
-    void those_who_listen_find_the_field_the_buttons_and_the_rows()
+    void screen_readers_find_the_field_the_buttons_and_the_rows()
     {
         TestPanel panel;
         panel.notes.add(u"买牛奶 #家"_s);
-        const QStringList all = told(QAccessible::queryAccessibleInterface(&panel.window));
+        const QStringList all = described(QAccessible::queryAccessibleInterface(&panel.window));
         for (const QString &expected : {u"EditableText 输入即筛选，回车保存"_s, u"CheckBox 标签"_s,
                  u"CheckBox 提醒"_s, u"CheckBox 回收站"_s, u"List 笔记"_s, u"ListItem 买牛奶 #家"_s,
                  u"ListItem 今天 · 3月2日 星期一"_s})

@@ -96,6 +96,14 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
         width - Design::edge - symbols + Design::grid, textTop + (firstLine - Design::symbolSize) / 2};
 }
 
+int RowLayout::estimatedHeight(const QString &text, int width)
+{
+    constexpr int lineHeight = 20;
+    const qsizetype perLine = std::max(1, (width - 90) / Design::bodySize);
+    const qsizetype lines = std::clamp<qsizetype>(text.size() / perLine + 1, 1, 100);
+    return int(lines) * lineHeight + 2 * Design::rowPadding;
+}
+
 QRect RowLayout::symbolRect(qsizetype symbol) const
 {
     const int step = Design::symbolSize + Design::grid;

@@ -14,6 +14,8 @@ class RowLayout
 public:
     /// @p palette decides between light and dark colours.
     RowLayout(RowContent content, int width, const QPalette &palette);
+    /// From the length of an entry's text alone.
+    [[nodiscard]] static int estimatedHeight(const QString &text, int width);
 
     [[nodiscard]] const RowContent &content() const { return m_content; }
     [[nodiscard]] int height() const { return m_height; }

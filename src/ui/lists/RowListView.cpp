@@ -77,7 +77,7 @@ void RowListView::rowsRemoved(int first, int count)
     if (m_current >= first + count) {
         m_current -= count;
     } else if (m_current >= first) {
-        m_current = -1; // so that the row in its place is announced
+        m_current = -1; // so that the row that follows is announced even under the same number
         moveCurrentRow(nearestEntry(first, 1));
     }
 }

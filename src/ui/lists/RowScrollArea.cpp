@@ -65,15 +65,10 @@ void RowScrollArea::forgetHeights()
 
 std::vector<int> RowScrollArea::estimatedHeights(int first, int count) const
 {
-    constexpr int lineHeight = 20;
-    const qsizetype perLine = std::max(1, (viewport()->width() - 90) / Design::bodySize);
-    std::vector<int> heights;
-    heights.reserve(size_t(count));
+    std::vector<int> heights(static_cast<size_t>(count), Design::headerHeight);
     for (int row = first; row < first + count; ++row) {
-        const qsizetype lines =
-            m_model.isHeader(row) ? 0 : std::clamp<qsizetype>(m_model.text(row).size() / perLine + 1, 1, 100);
-        heights.push_back(
-            lines == 0 ? Design::headerHeight : int(lines) * lineHeight + 2 * Design::rowPadding);
+        if (!m_model.isHeader(row))
+            heights[size_t(row - first)] = RowLayout::estimatedHeight(m_model.text(row), viewport()->width());
     }
     return heights;
 }
