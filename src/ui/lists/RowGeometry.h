@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 /// Where the rows of a list are: their heights, measured or still estimated, their tops, and how far the list
