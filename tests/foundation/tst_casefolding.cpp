@@ -1,5 +1,6 @@
 #include "foundation/CaseFolding.h"
 #include "foundation/Characters.h"
+#include "foundation/Charset.h"
 #include "foundation/Regex.h"
 
 #include <QTest>
@@ -67,6 +68,13 @@ private Q_SLOTS:
                 QCOMPARE(Characters::at(text, position), range);
         }
         QCOMPARE(found, characters);
+    }
+
+    void only_a_text_that_is_cut_off_may_end_within_a_character()
+    {
+        QCOMPARE(Charset::decode("a\xE5\xAD", "utf-8", Charset::Extent::Beginning), u"a"_s);
+        QVERIFY(!Charset::decode("a\xE5\xAD", "utf-8"));
+        QVERIFY(!Charset::decode("a", "")); // the name of no encoding
     }
 
     void a_regex_counts_utf16_units_and_knows_unicode()
