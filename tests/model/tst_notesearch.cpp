@@ -135,6 +135,10 @@ public:
     /// Every question, compared with its plain answer.
     void ask()
     {
+        // First, since the questions make vectors.
+        const QList<QUuid> cached = search.cachedVectors();
+        QCOMPARE(QSet(cached.begin(), cached.end()), QSet(plain.cache.keyBegin(), plain.cache.keyEnd()));
+
         const QList<Note> &live = notes.notes();
         QVERIFY(std::ranges::is_sorted(live, std::greater(), &Note::createdAt));
         QSet<QUuid> ids;
@@ -165,9 +169,6 @@ public:
         const QList<SemanticHit> expected = plain.semanticMatches(live, query, 4);
         QCOMPARE(matches.hits(), expected);
         QCOMPARE(search.relatedNotes(about, 5), plain.relatedNotes(live, about, 5));
-
-        const QList<QUuid> cached = search.cachedVectors();
-        QCOMPARE(QSet(cached.begin(), cached.end()), QSet(plain.cache.keyBegin(), plain.cache.keyEnd()));
     }
 
     const QTemporaryDir folder;
@@ -307,6 +308,22 @@ private Q_SLOTS:
             (QList<DaySection>{{today, {1, 0}}, {yesterday, {2}}}));
         QCOMPARE(stores.search.daySections(QList<SemanticHit>{{2, kind}, {0, kind}}),
             (QList<DaySection>{{yesterday, {2}}, {today, {0}}}));
+    }
+
+    void a_renamed_tag_drops_the_vectors_of_live_notes_alone()
+    {
+        ConceptEmbeddingProvider concepts;
+        Stores stores(&concepts);
+        const Note trashed = *stores.notes.add(u"牙医 #a"_s);
+        stores.plain.cache.clear();
+        stores.notes.remove(trashed.id);
+        const Note live = *stores.notes.add(u"茶 #a"_s);
+        stores.notes.add(u"猫粮 #x"_s);
+        stores.about = trashed;
+        stores.ask();
+        QVERIFY(stores.plain.cache.contains(trashed.id) && stores.plain.cache.contains(live.id));
+        stores.plain.cache.remove(live.id);
+        stores.notes.renameTag(u"a"_s, u"b"_s); // asks as well
     }
 
     void vectors_are_made_anew_for_another_provider_where_there_was_none()
