@@ -18,16 +18,16 @@ struct ConceptEmbeddingProvider::Model {
     ConceptFinder finder;
     qsizetype themeCount;
     qsizetype axisCount;
-    std::vector<int> themeOf; ///< by the number of the concept
+    std::vector<int> themeOf; ///< by index of the concept
 };
 
 namespace {
-/// Makes the length exactly 1 by turning the last bits of one value, so that vectors which share nothing but
-/// the common axis have one and the same cosine.
+/// Makes the length exactly 1 by changing the last bits of one value, so that all vectors that share only the
+/// common axis have exactly the same cosine.
 void makeLengthExact(QList<double> &vector, double &adjusted)
 {
-    constexpr int enough = 200;
-    for (int i = 0; i < enough; ++i) {
+    constexpr int maxSteps = 200;
+    for (int i = 0; i < maxSteps; ++i) {
         const double length = SemanticSearch::norm(vector);
         if (length == 1.0)
             return;
@@ -47,13 +47,13 @@ std::optional<QList<double>> ConceptEmbeddingProvider::sentenceVector(const QStr
     if (found.empty())
         return std::nullopt;
 
-    constexpr double mostOfOne = 1.5; // a concept named again and again does not drown the others
+    constexpr double maxWeight = 1.5; // so that a concept named repeatedly does not outweigh the others
     QList<double> vector(m_model->axisCount, 0.0);
     double *const themes = vector.data() + 1;
     double *const concepts = themes + m_model->themeCount;
     for (const ConceptFinder::Found &each : found) {
         double &value = concepts[each.meaning];
-        const double added = std::min(each.weight, mostOfOne - value);
+        const double added = std::min(each.weight, maxWeight - value);
         value += added;
         themes[m_model->themeOf[size_t(each.meaning)]] += added * themeWeight;
     }

@@ -5,24 +5,24 @@
 
 #include <memory>
 
-/// Sentence vectors out of the concepts that a text speaks of: no model, no network.
+/// Computes sentence vectors from the concepts that occur in a text, without a model or network access.
 ///
-/// A vector has one axis that is the same in all, one for each theme and one for each concept, and is of
-/// length 1 to the last bit. A text in which no concept is known has none.
+/// A vector has one axis whose value is the same in all vectors, one for each theme and one for each concept;
+/// its length is exactly 1 in double precision. A text without a known concept has no vector.
 class ConceptEmbeddingProvider final : public SentenceEmbeddingProviding
 {
 public:
     ConceptEmbeddingProvider();
     ~ConceptEmbeddingProvider() override;
 
-    /// Reads the shipped lexicon when it is first asked for a vector.
+    /// The first call reads the shipped lexicon.
     [[nodiscard]] std::optional<QList<double>> sentenceVector(const QString &text) override;
 
-    /// How much of a vector's squared length is the axis that all share. Two texts without a common theme
-    /// have this as their cosine, and so does the median of a store; what is shown must lie 0.03 above it,
-    /// which is 0.03 / (1 - share) of what the concepts say.
+    /// The share of the common axis in a vector's squared length. It is the cosine of two texts without a
+    /// common theme, and mostly the median of a store. A match must lie SemanticSearch::admission above it,
+    /// that is admission / (1 - commonShare) of the rest.
     static constexpr double commonShare = 0.87;
-    /// How much a theme counts beside its concepts.
+    /// The weight of a theme relative to its concepts.
     static constexpr double themeWeight = 0.45;
 
 private:

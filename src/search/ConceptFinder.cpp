@@ -30,13 +30,13 @@ bool isHangul(QChar character)
     return character >= u'\uAC00' && character <= u'\uD7A3';
 }
 
-/// Of a script that puts blanks between words.
+/// A letter or digit of a script with spaces between words.
 bool isWordLetter(QChar character)
 {
     return character < u'\u2E80' && character.isLetterOrNumber();
 }
 
-/// A letter without its accent, for the letters that are one with it.
+/// The base letter of a precomposed letter with an accent.
 QChar withoutAccent(QChar letter)
 {
     constexpr char16_t first = 0x00C0;
@@ -55,10 +55,10 @@ QChar withoutAccent(QChar letter)
     return letter >= first && letter <= last ? QChar(table[letter.unicode() - first]) : letter;
 }
 
-/// The word without a common ending of the languages with blanks, or as it is.
+/// The word without a common ending, or unchanged if it has none.
 QStringView stem(QStringView word)
 {
-    // The longest first. One rule for nine languages: it has only to make the forms of a word alike.
+    // Longest first. One list for nine languages: the forms of a word need only become equal.
     static constexpr QStringView endings[] = {u"ungen", u"arna", u"erna", u"orna", u"ando", u"endo", u"ing",
         u"ene", u"ern", u"ers", u"ies", u"ed", u"es", u"en", u"er", u"em", u"ar", u"or", u"as", u"os", u"is",
         u"s", u"e", u"n", u"a", u"o", u"i", u"y"};
@@ -104,18 +104,18 @@ ConceptFinder::ConceptFinder(const ConceptLexicon &lexicon)
     };
     for (auto [text, meanings] : whole.asKeyValueRange()) {
         if (text.size() == 1 && isHan(text.front())) {
-            meanings.weight *= 0.6; // one character is often a part of another word
+            meanings.weight *= 0.6; // one character is often part of another word
             if (!meanings.isKnownToChinese)
-                meanings.place = Place::NotWithinHan;
+                meanings.context = Context::NotWithinHan;
         } else if (text.size() == 1 && isHangul(text.front())) {
-            meanings.place = Place::HangulWord;
+            meanings.context = Context::HangulWord;
         } else if (text.size() <= 3 && all(text, isKatakana)) {
-            meanings.place = Place::NotWithinKatakana;
+            meanings.context = Context::NotWithinKatakana;
         } else if (text.size() <= 3 && all(text, isHiragana)) {
-            meanings.place = Place::NotBehindHiragana;
+            meanings.context = Context::NotBehindHiragana;
         }
     }
-    // A stem that many words share tells nothing.
+    // A stem shared by many words does not identify a concept.
     stems.removeIf([](const auto &each) { return each.value().concepts.size() > 2; });
     m_whole = table(whole);
     m_stems = table(stems);
@@ -125,7 +125,7 @@ ConceptFinder::Table ConceptFinder::table(const QMap<QString, Meanings> &meaning
 {
     Table made{TermTree(meanings.keys()), {}};
     for (const Meanings &each : meanings) {
-        made.terms.push_back({quint32(m_meanings.size()), quint16(each.concepts.size()), each.place,
+        made.terms.push_back({quint32(m_meanings.size()), quint16(each.concepts.size()), each.context,
             float(each.weight / double(each.concepts.size()))});
         m_meanings.insert(m_meanings.end(), each.concepts.begin(), each.concepts.end());
     }
@@ -139,7 +139,7 @@ QString ConceptFinder::normalized(QStringView text)
     result.reserve(folded.size());
     qsizetype wordStart = 0;
     const auto endWord = [&] {
-        // In a short word an accent tells it from another: "thé" is not "the".
+        // In short words an accent is significant: "thé" is not "the".
         constexpr qsizetype shortWord = 3;
         if (result.size() - wordStart > shortWord) {
             for (qsizetype i = wordStart; i < result.size(); ++i)
@@ -208,16 +208,16 @@ ConceptFinder::Hit ConceptFinder::longestAt(QStringView text, qsizetype position
         const auto fits = [&] {
             if (isWordLetter(at(position + length - 1)) && isWordLetter(after))
                 return false;
-            switch (term.place) {
-            case Place::Anywhere:
+            switch (term.context) {
+            case Context::Anywhere:
                 return true;
-            case Place::NotWithinHan:
+            case Context::NotWithinHan:
                 return !isHan(before) && !isHan(after);
-            case Place::NotWithinKatakana:
+            case Context::NotWithinKatakana:
                 return !isKatakana(before) && !isKatakana(after);
-            case Place::NotBehindHiragana:
+            case Context::NotBehindHiragana:
                 return !isHiragana(before);
-            case Place::HangulWord:
+            case Context::HangulWord:
                 return !isHangul(before)
                        && (!isHangul(after) || QStringView(u"이가을를은는에의도로과와만랑").contains(after));
             }
@@ -255,7 +255,7 @@ void ConceptFinder::addParts(QStringView compound, std::vector<Found> &found) co
             }
         }
     }
-    // The last part says what the whole is.
+    // The last part of a compound determines its meaning.
     constexpr qsizetype telling = 5;
     for (qsizetype split = 2; compound.size() - split >= telling; ++split) {
         if (const int number = m_whole.tree.find(compound.sliced(split)); number >= 0) {
@@ -294,8 +294,8 @@ std::vector<ConceptFinder::Found> ConceptFinder::find(QStringView original) cons
         while (position < text.size() && isWordLetter(text[position]))
             ++position;
         const QStringView unknown = QStringView(text).sliced(start, position - start);
-        constexpr qsizetype longestWord = 40; // beyond that it is no word, and its parts are many
-        if (unknown.size() > longestWord)
+        constexpr qsizetype maxWordLength = 40; // longer ones are not words and have many parts
+        if (unknown.size() > maxWordLength)
             continue;
         if (isStopWord(unknown))
             continue;

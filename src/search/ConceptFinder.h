@@ -5,11 +5,11 @@
 
 #include <vector>
 
-/// Finds the concepts that a text speaks of, in whatever language it is written.
+/// Finds the concepts that occur in a text in any of the languages of the lexicon.
 ///
-/// Case, accents, hyphens and the width of letters do not count. In scripts with blanks between words a term
-/// is whole words, and a word that is no term is tried without its ending and then in its parts
-/// ("Zahnarzttermin"); in the others the longest term counts, from left to right.
+/// Case, accents, hyphens and the width of letters are ignored. In scripts with spaces between words a term
+/// consists of whole words, and a word that is not a term is looked up without its ending and then in its
+/// parts ("Zahnarzttermin"); in other scripts the longest term wins, from left to right.
 class ConceptFinder
 {
 public:
@@ -17,22 +17,22 @@ public:
 
     struct Found {
         int meaning = 0;   ///< index of the concept
-        double weight = 0; ///< 1 for a term that tells all by itself
+        double weight = 0; ///< 1 for a term that identifies the concept alone
     };
-    /// In the order of the text; a concept once for each term.
+    /// In text order. A concept is listed once for each of its terms in the text.
     [[nodiscard]] std::vector<Found> find(QStringView text) const;
 
     /// The form in which terms and texts are compared.
     [[nodiscard]] static QString normalized(QStringView text);
-    /// Whether a word stands in every text of one of the languages, so that in another it is no term either.
+    /// Whether a word is so common in one of the languages that it is not used as a term in any other.
     [[nodiscard]] static bool isStopWord(QStringView word);
 
 private:
-    /// Where a term may stand.
-    enum class Place {
+    /// The context in which a term counts.
+    enum class Context {
         Anywhere,
-        NotWithinHan,      ///< one character that Chinese uses otherwise
-        NotWithinKatakana, ///< short, and often a part of another word
+        NotWithinHan,      ///< one character that Chinese uses in another meaning
+        NotWithinKatakana, ///< short, and often part of another word
         NotBehindHiragana,
         HangulWord, ///< one syllable, with or without a particle
     };
@@ -40,12 +40,12 @@ private:
         std::vector<int> concepts;
         bool isKnownToChinese = false;
         double weight = 0; ///< of each
-        Place place = Place::Anywhere;
+        Context context = Context::Anywhere;
     };
     struct Term {
         quint32 firstMeaning = 0;
         quint16 meaningCount = 0;
-        Place place = Place::Anywhere;
+        Context context = Context::Anywhere;
         float weight = 0;
     };
     struct Table {

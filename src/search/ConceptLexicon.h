@@ -8,12 +8,12 @@
 
 #include <vector>
 
-/// Which words stand for the same idea: themes hold concepts, concepts hold terms in thirteen languages.
+/// Words with the same meaning: themes contain concepts, concepts contain terms in thirteen languages.
 ///
 /// A theme is a text file, a concept a line of it:
 ///     breakfast: zh 早饭, 早餐; en breakfast, brunch; de Frühstück
-/// A "?" behind the concept's name says that its terms tell little ("problem"). Empty lines and lines that
-/// begin with "#" say nothing.
+/// A "?" after the name marks a concept whose terms are unspecific ("problem"). Empty lines and lines that
+/// begin with "#" are ignored.
 struct ConceptLexicon {
     struct Theme {
         QString name;
@@ -36,8 +36,8 @@ struct ConceptLexicon {
 
     /// The languages in which each concept has terms.
     [[nodiscard]] static const QStringList &languages();
-    /// The message says file and line of the first thing that is no concept.
+    /// The error message names file and line of the first invalid line.
     [[nodiscard]] static Result<ConceptLexicon> parse(const QList<Theme> &files);
-    /// The one that comes with the program.
+    /// The lexicon in the program's resources.
     [[nodiscard]] static ConceptLexicon shipped();
 };

@@ -76,7 +76,7 @@ std::optional<double> MedianCosine::commonCosine(const std::vector<SparseVector>
         return std::nullopt;
     std::vector<quint64> countOfAxis(size_t(first.dimension));
     std::vector<bool> isAlike(
-        size_t(first.dimension), true); ///< all that have the axis have the first's value
+        size_t(first.dimension), true); ///< whether all vectors with this axis have the first one's value
     std::vector<double> firstValues(size_t(first.dimension));
     for (size_t i = 0; i < first.axes.size(); ++i)
         firstValues[first.axes[i]] = first.values[i];
@@ -91,8 +91,8 @@ std::optional<double> MedianCosine::commonCosine(const std::vector<SparseVector>
         }
     }
 
-    // The cosine of two vectors that share only the axes which all have, and how many pairs share another
-    // one: at most so many, since a pair that shares several is counted several times.
+    // The cosine of two vectors that share only the axes which all have, and an upper bound for the number of
+    // pairs that share another one: a pair that shares several is counted several times.
     double dot = 0;
     quint64 others = 0;
     for (size_t axis = 0; axis < countOfAxis.size(); ++axis) {
@@ -137,8 +137,8 @@ void MedianCosine::beginPass(Window window)
 
 bool MedianCosine::advance(const QDeadlineTimer &deadline)
 {
-    constexpr size_t between = 256; // comparisons with a block between two looks at the clock
-    size_t sinceLook = 0;
+    constexpr size_t checkInterval = 256; // comparisons with a block between two checks of the deadline
+    size_t sinceCheck = 0;
     while (!m_isDone) {
         if (m_block >= m_groups.size()) {
             endPass();
@@ -149,7 +149,7 @@ bool MedianCosine::advance(const QDeadlineTimer &deadline)
             m_block += blockSize;
             m_other = m_block;
         }
-        if (++sinceLook % between == 0 && deadline.hasExpired())
+        if (++sinceCheck % checkInterval == 0 && deadline.hasExpired())
             return m_isDone;
     }
     return true;
@@ -159,8 +159,8 @@ void MedianCosine::compareWithBlock(size_t other)
 {
     const size_t rows = std::min(blockSize, m_groups.size() - m_block);
     if (other == m_block) {
-        // A block's values stand beside each other, axis by axis, so that one pass over the other vector's
-        // values multiplies with all of them.
+        // The block's values of one axis are adjacent, so that one pass over the other vector's values
+        // multiplies with all vectors of the block.
         qsizetype dimension = 0;
         for (size_t row = 0; row < rows; ++row)
             dimension = std::max(dimension, m_groups[m_block + row].vector.dimension);
@@ -175,7 +175,7 @@ void MedianCosine::compareWithBlock(size_t other)
     std::array<double, blockSize> dots{};
     for (size_t i = 0; i < with.vector.axes.size(); ++i) {
         if (with.vector.axes[i] * blockSize >= m_columns.size())
-            break; // longer than all of the block, and not to be compared with any
+            break; // of a higher dimension than all vectors of the block, so that no pair has a cosine
         const double value = with.vector.values[i];
         const double *const column = &m_columns[with.vector.axes[i] * blockSize];
         for (size_t row = 0; row < blockSize; ++row)

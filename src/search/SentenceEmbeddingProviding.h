@@ -5,11 +5,11 @@
 
 #include <optional>
 
-/// Makes a vector of what a text means: texts that mean alike have vectors that point alike.
+/// Computes a vector for the meaning of a text: texts of similar meaning have vectors of similar direction.
 class SentenceEmbeddingProviding
 {
 public:
     virtual ~SentenceEmbeddingProviding() = default;
-    /// Nothing when no vector can be made. The same text always has the same answer.
+    /// Nothing when the text has no vector. Equal texts always give equal results.
     [[nodiscard]] virtual std::optional<QList<double>> sentenceVector(const QString &text) = 0;
 };

@@ -5,7 +5,7 @@
 TermTree::TermTree(const QStringList &terms)
     : m_nodes(1)
 {
-    // Level by level: a node stands for the terms between two places in the list that begin alike.
+    // Level by level: a node represents a range of the list whose terms have a common prefix.
     struct Range {
         qsizetype first;
         qsizetype end;

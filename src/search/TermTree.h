@@ -5,15 +5,15 @@
 
 #include <vector>
 
-/// Many terms, made ready to be looked for at a place in a text: a tree of their UTF-16 units, laid out flat.
+/// A trie over the UTF-16 units of many terms, stored as a flat array.
 class TermTree
 {
 public:
-    /// @p terms in ascending order of their units, each once, none empty.
+    /// @p terms must be sorted by their units, without duplicates and empty terms.
     explicit TermTree(const QStringList &terms);
 
-    /// Calls @p visit(length, number) for each term that @p text begins with, the shortest first; the number
-    /// is the term's place in the list.
+    /// Calls @p visit(length, number) for each term that is a prefix of @p text, shortest first; the number
+    /// is the index of the term in the list.
     template <typename Visit>
     void prefixesOf(QStringView text, Visit visit) const
     {
@@ -26,14 +26,14 @@ public:
                 visit(length, node->term);
         }
     }
-    /// The number of the term that is the whole text; -1 for none.
+    /// The number of the term equal to the whole text, or -1.
     [[nodiscard]] int find(QStringView text) const;
 
 private:
     struct Node {
         char16_t unit = 0;
         quint16 childCount = 0;
-        quint32 firstChild = 0; ///< the children stand side by side, in ascending order
+        quint32 firstChild = 0; ///< the children are adjacent, in ascending order
         qint32 term = -1;
     };
     [[nodiscard]] const Node *child(const Node &node, char16_t unit) const;

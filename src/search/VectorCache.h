@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-/// A vector with few non-zero axes. Shows memory of the VectorCache, valid until that changes.
+/// A view of a vector with few non-zero values in a VectorCache. Valid until the cache changes.
 struct SparseVector {
     std::span<const quint32> axes; ///< ascending
     std::span<const double> values;
