@@ -62,6 +62,26 @@ private Q_SLOTS:
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
     }
 
+    void a_room_of_ui_includes_only_those_below_it()
+    {
+        const QStringList rooms{QStringLiteral("looks"), QStringLiteral("dialogs"), QStringLiteral("lists"),
+            QStringLiteral("composer"), QStringLiteral("panel")};
+        const QString shared = QStringLiteral("ui/panel/PanelState.h"); // what lists and composer act on
+        QStringList wrong;
+        for (auto it = m_includes.cbegin(); it != m_includes.cend(); ++it) {
+            if (layer(it.key()) != QStringLiteral("ui"))
+                continue;
+            const auto level = rooms.indexOf(it.key().section(u'/', 1, 1));
+            QVERIFY2(level >= 0, qPrintable(it.key()));
+            for (const QString &target : it.value()) {
+                if (target != shared && layer(target) == QStringLiteral("ui")
+                    && rooms.indexOf(target.section(u'/', 1, 1)) > level)
+                    wrong.append(it.key() + QStringLiteral(" includes ") + target);
+            }
+        }
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
+    }
+
     void no_headers_include_each_other_in_a_circle()
     {
         QHash<QString, int> state; // 1: on the way, 2: done
