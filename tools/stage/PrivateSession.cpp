@@ -70,9 +70,9 @@ QProcess &PrivateSession::launch(const QString &program, const QStringList &argu
 QProcessEnvironment PrivateSession::environment() const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name :
-        {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID",
-            "DBUS_SESSION_BUS_ADDRESS", "XDG_CURRENT_DESKTOP", "QT_IM_MODULE", "LD_PRELOAD"})
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_ACTIVATION_TOKEN",
+             "DESKTOP_STARTUP_ID", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS", "XDG_CURRENT_DESKTOP",
+             "QT_IM_MODULE", "LD_PRELOAD"})
         environment.remove(QString::fromLatin1(name));
     environment.insert(QStringLiteral("HOME"), m_home.path());
     environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
