@@ -81,11 +81,12 @@ function(quillet_layer name)
     set_property(GLOBAL APPEND_STRING PROPERTY QUILLET_LAYERS "${name}:${arg_USES}\n")
 endfunction()
 
-# quillet_test(<name> SOURCE <file> LIBRARIES <target>... [OFFSCREEN])
+# quillet_test(<name> SOURCE <file> LIBRARIES <target>... [OFFSCREEN] [DRIVES_PROGRAM])
 # One Qt Test program of one source, run in UTC and the C locale so that no test depends on the machine's. Tests are
 # compiled without optimisation: what they test is optimised, and compiling them takes the most of a build.
+# DRIVES_PROGRAM is for tests that run the program on a private desktop: they find it under PROGRAM, and have a label.
 function(quillet_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "OFFSCREEN" "SOURCE" "LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "OFFSCREEN;DRIVES_PROGRAM" "SOURCE" "LIBRARIES")
     # moc by itself: AUTOMOC would read every source and compile one more for each test.
     qt_generate_moc(${CMAKE_CURRENT_SOURCE_DIR}/${arg_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc TARGET ${name})
     add_executable(${name} ${arg_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
@@ -108,4 +109,9 @@ function(quillet_test name)
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+    if(arg_DRIVES_PROGRAM)
+        add_dependencies(${name} quillet quillet_shiftedclock)
+        target_compile_definitions(${name} PRIVATE PROGRAM="$<TARGET_FILE:quillet>")
+        set_tests_properties(${name} PROPERTIES LABELS desktop)
+    endif()
 endfunction()
