@@ -335,8 +335,8 @@ private Q_SLOTS:
             ImportExport::importNotes(panel.notes, panel.clock);
             return ModalQuestion::lastMessage();
         };
-        QCOMPARE(
-            import(u"a.json"_s), (ModalQuestion::Message{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
+        QCOMPARE(import(u"a.json"_s),
+            (ModalQuestion::Message{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
         QCOMPARE(import(u"b.md"_s), (ModalQuestion::Message{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
         QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
         FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, ExportFormatAccessory::Format::Json});
