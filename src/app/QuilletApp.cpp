@@ -1,7 +1,7 @@
 #include "app/QuilletApp.h"
 
 #include "desktop/ApplicationIdentity.h"
-#include "reminders/grammar/ReminderParser.h"
+#include "reminders/ReminderDetector.h"
 #include "ui/dialogs/ImportExport.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/panel/ContentView.h"
@@ -23,8 +23,7 @@ QuilletApp::QuilletApp(Start start)
     , m_search(m_notes, &m_embeddings, m_clock)
     , m_panel(
           [this] {
-              ReminderParser::prepare();
-              DateDetector::prepare();
+              ReminderDetector::prepare(m_clock, m_dateDetector);
               m_search.prepare();
               m_appearance.follow();
               // After the tray has its icon, because this loads a library more.

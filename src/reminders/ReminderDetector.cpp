@@ -40,6 +40,13 @@ std::optional<Choice> choose(const QList<DateDetection> &detections, const Calen
 }
 } // namespace
 
+void ReminderDetector::prepare(const Clock &clock, const DateDetecting &detector)
+{
+    // Everything is compiled on first use. This draft uses it all: the grammar resolves both date and time,
+    // and since there is no such day, the detector is asked as well.
+    (void)detect(u"march 32 9am", clock.now(), clock.calendar(), detector);
+}
+
 std::optional<ParsedReminder> ReminderDetector::detect(
     QStringView text, Instant now, const Calendar &calendar, const DateDetecting &detector)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Calendar.h"
+#include "foundation/Clock.h"
 #include "foundation/Instant.h"
 #include "foundation/TextRange.h"
 #include "reminders/DateDetecting.h"
@@ -15,6 +16,10 @@
 /// Decides on every keystroke whether a draft is a reminder: by the grammar first, then by dates found
 /// anywhere in it.
 namespace ReminderDetector {
+/// Compiles the patterns and tables of all languages, which would delay the first keystroke by some
+/// milliseconds.
+void prepare(const Clock &clock, const DateDetecting &detector);
+
 /// The fire time may lie in the past; the caller decides what to do about that.
 [[nodiscard]] std::optional<ParsedReminder> detect(
     QStringView text, Instant now, const Calendar &calendar, const DateDetecting &detector);

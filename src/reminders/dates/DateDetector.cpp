@@ -104,11 +104,6 @@ qsizetype covered(const QList<DateDetection> &detections)
 }
 } // namespace
 
-void DateDetector::prepare()
-{
-    (void)CompiledGrammar::of(ReminderLanguage::English);
-}
-
 QList<DateDetection> DateDetector::detectDates(QStringView text, ReminderLanguage draftLanguage) const
 {
     const QList<DateToken> tokens = DateTokens::of(text);

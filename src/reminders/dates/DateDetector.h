@@ -15,9 +15,6 @@ public:
     {
     }
 
-    /// Compiles the tables of all languages, which would delay the first keystroke by some milliseconds.
-    static void prepare();
-
     [[nodiscard]] QList<DateDetection> detectDates(
         QStringView text, ReminderLanguage language) const override;
 

@@ -163,11 +163,6 @@ QStringView withoutLeadingSpace(QStringView text)
 }
 } // namespace
 
-void ReminderParser::prepare()
-{
-    (void)Expression::of(ReminderLanguage::English);
-}
-
 std::optional<Calendar::Day> ReminderParser::resolveDay(
     std::optional<QStringView> dateToken, Instant now, const Calendar &calendar, ReminderLanguage language)
 {

@@ -12,9 +12,6 @@
 
 /// The reminder grammar: a draft that begins with a date and time expression.
 namespace ReminderParser {
-/// Compiles the patterns of all languages, which would delay the first keystroke by some milliseconds.
-void prepare();
-
 /// Empty unless the trimmed draft begins with an expression of the language.
 [[nodiscard]] std::optional<ParsedReminder> parse(
     QStringView text, Instant now, const Calendar &calendar, ReminderLanguage language);
