@@ -117,13 +117,23 @@ private Q_SLOTS:
         QCOMPARE(detected(u"in 20 minutes"_s, clock).first().fireAt, at("2026-03-04T02:21:00Z"));
     }
 
-    void the_calendar_decides_what_exists_data()
+    void a_draft_is_read_as_one_reminder_on_a_day_that_exists_data()
     {
         QTest::addColumn<QString>("draft");
         QTest::addColumn<QString>("meaning");
         const auto row = [](const QString &draft, const QString &meaning) {
             QTest::newRow(qPrintable(draft)) << draft << meaning;
         };
+        // A day with a time wins, a time takes its day from elsewhere, a day alone reminds at nine.
+        row(u"not Friday but next Monday at 3pm: call the bank"_s,
+            u"03-09 15:00 | not Friday but : call the bank"_s);
+        row(u"call mom 3pm"_s, u"03-04 15:00 | call mom"_s);
+        row(u"Friday call mom 3pm remember"_s, u"03-06 15:00 | call mom"_s);
+        row(u"call the bank next Friday"_s, u"03-06 09:00 | call the bank"_s);
+        row(u"next Friday, remind me to call the bank"_s, u"03-06 09:00 | remind me to call the bank"_s);
+        row(u"next Friday"_s, u"03-06 09:00 | next Friday"_s);
+
+        // The calendar decides what exists.
         row(u"x am 30.2."_s, {});
         row(u"x on 29 February"_s, u"2028-02-29 09:00 | x"_s);
         row(u"x on the 31st"_s, u"03-31 09:00 | x"_s);
@@ -134,7 +144,7 @@ private Q_SLOTS:
         row(u"x at midnight"_s, u"03-05 00:00 | x"_s);
         row(u"Friday party at midnight"_s, u"03-07 00:00 | party"_s); // the midnight that ends it
     }
-    void the_calendar_decides_what_exists()
+    void a_draft_is_read_as_one_reminder_on_a_day_that_exists()
     {
         QFETCH(QString, draft);
         QTEST(DateDrafts::understood(draft), "meaning");

@@ -15,16 +15,18 @@ QList<DateDetection> detected(QStringView text, const QList<DateToken> &tokens, 
 {
     QList<DateDetection> detections;
     for (const DateFinder::Found &found : DateFinder(CompiledGrammar::of(language), tokens).find()) {
-        const auto resolved = DateResolver::resolve(found.facts, now, calendar);
-        if (!resolved)
+        auto detection = DateResolver::resolve(found.facts, now, calendar);
+        if (!detection)
             continue;
         TextRange range{tokens[found.start].range.start, tokens[found.end - 1].range.end};
         // Without the date two blanks would meet; one is removed with it.
         if (range.start > 0 && text[range.start - 1].isSpace() && range.end < text.size()
             && text[range.end].isSpace())
             ++range.end;
-        detections.append({resolved->kind, language, resolved->day, resolved->time, resolved->fireAt, range,
-            text.sliced(range.start, range.length()).toString()});
+        detection->language = language;
+        detection->range = range;
+        detection->text = text.sliced(range.start, range.length()).toString();
+        detections.append(*std::move(detection));
     }
     return detections;
 }

@@ -93,14 +93,14 @@ std::optional<Calendar::Day> resolveDay(const DateFacts &facts, Calendar::Day to
 }
 } // namespace
 
-std::optional<DateResolver::Resolved> DateResolver::resolve(
+std::optional<DateDetection> DateResolver::resolve(
     const DateFacts &facts, Instant now, const Calendar &calendar)
 {
     using Kind = DateDetection::Kind;
     if (facts.saysMoment()) {
         const int unitMinutes = facts.unit == SpanUnit::Hours ? 60 : 1;
         const Instant moment = now + minutes(facts.halves.value_or(2) * unitMinutes / 2);
-        return Resolved{Kind::Moment, {}, {}, ceil<minutes>(moment)};
+        return DateDetection{Kind::Moment, {}, {}, {}, ceil<minutes>(moment), {}, {}};
     }
     const Calendar::Day today = calendar.day(now);
     const auto day = facts.saysDay() ? resolveDay(facts, today) : std::optional(today);
@@ -114,5 +114,5 @@ std::optional<DateResolver::Resolved> DateResolver::resolve(
         return std::nullopt;
     const bool hasTime = facts.saysTime() || facts.part;
     const Kind kind = !hasTime ? Kind::Day : facts.saysDay() ? Kind::DayAndTime : Kind::Time;
-    return Resolved{kind, *day, *time, *fireAt};
+    return DateDetection{kind, {}, *day, *time, *fireAt, {}, {}};
 }

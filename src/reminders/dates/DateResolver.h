@@ -8,15 +8,8 @@
 
 /// Resolves facts to calendar days and times.
 namespace DateResolver {
-/// The fields of a DateDetection.
-struct Resolved {
-    DateDetection::Kind kind;
-    Calendar::Day day;
-    ClockTime time;
-    Instant fireAt;
-};
-
 /// Empty for a day or a time that does not exist. A day without a time is at its 09:00, a part of the day
-/// without an hour at the default time of the part.
-[[nodiscard]] std::optional<Resolved> resolve(const DateFacts &facts, Instant now, const Calendar &calendar);
+/// without an hour at the default time of the part. The caller adds language, range and text.
+[[nodiscard]] std::optional<DateDetection> resolve(
+    const DateFacts &facts, Instant now, const Calendar &calendar);
 } // namespace DateResolver

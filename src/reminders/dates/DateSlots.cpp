@@ -23,38 +23,38 @@ bool set(std::optional<Fact> &fact, Value value)
     return true;
 }
 
+template <auto Fact>
+bool take(const DateWord &word, DateFacts &facts)
+{
+    return set(facts.*Fact, word.value);
+}
+
+template <auto Fact, int First, int Last>
+bool number(const DateWord &word, DateFacts &facts)
+{
+    return isNumber(word, First, Last) && take<Fact>(word, facts);
+}
+
 // A new slot is a row of this table.
 constexpr DateSlot slotTable[] = {
-    {u"hour", Kind::Number,
-        [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 0, 24) && set(facts.hour, word.value);
-        }},
-    {u"minute", Kind::Number,
-        [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 0, 59) && set(facts.minute, word.value);
-        }},
+    {u"hour", Kind::Number, number<&DateFacts::hour, 0, 24>},
+    {u"minute", Kind::Number, number<&DateFacts::minute, 0, 59>},
     {u"mm", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 0, 59) && word.digits == 2 && set(facts.minute, word.value);
+            return word.digits == 2 && number<&DateFacts::minute, 0, 59>(word, facts);
         }},
     {u"until", Kind::Number, [](const DateWord &word, DateFacts &) { return isNumber(word, 0, 59); }},
     {u"day", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 1, 31) && (word.digits > 0 || word.isHanNumeral)
-                   && set(facts.day, word.value);
+            return (word.digits > 0 || word.isHanNumeral) && number<&DateFacts::day, 1, 31>(word, facts);
         }},
     {u"daydigits", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 1, 31) && word.digits > 0 && set(facts.day, word.value);
+            return word.digits > 0 && number<&DateFacts::day, 1, 31>(word, facts);
         }},
-    {u"ordinal", Kind::Ordinal,
-        [](const DateWord &word, DateFacts &facts) { return set(facts.day, word.value); }},
-    {u"monthnumber", Kind::Number,
-        [](const DateWord &word, DateFacts &facts) {
-            return isNumber(word, 1, 12) && set(facts.month, word.value);
-        }},
-    {u"month", Kind::Month,
-        [](const DateWord &word, DateFacts &facts) { return set(facts.month, word.value); }},
+    {u"ordinal", Kind::Ordinal, take<&DateFacts::day>},
+    {u"monthnumber", Kind::Number, number<&DateFacts::month, 1, 12>},
+    {u"month", Kind::Month, take<&DateFacts::month>},
     {u"year", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
             // "5/3/27"; below 25 it may as well be a version.
@@ -64,17 +64,16 @@ constexpr DateSlot slotTable[] = {
         }},
     {u"n", Kind::Number,
         [](const DateWord &word, DateFacts &facts) {
+            if (!isNumber(word, 1, 999, 3))
+                return false;
             facts.halves = facts.halves.value_or(0) + 2 * word.value;
-            return isNumber(word, 1, 999, 3);
+            return true;
         }},
-    {u"unit", Kind::Unit, [](const DateWord &word, DateFacts &facts) { return set(facts.unit, word.value); }},
-    {u"weekday", Kind::Weekday,
-        [](const DateWord &word, DateFacts &facts) { return set(facts.weekday, word.value); }},
-    {u"shortweekday", Kind::ShortWeekday,
-        [](const DateWord &word, DateFacts &facts) { return set(facts.weekday, word.value); }},
-    {u"relative", Kind::Relative,
-        [](const DateWord &word, DateFacts &facts) { return set(facts.relativeDay, word.value); }},
-    {u"part", Kind::Part, [](const DateWord &word, DateFacts &facts) { return set(facts.part, word.value); }},
+    {u"unit", Kind::Unit, take<&DateFacts::unit>},
+    {u"weekday", Kind::Weekday, take<&DateFacts::weekday>},
+    {u"shortweekday", Kind::ShortWeekday, take<&DateFacts::weekday>},
+    {u"relative", Kind::Relative, take<&DateFacts::relativeDay>},
+    {u"part", Kind::Part, take<&DateFacts::part>},
     {u"weekdaypart", Kind::WeekdayAndPart,
         [](const DateWord &word, DateFacts &facts) {
             return set(facts.weekday, word.value / partsPerWeekday)

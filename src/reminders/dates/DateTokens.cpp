@@ -177,8 +177,8 @@ private:
         static const QStringList shapes{QString(), QStringLiteral(":"), QStringLiteral("."),
             QStringLiteral(".."), QStringLiteral("/"), QStringLiteral("//"), QStringLiteral("--"),
             QStringLiteral("-"), QStringLiteral(":-:"), QStringLiteral(".-.")};
-        const QChar behind = end < m_text.size() ? m_text[end] : QChar();
-        const bool isMeasure = QStringView(u"%€$£¥‰").contains(behind) && !behind.isNull();
+        const QChar after = end < m_text.size() ? m_text[end] : QChar();
+        const bool isMeasure = QStringView(u"%€$£¥‰").contains(after);
         if (isAttached || isMeasure || longest > 4 || !shapes.contains(separators)) {
             take(Type::Barrier, end);
             return;

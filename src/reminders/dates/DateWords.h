@@ -35,7 +35,7 @@ struct DateWords {
     Words<SpanUnit> units;
     std::vector<Rule> rules;
 
-    WordList before = {};    ///< leads to a date and is removed with it: "at", "by"
+    WordList before = {};    ///< precedes a date and is removed with it: "at", "by"
     WordList between = {};   ///< may stand between the parts of a date
     WordList after = {};     ///< follows a date and is removed with it
     WordList notAfter = {};  ///< after these words nothing is a date: "last"

@@ -56,11 +56,7 @@ QString replacement(QStringView placeholder, const LanguageRules &rules)
 
 bool WordLists::contains(WordList list, QStringView word)
 {
-    for (const QStringView alternative : each(list)) {
-        if (alternative == word)
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(each(list), [word](QStringView known) { return known == word; });
 }
 
 QString WordLists::expanded(QStringView text, const LanguageRules &rules)
