@@ -192,7 +192,7 @@ void oneSubject(benchmark::State &state)
     index.setCandidates(notes);
     SemanticMatches(index, noNoteHas, 20).advance();
     for (auto _ : state) {
-        index.baseline.reset();
+        index.setBaseline(std::nullopt);
         SemanticMatches(index, noNoteHas, 20).advance();
     }
 }

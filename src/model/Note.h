@@ -13,7 +13,7 @@ struct Note {
     QString text;                 ///< trimmed; its tags are the "#words" in it
     std::optional<QString> quote; ///< a reply's copy of the quoted text, as it was when the reply was written
     std::optional<QUuid> quoteID; ///< the quoted note, which may be in the trash or gone
-    std::optional<QString> link;  ///< an address, absolute and encoded, exactly as it stands in the file
+    std::optional<QString> link;  ///< an address, absolute and encoded, unchanged from the file
     Instant createdAt;
     bool operator==(const Note &) const = default;
 };

@@ -48,20 +48,19 @@ void NoteSearch::followChange(const NoteChange &change)
         m_index.dropText(id);
     for (const QUuid id : change.vectors)
         m_index.dropVector(id);
-    m_isIndexCurrent = false;
+    m_index.invalidate();
     Q_EMIT changed();
 }
 
 void NoteSearch::updateIndex()
 {
-    if (m_isIndexCurrent)
+    if (m_index.isCurrent())
         return;
     QList<SemanticCandidate> candidates;
     candidates.reserve(m_notes.notes().size());
     for (const Note &note : m_notes.notes())
         candidates.append({note.id, note.text});
     m_index.setCandidates(candidates);
-    m_isIndexCurrent = true;
 }
 
 QList<DaySection> NoteSearch::daySections(const QString &query)
@@ -94,7 +93,7 @@ QList<Note> NoteSearch::relatedNotes(const Note &note, qsizetype limit)
     if (!hasOthers)
         return {};
     m_index.makeVector({note.id, note.text});
-    RankedSearch search(m_index, {note.text, m_index.vectors.vector(note.id), limit, 0, note.id, true});
+    RankedSearch search(m_index, {note.text, m_index.vectors.vector(note.id), limit, 0, note.id});
     search.advance();
     QList<Note> related;
     for (const ScoredMatch &match : search.matches())

@@ -54,8 +54,7 @@ public:
     [[nodiscard]] QList<DaySection> daySections(const QList<SemanticHit> &hits) const;
 
     [[nodiscard]] SemanticMatches semanticMatches(const QString &query, qsizetype limit);
-    /// The other live notes that share words or pairs of characters with this one, best first. While a search
-    /// is under way, only for live notes.
+    /// The other live notes that share words or pairs of characters with this one, best first.
     [[nodiscard]] QList<Note> relatedNotes(const Note &note, qsizetype limit);
 
     /// Reads the texts in advance, so that the first keystroke need not.
@@ -73,5 +72,4 @@ private:
     const NoteStore &m_notes;
     const Clock &m_clock;
     SearchIndex m_index;
-    bool m_isIndexCurrent = false;
 };

@@ -6,6 +6,7 @@
 #include "model/Days.h"
 #include "model/NoteCoding.h"
 #include "model/ReminderStore.h"
+#include "text/NoteHighlighting.h"
 #include "text/TagEditing.h"
 
 #include <QFileInfo>
@@ -49,20 +50,24 @@ void makeIDsUnique(QList<Note> &notes, QSet<QUuid> &known)
 QList<TagSummary> countTags(const QList<Note> &notes)
 {
     QList<TagSummary> summaries;
-    QHash<QString, qsizetype> indexOfName;
+    QHash<QString, qsizetype> indexOfTag;
     for (const Note &note : notes) {
-        for (const TagEditing::Token &tag : TagEditing::tokens(note.text)) {
-            const QString name = tag.text.sliced(1);
-            const auto found = indexOfName.constFind(name);
-            if (found != indexOfName.cend()) {
+        for (const QString &tag : NoteHighlighting::tags(note.text)) {
+            const auto found = indexOfTag.constFind(tag);
+            if (found != indexOfTag.cend()) {
                 ++summaries[*found].count;
             } else {
-                indexOfName.insert(name, summaries.size());
-                summaries.append({name, 1});
+                indexOfTag.insert(tag, summaries.size());
+                summaries.append({tag.sliced(1), 1});
             }
         }
     }
     return summaries;
+}
+
+bool hasTags(const Note &note)
+{
+    return !NoteHighlighting::tags(note.text).isEmpty();
 }
 } // namespace
 
@@ -108,7 +113,8 @@ void NoteStore::load()
 
 void NoteStore::commit(const NoteChange &change, const QList<QUuid> &notesWithoutReminders)
 {
-    m_tagSummaries = countTags(m_notes);
+    if (change.tags)
+        m_tagSummaries = countTags(m_notes);
     Q_EMIT notesChanged(change);
     if (m_reminderStore) {
         for (const QUuid id : notesWithoutReminders)
@@ -145,7 +151,7 @@ std::optional<Note> NoteStore::add(const QString &text, const std::optional<Note
         note.quoteID = quoting->id;
     }
     m_notes.prepend(note);
-    commit({{note.id}, {note.id}});
+    commit({{note.id}, {note.id}, hasTags(note)});
     if (reminder && m_reminderStore)
         m_reminderStore->schedule(note.id, reminder->fireAt, reminder->content, trimmed);
     return note;
@@ -157,8 +163,9 @@ void NoteStore::update(QUuid id, const QString &text)
     const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
     if (trimmed.isEmpty() || found == m_notes.end())
         return;
+    const bool changesTags = NoteHighlighting::tags(found->text) != NoteHighlighting::tags(trimmed);
     found->text = trimmed;
-    commit({{id}, {id}});
+    commit({{id}, {id}, changesTags});
 }
 
 void NoteStore::applyLinkTitle(const QString &title, QUuid id, const QString &expected)
@@ -173,9 +180,10 @@ void NoteStore::remove(QUuid id)
     const auto found = std::find_if(m_notes.begin(), m_notes.end(), withID(id));
     if (found == m_notes.end())
         return;
-    m_trash.prepend(*found);
+    const Note note = *found;
     m_notes.erase(found);
-    commit({{id}, {id}}, {id});
+    m_trash.prepend(note);
+    commit({{id}, {id}, hasTags(note)}, {id});
 }
 
 void NoteStore::restore(QUuid id)
@@ -188,7 +196,7 @@ void NoteStore::restore(QUuid id)
     const auto earlier = std::find_if(m_notes.begin(), m_notes.end(),
         [&note](const Note &other) { return other.createdAt < note.createdAt; });
     m_notes.insert(earlier, note);
-    commit({});
+    commit({{}, {}, hasTags(note)});
 }
 
 void NoteStore::emptyTrash()
@@ -224,7 +232,7 @@ qsizetype NoteStore::importNotes(const QList<Note> &incoming)
         return 0;
     m_notes += added;
     sortNewestFirst(m_notes);
-    commit({});
+    commit({{}, {}, std::any_of(added.begin(), added.end(), hasTags)});
     return added.size();
 }
 
@@ -248,7 +256,7 @@ void NoteStore::renameTag(const QString &from, const QString &to)
     const QString name = Characters::trimmedOfBlanks(to).toString();
     if (!TagEditing::isValidName(name) || name == from)
         return;
-    NoteChange change;
+    NoteChange change{{}, {}, true};
     for (QList<Note> *list : {&m_notes, &m_trash}) {
         for (Note &note : *list) {
             if (TagEditing::occurrences(from, note.text) == 0)
@@ -265,7 +273,7 @@ void NoteStore::renameTag(const QString &from, const QString &to)
 
 void NoteStore::removeTag(const QString &tag)
 {
-    NoteChange change;
+    NoteChange change{{}, {}, true};
     // Removes the tag from the notes, and the notes that this leaves empty from the list.
     const auto takeOut = [&](QList<Note> &notes) {
         QList<Note> emptied;

@@ -32,23 +32,18 @@ RankedSearch::RankedSearch(SearchIndex &index, const Request &request)
     , m_except(request.except)
     , m_query(request.query)
     , m_preparedQuery(LexicalIndex::prepared(request.query))
-    , m_needsBaseline(request.queryVector && !request.onlyOrderMatters)
+    , m_needsBaseline(request.queryVector && !request.except)
     , m_indexRevision(index.revision())
 {
     if (request.queryVector)
         m_vector.emplace(*request.queryVector);
-    Q_ASSERT(!request.onlyOrderMatters || request.semanticOnlyCap == 0);
-}
-
-bool RankedSearch::isIndexUnchanged() const
-{
-    return m_index.revision() == m_indexRevision
-           && (!m_median || m_index.vectors.revision() == m_vectorRevision);
+    Q_ASSERT(index.isCurrent());
+    Q_ASSERT(!request.except || request.semanticOnlyCap == 0);
 }
 
 bool RankedSearch::advance(const QDeadlineTimer &deadline)
 {
-    Q_ASSERT(isIndexUnchanged());
+    Q_ASSERT(m_index.revision() == m_indexRevision);
     const auto forEachCandidate = [&](auto work) {
         constexpr qsizetype checkInterval = 64;
         while (m_next < m_index.candidates().size()) {
@@ -71,10 +66,10 @@ bool RankedSearch::advance(const QDeadlineTimer &deadline)
     }
     if (m_stage == Stage::Baseline) {
         if (m_median) {
-            if (!m_median->advance(deadline))
+            if (!advanceMedian(deadline))
                 return false;
             m_baseline = m_median->value();
-            m_index.baseline = m_baseline;
+            m_index.setBaseline(m_baseline);
         }
         m_stage = Stage::Comparing;
     }
@@ -86,7 +81,7 @@ bool RankedSearch::advance(const QDeadlineTimer &deadline)
     }
     if (m_stage == Stage::Settling) {
         if (m_median && !m_needsBaseline) {
-            if (!m_median->advance(deadline))
+            if (!advanceMedian(deadline))
                 return false;
             settle();
         }
@@ -96,7 +91,7 @@ bool RankedSearch::advance(const QDeadlineTimer &deadline)
     return true;
 }
 
-std::unique_ptr<MedianCosine> RankedSearch::medianOfCandidates()
+void RankedSearch::beginMedian()
 {
     m_vectorRevision = m_index.vectors.revision();
     std::vector<SparseVector> vectors;
@@ -105,17 +100,24 @@ std::unique_ptr<MedianCosine> RankedSearch::medianOfCandidates()
         if (vector)
             vectors.push_back(*vector);
     }
-    return std::make_unique<MedianCosine>(vectors);
+    m_median = std::make_unique<MedianCosine>(vectors);
+}
+
+bool RankedSearch::advanceMedian(const QDeadlineTimer &deadline)
+{
+    if (m_index.vectors.revision() != m_vectorRevision)
+        beginMedian();
+    return m_median->advance(deadline);
 }
 
 void RankedSearch::beginBaseline()
 {
     if (!m_needsBaseline)
         return;
-    if (m_index.baseline)
-        m_baseline = *m_index.baseline;
+    if (const auto known = m_index.baseline())
+        m_baseline = *known;
     else
-        m_median = medianOfCandidates();
+        beginMedian();
 }
 
 void RankedSearch::compare(qsizetype index)
@@ -143,7 +145,7 @@ void RankedSearch::endComparing()
     sortBest();
     const bool lacksBaseline = m_vector && !m_needsBaseline;
     if (lacksBaseline && hasCloseScores())
-        m_median = medianOfCandidates();
+        beginMedian();
 }
 
 qsizetype RankedSearch::resultSize() const

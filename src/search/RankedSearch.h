@@ -15,8 +15,8 @@
 /// without lexical score is admitted if its relative score exceeds SemanticSearch::admission, as long as the
 /// cap allows; the cap is filled in the order of the candidates, not by the best.
 ///
-/// Between slices the texts and the order of the index must not change. Once all texts have been read, no
-/// vector may be added or dropped either, since the baseline keeps views into the vector cache.
+/// Between slices the texts and the order of the index must not change. Where a vector has been added, the
+/// computation of the baseline starts again, since it keeps views into the vector cache.
 class RankedSearch
 {
 public:
@@ -25,10 +25,10 @@ public:
         std::optional<SemanticSearch::Vector> queryVector;
         qsizetype limit = 0;
         qsizetype semanticOnlyCap = 0;
-        std::optional<QUuid> except = {}; ///< a candidate to leave out
-        /// The baseline shifts all relative scores alike. Where no candidate is admitted by its vector alone
-        /// and only the order matters, it need not be subtracted and mostly not be computed.
-        bool onlyOrderMatters = false;
+        /// A candidate to leave out. Only the order of the matches is then defined, and the cap must be 0:
+        /// the baseline, which shifts all relative scores alike, is computed only where the order depends on
+        /// it.
+        std::optional<QUuid> except = {};
     };
 
     /// The index must outlive the search.
@@ -41,8 +41,8 @@ public:
 
 private:
     enum class Stage { Reading, Baseline, Comparing, Settling, Done };
-    [[nodiscard]] bool isIndexUnchanged() const;
-    [[nodiscard]] std::unique_ptr<MedianCosine> medianOfCandidates();
+    void beginMedian();
+    [[nodiscard]] bool advanceMedian(const QDeadlineTimer &deadline);
     void beginBaseline();
     void compare(qsizetype index);
     void endComparing();
@@ -61,7 +61,7 @@ private:
     std::optional<VectorQuery> m_vector;
     bool m_needsBaseline;
     quint64 m_indexRevision;
-    quint64 m_vectorRevision = 0; ///< when m_median was made
+    quint64 m_vectorRevision = 0; ///< when m_median was begun
 
     Stage m_stage = Stage::Reading;
     qsizetype m_next = 0; ///< the next candidate in this stage

@@ -4,19 +4,27 @@ void SearchIndex::setProvider(SentenceEmbeddingProviding *provider)
 {
     m_provider = provider;
     m_vectorless.clear();
+    invalidate();
 }
 
 void SearchIndex::setCandidates(const QList<SemanticCandidate> &candidates)
 {
-    ++m_revision;
+    invalidate();
     m_candidates = candidates;
     texts.setOrder(candidates);
-    baseline.reset();
+    m_isCurrent = true;
+}
+
+void SearchIndex::invalidate()
+{
+    ++m_revision;
+    m_isCurrent = false;
+    m_baseline.reset();
 }
 
 void SearchIndex::dropText(QUuid id)
 {
-    ++m_revision;
+    invalidate();
     texts.drop(id);
     m_vectorless.remove(id);
 }
@@ -24,7 +32,7 @@ void SearchIndex::dropText(QUuid id)
 void SearchIndex::dropVector(QUuid id)
 {
     vectors.remove(id);
-    baseline.reset();
+    m_baseline.reset();
 }
 
 void SearchIndex::read(qsizetype index)
@@ -39,12 +47,11 @@ void SearchIndex::makeVector(const SemanticCandidate &text)
 {
     if (!m_provider || vectors.contains(text.id) || m_vectorless.contains(text.id))
         return;
-    if (const auto vector = m_provider->sentenceVector(text.text)) {
+    // The baseline stays: once it is known, all candidates have been read, and this text is none of them.
+    if (const auto vector = m_provider->sentenceVector(text.text))
         vectors.insert(text.id, *vector);
-        baseline.reset();
-    } else {
+    else
         m_vectorless.insert(text.id);
-    }
 }
 
 std::optional<SemanticSearch::Vector> SearchIndex::queryVector(const QString &query) const

@@ -4,6 +4,8 @@
 #include "foundation/Regex.h"
 #include "text/TagEditing.h"
 
+#include <algorithm>
+
 namespace {
 using NoteHighlighting::SegmentKind;
 
@@ -25,6 +27,10 @@ void appendPlain(QStringView text, QList<NoteHighlighting::Segment> &out)
 
 void appendWithoutTags(QStringView text, QList<NoteHighlighting::Segment> &out)
 {
+    // Each match has one of these. Most texts have none and need no matcher.
+    constexpr QStringView marks = u"¥$€£-/年:";
+    if (std::none_of(text.begin(), text.end(), [marks](QChar unit) { return marks.contains(unit); }))
+        return appendPlain(text, out);
     qsizetype cursor = 0;
     for (const Regex::Match &match : numberPattern().allMatches(text)) {
         const TextRange range = match.range();
@@ -63,4 +69,12 @@ QList<NoteHighlighting::Segment> NoteHighlighting::segments(QStringView text, QS
         cursor = hit.end;
     }
     return result += segments(text.sliced(cursor));
+}
+
+QStringList NoteHighlighting::tags(QStringView text)
+{
+    QStringList tags;
+    for (const TagEditing::Token &tag : TagEditing::tokens(text))
+        tags.append(tag.text);
+    return tags;
 }

@@ -2,8 +2,9 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
-/// Cuts a note's text into the runs that are told apart by colour.
+/// Divides a note's text into segments that are shown in different colours.
 namespace NoteHighlighting {
 enum class SegmentKind {
     Plain,
@@ -14,13 +15,16 @@ enum class SegmentKind {
 
 struct Segment {
     SegmentKind kind = SegmentKind::Plain;
-    QString text; ///< exactly as it stands: all segments in a row give the text back
+    QString text; ///< unchanged: the segments of a text, concatenated, equal it
     bool operator==(const Segment &) const = default;
 };
 
 [[nodiscard]] QList<Segment> segments(QStringView text);
 
-/// The same with the search term's hits, which are never cut further; what lies between them is cut on its
-/// own.
+/// The same with the hits of the search term, each as one segment. The text between two hits is divided as if
+/// it were a text by itself.
 [[nodiscard]] QList<Segment> segments(QStringView text, QStringView query);
+
+/// The texts of the tags, in text order, with their "#".
+[[nodiscard]] QStringList tags(QStringView text);
 } // namespace NoteHighlighting

@@ -18,7 +18,7 @@ bool TagEditing::endsTag(QChar character)
 
 QList<TagEditing::Token> TagEditing::tokens(QStringView text)
 {
-    // A plain loop, not a regular expression: every change of the notes counts the tags of all of them.
+    // A plain loop, not a regular expression: a change of tags counts those of all notes.
     QList<Token> tokens;
     for (qsizetype start = text.indexOf(u'#'); start >= 0;) {
         qsizetype end = start + 1;

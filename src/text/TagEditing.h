@@ -28,7 +28,7 @@ struct Token {
 /// The text with each whole occurrence of one tag replaced by another.
 [[nodiscard]] QString replacingTag(QStringView text, QStringView from, QStringView to);
 
-/// The text without the tag, and without the second of two spaces that this would leave behind. Trimmed of
+/// The text without the tag. Where white space precedes the tag, that after it is removed as well. Trimmed of
 /// spaces and tabs, not of line breaks.
 [[nodiscard]] QString removingTag(QStringView text, QStringView tag);
 } // namespace TagEditing

@@ -287,32 +287,6 @@ private Q_SLOTS:
         QCOMPARE(aside.size(), 1);
     }
 
-    void an_unreadable_file_that_is_gone_by_the_first_save_does_not_stop_it()
-    {
-        QDir().mkpath(path({}));
-        writeFile(notesPath(), "not ours");
-        const auto notes = store();
-        QVERIFY(QFile::remove(notesPath()));
-        notes->add(u"新"_s);
-        QCOMPARE(savedTexts(u"notes.json"_s), QStringList{u"新"_s});
-    }
-
-    void a_removal_that_died_between_the_renames_is_completed()
-    {
-        Note removed;
-        {
-            const auto notes = store();
-            removed = *notes->add(u"删"_s);
-            notes->remove(removed.id);
-        }
-        // As the files stand when notes.json is new and trash.json still old.
-        QFile::rename(path(u"trash.json"_s), path(u"trash.json.staged"_s));
-        writeFile(path(u"trash.json"_s), "[\n\n]");
-        const auto notes = store();
-        QVERIFY(notes->notes().isEmpty());
-        QCOMPARE(notes->trash(), QList<Note>{removed});
-    }
-
     void a_failed_save_is_one_line_and_keeps_the_list()
     {
         writeFile(m_folder->filePath(u"Quillet"_s), "a file where the folder should be");

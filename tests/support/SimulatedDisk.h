@@ -121,7 +121,8 @@ public:
         if (!happens())
             return -1;
         OpenFile &file = m_open[fd];
-        const QByteArray piece = file.node->bytes.mid(file.position, std::min(qsizetype(size), mostAtOnce));
+        const QByteArray piece =
+            file.node->bytes.mid(file.position, std::min(qsizetype(size), maxBytesPerCall));
         std::copy(piece.begin(), piece.end(), bytes);
         file.position += piece.size();
         return piece.size();
@@ -131,7 +132,7 @@ public:
         if (!happens())
             return -1;
         OpenFile &file = m_open[fd];
-        const QByteArray piece(bytes, std::min(qsizetype(size), mostAtOnce));
+        const QByteArray piece(bytes, std::min(qsizetype(size), maxBytesPerCall));
         file.node->bytes.replace(file.position, piece.size(), piece);
         file.position += piece.size();
         return piece.size();
@@ -200,7 +201,7 @@ public:
     }
 
 private:
-    static constexpr qsizetype mostAtOnce = 8; ///< bytes that one call reads or writes
+    static constexpr qsizetype maxBytesPerCall = 8; ///< of a read or write
 
     struct Node {
         bool isFolder = false;

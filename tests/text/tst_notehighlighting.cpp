@@ -35,7 +35,7 @@ class NoteHighlightingTest final : public QObject
     }
 
 private Q_SLOTS:
-    void runs_are_told_apart_data()
+    void each_segment_has_its_kind_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("query");
@@ -63,7 +63,7 @@ private Q_SLOTS:
         row("abc", "   ", "abc");
         row("¥100 in", "0", "«¥1»{0}{0} in");
     }
-    void runs_are_told_apart()
+    void each_segment_has_its_kind()
     {
         QFETCH(QString, text);
         QFETCH(QString, query);

@@ -91,11 +91,11 @@ private Q_SLOTS:
                              const char *expected) {
             QTest::newRow(name) << bytes << QString::fromUtf8(contentType) << QString::fromUtf8(expected);
         };
-        row("as told", "\x93\xfa\x96\x7b", "text/html; charset=Shift_JIS", "日本");
+        row("as declared", "\x93\xfa\x96\x7b", "text/html; charset=Shift_JIS", "日本");
         row("the first charset counts", "\xe6\x97\xa5", "text/html;charset=nonsense; charset=Shift_JIS",
             "日");
         row("a wrong one is passed over", "\xe6\x97\xa5\xff", "text/html; CHARSET=utf-8", "(none)");
-        row("UTF-8 untold", "\xe6\x97\xa5", "", "日");
+        row("UTF-8 undeclared", "\xe6\x97\xa5", "", "日");
         row("GB 18030 at last", "\xd6\xd0\xce\xc4", "text/html", "中文");
         row("an empty name", "\xd6\xd0\xce\xc4", "text/html; charset=", "中文");
         row("in none of them", "\xff\xff", "", "(none)");

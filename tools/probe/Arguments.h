@@ -14,8 +14,8 @@
 
 #include <optional>
 
-/// The arguments of one request. A missing or ill-typed one is remembered, and something harmless stands in
-/// for it: an operation reads what it needs, and its answer counts only when isGood().
+/// The arguments of one request. Reading one that is missing or of the wrong type returns a default and sets
+/// error(), so that an operation need not check each; its answer is valid only if isGood().
 class Arguments final
 {
 public:
@@ -23,7 +23,7 @@ public:
         : m_object(std::move(object))
     {
     }
-    /// The arguments of a step; what it lacks of time and language is the request's.
+    /// The arguments of a step; a time or language that it lacks is taken from the request.
     Arguments(QJsonObject step, const Arguments &request);
 
     [[nodiscard]] bool isGood() const { return m_error.isEmpty(); }
@@ -57,7 +57,7 @@ private:
     QString m_error;
 };
 
-/// How values stand in answers.
+/// The JSON form of values in answers.
 namespace Answer {
 [[nodiscard]] QString instant(Instant instant); ///< whole seconds unless there is a fraction
 [[nodiscard]] QString day(Calendar::Day day);

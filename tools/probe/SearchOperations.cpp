@@ -41,28 +41,36 @@ QUuid numbered(qsizetype number)
     return QUuid(uint(number), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
 }
 
+/// Views of the vectors, which are inserted into the cache.
+std::vector<SparseVector> sparse(const QList<QList<double>> &vectors, VectorCache &cache)
+{
+    for (qsizetype i = 0; i < vectors.size(); ++i)
+        cache.insert(numbered(i), vectors[i]);
+    std::vector<SparseVector> views;
+    for (qsizetype i = 0; i < vectors.size(); ++i)
+        views.push_back(*cache.find(numbered(i)));
+    return views;
+}
+
 QJsonValue cosineSimilarity(Arguments &arguments)
 {
     VectorCache cache;
-    cache.insert(numbered(0), arguments.numbers(u"b"_s));
-    const auto cosine = VectorQuery(arguments.numbers(u"a"_s)).cosine(*cache.find(numbered(0)));
+    const auto other = sparse({arguments.numbers(u"b"_s)}, cache).front();
+    const auto cosine = VectorQuery(arguments.numbers(u"a"_s)).cosine(other);
     return cosine ? QJsonValue(*cosine) : QJsonValue();
 }
 
 QJsonValue baseline(Arguments &arguments)
 {
-    VectorCache cache;
-    const QJsonArray vectors = arguments.array(u"vectors"_s);
-    for (qsizetype i = 0; i < vectors.size(); ++i) {
-        Arguments of(QJsonObject{{u"vectors"_s, vectors[i]}});
-        cache.insert(numbered(i), of.numbers(u"vectors"_s));
+    QList<QList<double>> vectors;
+    for (const QJsonValue &vector : arguments.array(u"vectors"_s)) {
+        Arguments of(QJsonObject{{u"vectors"_s, vector}});
+        vectors.append(of.numbers(u"vectors"_s));
         if (!of.isGood())
             arguments.fail(of.error());
     }
-    std::vector<SparseVector> sparse;
-    for (qsizetype i = 0; i < vectors.size(); ++i)
-        sparse.push_back(*cache.find(numbered(i)));
-    MedianCosine median(sparse);
+    VectorCache cache;
+    MedianCosine median(sparse(vectors, cache));
     median.advance(QDeadlineTimer(QDeadlineTimer::Forever));
     return median.value();
 }

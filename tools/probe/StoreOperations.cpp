@@ -52,7 +52,7 @@ private:
     const Clock &m_clock;
 };
 
-/// Knows the vectors of the texts that it is told.
+/// Returns the vectors that the request lists for texts.
 class ProbeEmbeddings final : public SentenceEmbeddingProviding
 {
 public:

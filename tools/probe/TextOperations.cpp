@@ -30,10 +30,7 @@ QJsonValue segments(Arguments &arguments)
 
 QJsonValue tags(Arguments &arguments)
 {
-    QJsonArray answers;
-    for (const TagEditing::Token &token : TagEditing::tokens(arguments.text(u"text"_s)))
-        answers.append(token.text);
-    return answers;
+    return QJsonArray::fromStringList(NoteHighlighting::tags(arguments.text(u"text"_s)));
 }
 
 QJsonValue tokens(Arguments &arguments)
