@@ -153,20 +153,6 @@ private Q_SLOTS:
         QVERIFY(!reminders.hasReminder(added.id));
     }
 
-    void the_trash_is_shown_by_the_day_of_writing()
-    {
-        const auto notes = store();
-        const Note old = note("旧", "2026-02-23T02:00:00Z");
-        const Note twin = note("同", "2026-03-02T02:00:00Z");
-        notes->importNotes({old, twin});
-        const Note today = *notes->add(u"今"_s); // at the same moment as its twin
-        for (const Note &each : {today, twin, old})
-            notes->remove(each.id);
-        QCOMPARE(texts(notes->trash()), (QStringList{u"旧"_s, u"同"_s, u"今"_s}));
-        QCOMPARE(notes->trashDaySections(),
-            (QList<DaySection>{{at("2026-03-01T16:00:00Z"), {1, 2}}, {at("2026-02-22T16:00:00Z"), {0}}}));
-    }
-
     void notes_are_sorted_when_they_are_loaded_and_the_trash_is_not()
     {
         const QList<Note> saved{note("旧", "2026-01-01T00:00:00Z"), note("新", "2026-03-01T00:00:00Z"),
