@@ -32,7 +32,8 @@ int main(int argc, char *argv[])
             panel.activateWindow();
         hotKey.releaseKeyboard();
     });
-    if (!hotKey.grab())
-        return 1;
-    return QApplication::exec();
+    bool failed = false;
+    QObject::connect(&hotKey, &X11HotKey::failed, [&failed] { failed = true; });
+    hotKey.request();
+    return failed ? 1 : QApplication::exec();
 }
