@@ -25,13 +25,17 @@ struct Content {
     ByteSource bytes;
 };
 
-/// Replaces all files, or none. New files are readable by their owner only; the folders must exist. After a
-/// failure the files are as before, or as they should have become, or a replace() or recover() of the same
-/// files, in the same order, will make them so.
+/// Replaces all files, or none. New files are readable by their owner only; the folders must exist. Several
+/// files must have been settled by settle() since the process started and since a replace() failed. Files at
+/// the end that already have their content are left as they are: the common save then costs two syncs, not
+/// six.
 Outcome replace(const QList<Content> &contents, FileCalls &calls = FileCalls::system());
 
 /// Completes or discards an earlier replace() of these files, in this order, that was interrupted.
 Outcome recover(const QStringList &paths, FileCalls &calls = FileCalls::system());
+
+/// recover(), after which the names of the files survive a power failure.
+Outcome settle(const QStringList &paths, FileCalls &calls = FileCalls::system());
 
 /// Creates the folder and its missing parents, accessible to their owner only.
 Outcome createFolder(const QString &path, FileCalls &calls = FileCalls::system());

@@ -8,7 +8,7 @@
 /// Why something could not be done.
 struct Failure {
     QString message;     ///< one line for the log
-    int systemError = 0; ///< the errno behind it; 0 when no system call failed
+    int systemError = 0; ///< errno of the system call that failed; 0 when none did
 };
 
 /// A value, or the reason why there is none.

@@ -19,8 +19,10 @@ void DataFiles::recover()
     if (recovered)
         return;
     Log::line(QStringLiteral("failed to recover an unfinished save: %1").arg(recovered.message()));
-    // The files that are loaded now may lack what the unfinished save contains.
-    m_toKeepAside = m_paths;
+    // The files that are loaded now may lack what the unfinished save contains. Of a single file, an
+    // unfinished save is always discarded.
+    if (m_paths.size() > 1)
+        m_toKeepAside = m_paths;
 }
 
 void DataFiles::load(qsizetype index, const std::function<bool(const QByteArray &)> &decode)
@@ -37,9 +39,9 @@ Outcome DataFiles::save(const QList<ByteSource> &contents, Instant now)
     const QString folder = QFileInfo(m_paths.first()).absolutePath();
     if (Outcome created = AtomicFile::createFolder(folder, m_calls); !created)
         return created;
-    if (!m_toKeepAside.isEmpty()) {
-        if (Outcome recovered = AtomicFile::recover(m_paths, m_calls); !recovered)
-            return recovered;
+    if (!m_areSettled) {
+        if (Outcome settled = AtomicFile::settle(m_paths, m_calls); !settled)
+            return settled;
     }
     while (!m_toKeepAside.isEmpty()) {
         const QString suffix = QStringLiteral(".unreadable-") + timeInFileName(now);
@@ -50,5 +52,7 @@ Outcome DataFiles::save(const QList<ByteSource> &contents, Instant now)
     QList<AtomicFile::Content> files;
     for (qsizetype i = 0; i < m_paths.size(); ++i)
         files.append({m_paths[i], contents[i]});
-    return AtomicFile::replace(files, m_calls);
+    Outcome saved = AtomicFile::replace(files, m_calls);
+    m_areSettled = saved.hasValue();
+    return saved;
 }

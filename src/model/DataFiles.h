@@ -35,4 +35,5 @@ private:
     QStringList m_paths;
     FileCalls &m_calls;
     QStringList m_toKeepAside; ///< before the next save
+    bool m_areSettled = false; ///< the last save of this process was complete
 };

@@ -38,12 +38,19 @@ struct Store {
         return files.save(sources, at("2026-03-02T02:00:00Z"));
     }
     /// Saves again if that fails.
+    bool add(const QByteArray &word)
+    {
+        words[0].append(word);
+        const Outcome saved = save();
+        if (!saved && saved.failure().systemError != EIO)
+            qFatal("the error is lost: %s", qPrintable(saved.message()));
+        return saved || save();
+    }
     bool removeFirstAndAdd(const QByteArray &word)
     {
         if (words.size() == 2 && !words[0].isEmpty())
             words[1].prepend(words[0].takeFirst());
-        words[0].append(word);
-        return save() || save();
+        return add(word);
     }
 };
 
@@ -55,16 +62,29 @@ QByteArray allBytes(const SimulatedDisk &disk)
     return all;
 }
 
+/// A process that saves a change of all files, then one of the first. Adds to @p written what it has saved.
+void runProcess(
+    const QStringList &paths, SimulatedDisk &disk, const QByteArrayList &newWords, QByteArrayList &written)
+{
+    Store store(paths, disk);
+    if (store.removeFirstAndAdd(newWords[0]))
+        written.append(newWords[0]);
+    if (store.add(newWords[1]))
+        written.append(newWords[1]);
+    if (disk.hasOpenFiles())
+        qFatal("a file stays open");
+    for (const auto &[path, bytes] : disk.files())
+        if (!disk.hasStopped() && path.endsWith(".staged"))
+            qFatal("a staged file stays");
+}
+
 /// What is wrong with what the next process finds and saves. Nothing if all is well.
-QString faultAtNextStart(
-    SimulatedDisk disk, const QStringList &paths, const QByteArrayList &written, bool isSaved)
+QString faultAtNextStart(SimulatedDisk disk, const QStringList &paths, const QByteArrayList &written)
 {
     Store store(paths, disk);
     for (const QByteArray &word : std::as_const(store.words[0]))
         if (store.words.value(1).contains(word))
             return u"a word is in both files"_s;
-    if (isSaved && !store.words[0].contains("new"))
-        return u"what was saved is not found"_s;
     for (const bool hasSaved : {false, true}) {
         if (hasSaved && !store.removeFirstAndAdd("later"))
             return u"nothing can be saved"_s;
@@ -96,7 +116,7 @@ private Q_SLOTS:
         row("two files", {"one two", "three"});
         row("notes that cannot be decoded", {garbage, "three"});
         row("a removal that stopped between the renames", {"two", "three", {}, "one three"});
-        row("a removal that stopped before the renames", {"one two", "three", "two", "one three"});
+        row("a removal that stopped before the renames", {"one two", "three", "two", "one th"});
     }
     void nothing_is_lost_wherever_it_fails_and_stops()
     {
@@ -114,22 +134,39 @@ private Q_SLOTS:
             if (allBytes(before).contains(word))
                 written.append(word);
 
-        std::set<std::pair<std::map<QByteArray, QByteArray>, bool>> examined;
+        std::set<std::pair<std::map<QByteArray, QByteArray>, QByteArrayList>> examined;
+        const auto fault = [&](const SimulatedDisk &stopped, const QByteArrayList &saved) {
+            for (const SimulatedDisk &found : stopped.afterStop()) {
+                if (found.isSynced() && !examined.emplace(found.files(), saved).second)
+                    continue;
+                if (QString what = faultAtNextStart(found, paths, saved); !what.isEmpty())
+                    return what;
+            }
+            return QString();
+        };
         for (int failing = 0, hasFailed = 1; hasFailed; ++failing) {
             for (int last = 0, hasStopped = 1; hasStopped; last = last ? last + 1 : failing + 1) {
                 SimulatedDisk disk = before;
                 disk.failingCall = failing;
                 disk.lastCall = last;
-                Store store(paths, disk);
-                const bool isSaved = store.removeFirstAndAdd("new");
+                QByteArrayList saved = written;
+                runProcess(paths, disk, {"four", "five"}, saved);
                 hasFailed = failing == 0 || disk.hasFailed();
                 hasStopped = last == 0 || disk.hasStopped();
-                for (const SimulatedDisk &found : disk.afterStop()) {
-                    if (found.isSynced() && !examined.emplace(found.files(), isSaved).second)
-                        continue;
-                    const QString fault = faultAtNextStart(found, paths, written, isSaved);
-                    QVERIFY2(fault.isEmpty(),
-                        qPrintable(u"call %1 fails, %2 is the last: %3"_s.arg(failing).arg(last).arg(fault)));
+                const auto where = [&] { return u"call %1 fails, %2 is the last"_s.arg(failing).arg(last); };
+                QVERIFY2(last != 0 || saved.last() == "five", qPrintable(where()));
+                QCOMPARE(where() + fault(disk, saved), where());
+                // The process was killed with names not synced, then the power fails while the next one runs.
+                // A folder made by a killed process is not synced again.
+                const bool isKilled = failing == 0 && hasStopped && !disk.isSynced() && !files.isEmpty();
+                for (int next = 1; isKilled; ++next) {
+                    SimulatedDisk again = disk;
+                    again.lastCall = next;
+                    QByteArrayList savedAgain = saved;
+                    runProcess(paths, again, {"six", "seven"}, savedAgain);
+                    if (!again.hasStopped())
+                        break;
+                    QCOMPARE(where() + fault(again, savedAgain), where());
                 }
             }
         }

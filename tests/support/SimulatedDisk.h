@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <map>
 #include <memory>
 
@@ -165,7 +164,7 @@ public:
         change({folderOf(from), from, to, m_names.value(from)});
         return 0;
     }
-    int unlink(const char *path) override
+    int remove(const char *path) override
     {
         if (!happens())
             return -1;
@@ -181,18 +180,6 @@ public:
         if (m_names.contains(path))
             return fail(EEXIST);
         change({folderOf(path), {}, path, std::make_shared<Node>(Node{true, {}, {}})});
-        return 0;
-    }
-    int rmdir(const char *path) override { return unlink(path); }
-    int lstat(const char *path, struct stat *status) override
-    {
-        if (!happens())
-            return -1;
-        const NodePtr node = m_names.value(path);
-        if (!node)
-            return fail(ENOENT);
-        status->st_mode = node->isFolder ? S_IFDIR : S_IFREG;
-        status->st_size = node->bytes.size();
         return 0;
     }
     ssize_t readlink(const char *path, char *, size_t) override
