@@ -70,11 +70,14 @@ void DesktopNotificationCenter::requestAuthorization(
 void DesktopNotificationCenter::notificationAuthorizationStatus(
     std::function<void(AuthorizationStatus)> completion)
 {
-    completion(m_server.isAvailable() ? AuthorizationStatus::Authorized : AuthorizationStatus::Denied);
+    completion(!m_wasDetermined         ? AuthorizationStatus::NotDetermined
+               : m_server.isAvailable() ? AuthorizationStatus::Authorized
+                                        : AuthorizationStatus::Denied);
 }
 
 void DesktopNotificationCenter::availabilityWasDetermined()
 {
+    m_wasDetermined = true;
     m_shown.clear(); // a new server starts its ids anew
     Q_EMIT authorizationChanged();
     presentDue();

@@ -52,6 +52,7 @@ private:
 
     const Clock &m_clock;
     NotificationServer m_server;
+    bool m_wasDetermined = false; ///< whether a server is available
     WallClockTimer m_timer;
     QList<NotificationRequest> m_pending;          ///< the next one first
     QList<NotificationRequest> m_due;              ///< while there is no server

@@ -77,6 +77,7 @@ void NotificationServer::onOwnerChanged(const QString &newOwner)
     if (m_isAvailable)
         setAvailable(false);
     if (!newOwner.isEmpty()) {
+        m_isQuerying = false; // the one under way asks the previous owner
         query();
         return;
     }

@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void what_is_due_without_a_server_is_shown_when_one_comes()
     {
-        QCOMPARE(status(), AuthorizationStatus::Denied);
+        QTRY_COMPARE(status(), AuthorizationStatus::Denied);
         QList<bool> answers;
         const auto requestAuthorization = [&] {
             m_center->requestAuthorization(

@@ -78,7 +78,9 @@ void RowListView::rowsRemoved(int first, int count)
         m_current -= count;
     } else if (m_current >= first) {
         m_current = -1; // so that the row that follows is announced even under the same number
-        moveCurrentRow(nearestEntry(first, 1));
+        setCurrentRow(nearestEntry(first, 1));
+        if (hasFocus() && m_current >= 0)
+            scrollTo(m_current);
     }
 }
 
@@ -229,8 +231,9 @@ void RowListView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void RowListView::contextMenuEvent(QContextMenuEvent *event)
 {
-    const int row = event->reason() == QContextMenuEvent::Keyboard ? m_current : rowAt(event->pos());
-    if (isEntry(row))
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        showMenuOfRow(m_current);
+    else if (const int row = rowAt(event->pos()); isEntry(row))
         popUpMenu(row, event->globalPos());
 }
 

@@ -19,6 +19,9 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new SlimScrollBar(this));
+    // Always there, though it paints nothing where all is in view: a bar that comes and goes changes the
+    // width, and with it the heights that it follows from.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     verticalScrollBar()->setSingleStep(Design::headerHeight);
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
