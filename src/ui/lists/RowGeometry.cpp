@@ -99,5 +99,6 @@ int RowGeometry::offsetToShow(int row, int page, int covered) const
 {
     if (top(row) < offset() + covered)
         return top(row) - covered;
-    return std::max(offset(), bottom(row) - page);
+    // Of a row higher than the view, its beginning.
+    return std::min(top(row) - covered, std::max(offset(), bottom(row) - page));
 }
