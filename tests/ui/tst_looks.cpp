@@ -6,8 +6,6 @@
 #include <QAccessible>
 #include <QMetaEnum>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,10 +45,9 @@ class LooksTest final : public QObject
 private Q_SLOTS:
     void text_stands_out_from_its_ground()
     {
-        using Color = QColor (*)(const QPalette &);
-        const Color texts[] = {NoteStyle::color, NoteStyle::metaColor};
-        const Color highlights[] = {
-            NoteStyle::numberColor, NoteStyle::tagColor, NoteStyle::matchColor, NoteStyle::destructiveColor};
+        const Design::Tint texts[] = {Design::text, Design::metaText};
+        const Design::Tint highlights[] = {
+            Design::numberText, Design::tagText, Design::matchText, Design::destructiveText};
         using Backdrop = FloatingFrame::Backdrop;
         // At worst all that shines through is black, or white.
         const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {
@@ -60,30 +57,30 @@ private Q_SLOTS:
             };
             return QColor::fromRgbF(mixed(ground.redF()), mixed(ground.greenF()), mixed(ground.blueF()));
         };
-        const std::function<QColor(const QPalette &)> grounds[] = {NoteStyle::background,
-            [&](const QPalette &palette) { return over(palette, Backdrop::Sharp, 0); },
-            [&](const QPalette &palette) { return over(palette, Backdrop::Sharp, 1); },
-            [&](const QPalette &palette) { return over(palette, Backdrop::Blurred, 0); },
-            [&](const QPalette &palette) { return over(palette, Backdrop::Blurred, 1); },
-            NoteStyle::fieldColor, NoteStyle::editing, NoteStyle::flash, NoteStyle::hover,
-            NoteStyle::quoteGround};
         QStringList faults;
         for (const bool isDark : {false, true}) {
             const QPalette palette = NoteStyle::palette(isDark);
             QCOMPARE(NoteStyle::isDark(palette), isDark);
-            for (size_t ground = 0; ground < std::size(grounds); ++ground) {
-                const auto check = [&](Color color, double least) {
-                    const double found = contrast(color(palette), grounds[ground](palette));
+            const QColor flash = NoteStyle::color(palette, Design::flashGround);
+            QList<QColor> grounds{flash};
+            for (const Design::Tint ground : {Design::ground, Design::fieldGround, Design::editingGround,
+                     Design::hoverGround, Design::quoteGround})
+                grounds.append(NoteStyle::color(palette, ground));
+            for (const Backdrop backdrop : {Backdrop::Sharp, Backdrop::Blurred})
+                grounds << over(palette, backdrop, 0) << over(palette, backdrop, 1);
+            for (const QColor &ground : grounds) {
+                const auto check = [&](Design::Tint tint, double least) {
+                    const QColor color = NoteStyle::color(palette, tint);
+                    const double found = contrast(color, ground);
                     if (found < least) {
-                        faults.append(QStringLiteral("%1 on %2: %3")
-                                          .arg(color(palette).name(), grounds[ground](palette).name())
-                                          .arg(found));
+                        faults.append(
+                            QStringLiteral("%1 on %2: %3").arg(color.name(), ground.name()).arg(found));
                     }
                 };
-                for (const Color text : texts)
+                for (const Design::Tint text : texts)
                     check(text, 4.5);
-                if (grounds[ground](palette) != NoteStyle::flash(palette)) { // half a second
-                    for (const Color highlight : highlights)
+                if (ground != flash) { // half a second
+                    for (const Design::Tint highlight : highlights)
                         check(highlight, 3);
                 }
             }

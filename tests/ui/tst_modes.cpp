@@ -94,7 +94,7 @@ private Q_SLOTS:
         const Note reply = panel.savedNotes().first();
         QCOMPARE(reply.quoteID, quoted.id);
         QVERIFY(panel.reminders.reminders().isEmpty());
-        panel.clickPart(2, {RowPart::Kind::Symbol, 0});
+        panel.clickPart(2, {RowPart::Kind::Button, 0});
         QTRY_COMPARE(panel.list().flashID(), reply.id);
         panel.clickPart(1, {RowPart::Kind::Quote});
         QTRY_COMPARE(panel.list().flashID(), quoted.id);

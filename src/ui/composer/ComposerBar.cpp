@@ -34,7 +34,7 @@ void ComposerBar::setText(const QString &text)
 void ComposerBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QColor color = NoteStyle::metaColor(palette());
+    const QColor color = NoteStyle::color(palette(), Design::metaText);
     const QRect symbol(Design::edge + Design::grid, (height() - Design::symbolSize) / 2, Design::symbolSize,
         Design::symbolSize);
     Symbol::paint(painter, symbol, m_symbol, color);
@@ -42,6 +42,5 @@ void ComposerBar::paintEvent(QPaintEvent *)
         rect().adjusted(symbol.right() + 2 * Design::grid, 0, -Design::edge - Design::buttonSize, 0);
     painter.setFont(NoteStyle::quoteFont());
     painter.setPen(color);
-    painter.drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(m_text.simplified(), Qt::ElideRight, textRect.width()));
+    NoteStyle::drawLine(painter, textRect, m_text.simplified());
 }

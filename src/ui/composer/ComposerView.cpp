@@ -258,8 +258,8 @@ void ComposerView::paintEvent(QPaintEvent *)
         const QRectF capsule = QRectF(m_field->geometry())
                                    .adjusted(-Design::edge, 0, Design::edge, 0)
                                    .adjusted(0.5, 0.5, -0.5, -0.5);
-        picture.setPen(NoteStyle::hairline(palette()));
-        picture.setBrush(NoteStyle::fieldColor(palette()));
+        picture.setPen(NoteStyle::color(palette(), Design::hairline));
+        picture.setBrush(NoteStyle::color(palette(), Design::fieldGround));
         picture.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
     });
 }

@@ -62,21 +62,17 @@ void SuggestionList::mouseReleaseEvent(QMouseEvent *event)
 void SuggestionList::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(NoteStyle::font());
     const QStringList shown = suggestions();
     for (qsizetype row = 0; row < shown.size(); ++row) {
         const QRect rect(Design::edge, int(row) * Design::suggestionHeight, width() - 2 * Design::edge,
             Design::suggestionHeight);
-        if (row == m_completion.selection() || row == m_hovered) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(row == m_completion.selection() ? NoteStyle::editing(palette())
-                                                             : NoteStyle::hover(palette()));
-            painter.drawRoundedRect(rect, Design::rowRadius, Design::rowRadius);
+        const bool isSelected = row == m_completion.selection();
+        if (isSelected || row == m_hovered) {
+            NoteStyle::fillRounded(painter, rect, Design::rowRadius,
+                NoteStyle::color(palette(), isSelected ? Design::editingGround : Design::hoverGround));
         }
-        const QRect textRect = rect.adjusted(Design::edge, 0, -Design::edge, 0);
-        painter.setPen(NoteStyle::tagColor(palette()));
-        painter.drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(shown[row], Qt::ElideRight, textRect.width()));
+        painter.setPen(NoteStyle::color(palette(), Design::tagText));
+        NoteStyle::drawLine(painter, rect.adjusted(Design::edge, 0, -Design::edge, 0), shown[row]);
     }
 }

@@ -46,7 +46,7 @@ bool ModalQuestion::confirm(
     box.setIcon(QMessageBox::Warning);
     QPushButton *destructive = box.addButton(confirmTitle, QMessageBox::DestructiveRole);
     QPalette colors = destructive->palette();
-    colors.setColor(QPalette::ButtonText, NoteStyle::destructiveColor(colors));
+    colors.setColor(QPalette::ButtonText, NoteStyle::color(colors, Design::destructiveText));
     destructive->setPalette(colors);
     QPushButton *cancel = box.addButton(L10n::text("取消"), QMessageBox::RejectRole);
     box.setDefaultButton(cancel);

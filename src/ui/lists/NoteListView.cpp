@@ -118,8 +118,8 @@ QColor NoteListView::groundOf(int row) const
         return {};
     const QUuid id = m_timeline.row(row).id;
     if (id == m_flashID)
-        return NoteStyle::flash(palette());
-    return id == m_state.editingID() ? NoteStyle::editing(palette()) : QColor();
+        return NoteStyle::color(palette(), Design::flashGround);
+    return id == m_state.editingID() ? NoteStyle::color(palette(), Design::editingGround) : QColor();
 }
 
 void NoteListView::showRelated(const Note &note)

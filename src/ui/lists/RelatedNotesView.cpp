@@ -31,16 +31,12 @@ protected:
     {
         QPainter painter(this);
         if (underMouse() || hasFocus() || isDown()) {
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(isDown() ? NoteStyle::flash(palette()) : NoteStyle::editing(palette()));
-            painter.drawRoundedRect(rect(), 2 * Design::grid, 2 * Design::grid);
+            NoteStyle::fillRounded(painter, rect(), 2 * Design::grid,
+                NoteStyle::color(palette(), isDown() ? Design::flashGround : Design::editingGround));
         }
-        const QRect line = rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0);
         painter.setFont(NoteStyle::font());
-        painter.setPen(NoteStyle::color(palette()));
-        painter.drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(m_text, Qt::ElideRight, line.width()));
+        painter.setPen(NoteStyle::color(palette(), Design::text));
+        NoteStyle::drawLine(painter, rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0), m_text);
     }
 
 private:
@@ -81,12 +77,12 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     layout->setContentsMargins(
         QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + m_frame.margin());
     layout->setSpacing(0);
-    layout->addWidget(
-        label(L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette()), this));
+    layout->addWidget(label(
+        L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette(), Design::text), this));
     const QList<Note> related = search.relatedNotes(note, maxRelated);
     if (related.isEmpty()) {
-        layout->addWidget(
-            label(L10n::text("暂无相关笔记"), NoteStyle::font(), NoteStyle::metaColor(palette()), this));
+        layout->addWidget(label(L10n::text("暂无相关笔记"), NoteStyle::font(),
+            NoteStyle::color(palette(), Design::metaText), this));
     }
     for (const Note &each : related) {
         auto *button = new RelatedNoteButton(each.text, this);

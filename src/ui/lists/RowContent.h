@@ -32,8 +32,8 @@ struct RowContent {
 
 /// The part of a row under a point.
 struct RowPart {
-    enum class Kind { None, Body, Quote, Link, Symbol };
+    enum class Kind { None, Body, Quote, Link, Symbol, Button };
     Kind kind = Kind::None;
-    int symbol = -1; ///< index among the symbols
+    int symbol = -1; ///< index among the symbols, of which some are buttons
     bool operator==(const RowPart &) const = default;
 };

@@ -3,7 +3,6 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 
-#include <QPainter>
 #include <QPalette>
 #include <QTextCharFormat>
 
@@ -45,20 +44,23 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
         m_height = Design::headerHeight;
         return;
     }
-    const int symbols = int(m_content.symbols.size()) * (Design::symbolSize + Design::grid);
+    constexpr int symbolStep = Design::symbolSize + Design::grid;
+    const int symbols = int(m_content.symbols.size()) * symbolStep;
     const int trailing = m_content.trailing.isEmpty() ? 0 : Design::timeColumn;
     const int left = Design::edge + (m_content.lead.isEmpty() ? 0 : Design::timeColumn);
-    const int right = width - Design::edge - std::max(symbols, Design::symbolSize + Design::grid) - trailing;
+    const int right = width - Design::edge - std::max(symbols, symbolStep) - trailing;
     const int textWidth = std::max(1, right - left);
-    const auto smallLine = [&](int y) { return QRect(left, y, textWidth, Design::smallLineHeight); };
 
     int y = Design::rowPadding;
-    if (!m_content.above.isEmpty()) {
-        m_aboveRect = smallLine(y);
+    const auto addSmallLine = [&](const QString &line, QRect &rect) {
+        if (line.isEmpty())
+            return;
+        rect = {left, y, textWidth, Design::smallLineHeight};
         y += Design::smallLineHeight;
-    }
+    };
+    addSmallLine(m_content.above, m_parts.above);
     if (!m_content.quote.isEmpty()) {
-        m_quoteRect = QRect(left, y, textWidth, Design::quoteHeight);
+        m_parts.quote = {left, y, textWidth, Design::quoteHeight};
         y += Design::quoteHeight + Design::grid;
     }
 
@@ -79,21 +81,17 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     }
     m_text.endLayout();
 
-    if (!m_content.link.isEmpty()) {
-        m_linkRect = smallLine(y);
-        y += Design::smallLineHeight;
-    }
-    if (!m_content.marker.isEmpty()) {
-        m_markerRect = smallLine(y);
-        y += Design::smallLineHeight;
-    }
+    addSmallLine(m_content.link, m_parts.link);
+    addSmallLine(m_content.marker, m_parts.marker);
     m_height = y + Design::rowPadding;
-    const int leadHeight = m_content.quote.isEmpty() ? firstLine : Design::quoteHeight;
-    m_leadRect = {Design::edge, m_content.quote.isEmpty() ? textTop : m_quoteRect.top(), Design::timeColumn,
-        leadHeight};
-    m_trailingRect = {right, textTop, trailing + Design::symbolSize + Design::grid, firstLine};
-    m_symbols = {
-        width - Design::edge - symbols + Design::grid, textTop + (firstLine - Design::symbolSize) / 2};
+    const bool isQuoting = !m_content.quote.isEmpty();
+    m_parts.lead = {Design::edge, isQuoting ? m_parts.quote.top() : textTop, Design::timeColumn,
+        isQuoting ? Design::quoteHeight : firstLine};
+    m_parts.trailing = {right, textTop, trailing + symbolStep, firstLine};
+    const QRect symbol(width - Design::edge - symbols + Design::grid,
+        textTop + (firstLine - Design::symbolSize) / 2, Design::symbolSize, Design::symbolSize);
+    for (int i = 0; i < m_content.symbols.size(); ++i)
+        m_parts.symbols.append(symbol.translated(i * symbolStep, 0));
 }
 
 int RowLayout::estimatedHeight(const QString &text, int width)
@@ -104,29 +102,18 @@ int RowLayout::estimatedHeight(const QString &text, int width)
     return int(lines) * lineHeight + 2 * Design::rowPadding;
 }
 
-QRect RowLayout::symbolRect(qsizetype symbol) const
-{
-    const int step = Design::symbolSize + Design::grid;
-    return {m_symbols.x() + int(symbol) * step, m_symbols.y(), Design::symbolSize, Design::symbolSize};
-}
-
 RowPart RowLayout::partAt(QPoint point) const
 {
     if (m_content.isHeader() || point.y() < 0 || point.y() >= m_height)
         return {};
-    for (qsizetype symbol = 0; symbol < m_content.symbols.size(); ++symbol) {
+    for (qsizetype i = 0; i < m_content.symbols.size(); ++i) {
         const int around = Design::grid; // a symbol is small to hit
-        if (symbolRect(symbol).adjusted(-around, -around, around, around).contains(point))
-            return {RowPart::Kind::Symbol, int(symbol)};
+        if (m_parts.symbols[i].adjusted(-around, -around, around, around).contains(point))
+            return {m_content.symbols[i].isButton ? RowPart::Kind::Button : RowPart::Kind::Symbol, int(i)};
     }
-    if (m_quoteRect.contains(point))
+    if (m_parts.quote.contains(point))
         return {RowPart::Kind::Quote};
-    if (m_linkRect.contains(point))
+    if (m_parts.link.contains(point))
         return {RowPart::Kind::Link};
     return {RowPart::Kind::Body};
-}
-
-void RowLayout::drawText(QPainter &painter, QPoint rowOrigin) const
-{
-    m_text.draw(&painter, rowOrigin);
 }

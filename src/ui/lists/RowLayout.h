@@ -20,27 +20,24 @@ public:
     [[nodiscard]] const RowContent &content() const { return m_content; }
     [[nodiscard]] int height() const { return m_height; }
 
-    // In the row's own coordinates; empty where the row has no such part.
-    [[nodiscard]] QRect leadRect() const { return m_leadRect; }
-    [[nodiscard]] QRect aboveRect() const { return m_aboveRect; }
-    [[nodiscard]] QRect quoteRect() const { return m_quoteRect; }
-    [[nodiscard]] QRect linkRect() const { return m_linkRect; }
-    [[nodiscard]] QRect markerRect() const { return m_markerRect; }
-    [[nodiscard]] QRect trailingRect() const { return m_trailingRect; }
-    [[nodiscard]] QRect symbolRect(qsizetype symbol) const;
+    /// Named as in RowContent; empty where the row has no such part.
+    struct Parts {
+        QRect lead;
+        QRect above;
+        QRect quote;
+        QRect link;
+        QRect marker;
+        QRect trailing;
+        QList<QRect> symbols;
+    };
+    // In the row's own coordinates.
+    [[nodiscard]] const Parts &parts() const { return m_parts; }
+    [[nodiscard]] const QTextLayout &text() const { return m_text; }
     [[nodiscard]] RowPart partAt(QPoint point) const;
-
-    void drawText(QPainter &painter, QPoint rowOrigin) const;
 
 private:
     RowContent m_content;
     QTextLayout m_text;
-    QRect m_leadRect;
-    QRect m_aboveRect;
-    QRect m_quoteRect;
-    QRect m_linkRect;
-    QRect m_markerRect;
-    QRect m_trailingRect;
-    QPoint m_symbols; ///< top left corner of the first
+    Parts m_parts;
     int m_height = 0;
 };

@@ -178,9 +178,9 @@ RowPainter::Marks RowListView::marksOf(int row) const
 {
     QColor ground = groundOf(row);
     if (!ground.isValid() && row == m_current && hasFocus())
-        ground = NoteStyle::editing(palette());
+        ground = NoteStyle::color(palette(), Design::editingGround);
     else if (!ground.isValid() && row == m_hover.row)
-        ground = NoteStyle::hover(palette());
+        ground = NoteStyle::color(palette(), Design::hoverGround);
     return {ground, row == m_hover.row ? m_hover.part : RowPart()};
 }
 

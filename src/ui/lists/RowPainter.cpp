@@ -9,21 +9,15 @@
 RowPainter::RowPainter(QPainter &painter, const QPalette &palette)
     : m_painter(painter)
     , m_palette(palette)
-    , m_meta(NoteStyle::metaColor(palette))
+    , m_meta(NoteStyle::color(palette, Design::metaText))
 {
-}
-
-void RowPainter::drawLine(const QRect &rect, const QString &text, Qt::Alignment alignment)
-{
-    m_painter.drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
-        m_painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
 }
 
 void RowPainter::paintHeader(const QRect &rect, const QString &text)
 {
     m_painter.setFont(NoteStyle::headerFont());
     m_painter.setPen(m_meta);
-    drawLine(rect.adjusted(Design::edge, 0, -Design::edge, 0), text);
+    NoteStyle::drawLine(m_painter, rect.adjusted(Design::edge, 0, -Design::edge, 0), text);
 }
 
 void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Marks &marks)
@@ -33,47 +27,45 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
         paintHeader(rect, content.header);
         return;
     }
-    const QPoint origin = rect.topLeft();
     m_painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.setPen(Qt::NoPen);
     if (marks.ground.isValid()) {
-        m_painter.setBrush(marks.ground);
-        m_painter.drawRoundedRect(
-            rect.adjusted(Design::grid, 1, -Design::grid, -1), Design::rowRadius, Design::rowRadius);
+        NoteStyle::fillRounded(
+            m_painter, rect.adjusted(Design::grid, 1, -Design::grid, -1), Design::rowRadius, marks.ground);
     }
-    if (!content.quote.isEmpty()) {
-        paintQuote(
-            layout.quoteRect().translated(origin), content.quote, marks.hovered.kind == RowPart::Kind::Quote);
-    }
+    const QColor text = NoteStyle::color(m_palette, Design::text);
+    const RowLayout::Parts &parts = layout.parts();
+    m_painter.translate(rect.topLeft());
+    if (!content.quote.isEmpty())
+        paintQuote(parts.quote, content.quote, marks.hovered.kind == RowPart::Kind::Quote);
     m_painter.setFont(NoteStyle::quoteFont());
     m_painter.setPen(m_meta);
-    drawLine(layout.leadRect().translated(origin), content.lead);
-    drawLine(layout.aboveRect().translated(origin), content.above);
-    drawLine(layout.markerRect().translated(origin), content.marker);
-    drawLine(layout.trailingRect().translated(origin), content.trailing, Qt::AlignRight);
-    if (!content.link.isEmpty()) {
-        paintLink(layout.linkRect().translated(origin), content, marks.hovered.kind == RowPart::Kind::Link);
-    }
+    NoteStyle::drawLine(m_painter, parts.lead, content.lead);
+    NoteStyle::drawLine(m_painter, parts.above, content.above);
+    NoteStyle::drawLine(m_painter, parts.marker, content.marker);
+    NoteStyle::drawLine(m_painter, parts.trailing, content.trailing, Qt::AlignRight);
+    if (!content.link.isEmpty())
+        paintLink(parts.link, content, marks.hovered.kind == RowPart::Kind::Link);
     for (qsizetype i = 0; i < content.symbols.size(); ++i) {
-        const bool isHovered = marks.hovered == RowPart{RowPart::Kind::Symbol, int(i)};
-        Symbol::paint(m_painter, layout.symbolRect(i).translated(origin), content.symbols[i].name,
-            isHovered && content.symbols[i].isButton ? NoteStyle::color(m_palette) : m_meta);
+        const bool isHovered = marks.hovered == RowPart{RowPart::Kind::Button, int(i)};
+        Symbol::paint(m_painter, parts.symbols[i], content.symbols[i].name, isHovered ? text : m_meta);
     }
-    m_painter.setPen(content.isExpired ? m_meta : NoteStyle::color(m_palette));
-    layout.drawText(m_painter, origin);
+    m_painter.setPen(content.isExpired ? m_meta : text);
+    layout.text().draw(&m_painter, {});
+    m_painter.translate(-rect.topLeft());
 }
 
 void RowPainter::paintQuote(const QRect &block, const QString &quote, bool isHovered)
 {
     constexpr int size = Design::smallSymbolSize;
-    m_painter.setBrush(isHovered ? NoteStyle::hairline(m_palette) : NoteStyle::quoteGround(m_palette));
-    m_painter.drawRoundedRect(block, Design::grid, Design::grid);
+    NoteStyle::fillRounded(m_painter, block, Design::grid,
+        NoteStyle::color(m_palette, isHovered ? Design::hairline : Design::quoteGround));
     Symbol::paint(m_painter,
         {block.left() + Design::grid, block.top() + (block.height() - size) / 2, size, size},
         QStringLiteral("text.quote"), m_meta);
     m_painter.setFont(NoteStyle::quoteFont());
     m_painter.setPen(m_meta);
-    drawLine(block.adjusted(size + 2 * Design::grid, 0, -Design::grid, 0), quote.simplified());
+    NoteStyle::drawLine(
+        m_painter, block.adjusted(size + 2 * Design::grid, 0, -Design::grid, 0), quote.simplified());
 }
 
 void RowPainter::paintLink(QRect line, const RowContent &content, bool isHovered)
@@ -87,8 +79,8 @@ void RowPainter::paintLink(QRect line, const RowContent &content, bool isHovered
     QFont font = NoteStyle::quoteFont();
     font.setUnderline(isHovered);
     m_painter.setFont(font);
-    m_painter.setPen(NoteStyle::tagColor(m_palette));
-    drawLine(line, content.link);
+    m_painter.setPen(NoteStyle::color(m_palette, Design::tagText));
+    NoteStyle::drawLine(m_painter, line, content.link);
 }
 
 void RowPainter::paintEmptyState(const QRect &page, const EmptyState &state)
@@ -97,7 +89,7 @@ void RowPainter::paintEmptyState(const QRect &page, const EmptyState &state)
     const QRect inner = page.adjusted(Design::edge, 0, -Design::edge, 0);
     const QPoint middle = inner.center();
     Symbol::paint(m_painter, {middle.x() - size / 2, middle.y() - size - Design::grid, size, size},
-        state.symbol, NoteStyle::hairline(m_palette));
+        state.symbol, NoteStyle::color(m_palette, Design::hairline));
     m_painter.setFont(NoteStyle::font());
     m_painter.setPen(m_meta);
     const int top = middle.y() + 2 * Design::grid;

@@ -32,7 +32,6 @@ public:
 private:
     void paintQuote(const QRect &block, const QString &quote, bool isHovered);
     void paintLink(QRect line, const RowContent &content, bool isHovered);
-    void drawLine(const QRect &rect, const QString &text, Qt::Alignment alignment = Qt::AlignLeft);
 
     QPainter &m_painter;
     const QPalette &m_palette;

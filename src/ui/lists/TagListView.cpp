@@ -72,7 +72,8 @@ void TagListView::editDidChange()
     m_editor->setFont(NoteStyle::font());
     m_editor->setStyleSheet(
         QStringLiteral("background: %1; border: 1px solid %2; border-radius: %3px; padding: 0 %3px")
-            .arg(NoteStyle::fieldColor(palette()).name(), NoteStyle::tagColor(palette()).name())
+            .arg(NoteStyle::color(palette(), Design::fieldGround).name(),
+                NoteStyle::color(palette(), Design::tagText).name())
             .arg(Design::grid));
     m_editor->selectAll();
     // On Return or when the focus leaves, whichever comes first.

@@ -26,17 +26,16 @@ void BarButton::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isMarked = isChecked() || isDown();
     if (isMarked || underMouse() || hasFocus()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(isMarked ? NoteStyle::editing(palette()) : NoteStyle::hover(palette()));
-        painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), Design::rowRadius, Design::rowRadius);
+        NoteStyle::fillRounded(painter, rect().adjusted(1, 1, -1, -1), Design::rowRadius,
+            NoteStyle::color(palette(), isMarked ? Design::editingGround : Design::hoverGround));
     }
     if (hasFocus()) {
-        painter.setPen(NoteStyle::tagColor(palette()));
+        painter.setPen(NoteStyle::color(palette(), Design::tagText));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(
             QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), Design::rowRadius, Design::rowRadius);
     }
     const int inset = (Design::buttonSize - Design::buttonSymbolSize) / 2;
     Symbol::paint(painter, {inset, inset, Design::buttonSymbolSize, Design::buttonSymbolSize}, m_symbol,
-        isMarked || underMouse() ? NoteStyle::color(palette()) : NoteStyle::metaColor(palette()));
+        NoteStyle::color(palette(), isMarked || underMouse() ? Design::text : Design::metaText));
 }

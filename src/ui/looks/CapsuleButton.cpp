@@ -18,12 +18,12 @@ void CapsuleButton::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF capsule = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     const bool isPointedAt = isEnabled() && underMouse();
-    painter.setPen(hasFocus() ? NoteStyle::tagColor(palette()) : NoteStyle::hairline(palette()));
-    painter.setBrush(isDown()      ? NoteStyle::editing(palette())
-                     : isPointedAt ? NoteStyle::hover(palette())
-                     : isEnabled() ? QBrush(NoteStyle::fieldColor(palette()))
+    painter.setPen(NoteStyle::color(palette(), hasFocus() ? Design::tagText : Design::hairline));
+    painter.setBrush(isDown()      ? NoteStyle::color(palette(), Design::editingGround)
+                     : isPointedAt ? NoteStyle::color(palette(), Design::hoverGround)
+                     : isEnabled() ? QBrush(NoteStyle::color(palette(), Design::fieldGround))
                                    : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
-    painter.setPen(isEnabled() ? NoteStyle::destructiveColor(palette()) : NoteStyle::metaColor(palette()));
+    painter.setPen(NoteStyle::color(palette(), isEnabled() ? Design::destructiveText : Design::metaText));
     painter.drawText(rect(), Qt::AlignCenter, text());
 }

@@ -5,8 +5,7 @@
 
 #include <chrono>
 
-/// The numbers of the panel's design: sizes in logical pixels on a grid of four, durations, and the colours
-/// that tools look for on the screen. NoteStyle gives the colours to the panel itself.
+/// The numbers of the panel's design: sizes in logical pixels on a grid of four, durations and colours.
 namespace Design {
 inline constexpr QSize panelSize{340, 480};
 inline constexpr int panelRadius = 12;
@@ -43,20 +42,24 @@ inline constexpr int suggestionHeight = 28;
 inline constexpr int buttonSize = 28;
 inline constexpr int buttonSymbolSize = 16;
 
-/// A colour in a light and in a dark appearance.
+/// A colour in a light and in a dark appearance; NoteStyle::color() chooses.
 struct Tint {
     QRgb light;
     QRgb dark;
 };
 inline constexpr Tint text{0xff26282c, 0xffe6e7ea};
-inline constexpr Tint metaText{0xff60646c, 0xffa6abb4};
+inline constexpr Tint metaText{0xff60646c, 0xffa6abb4}; ///< times, headers, hints
+inline constexpr Tint numberText{0xff408c66, 0xff75a685};
+inline constexpr Tint tagText{0xff4278ab, 0xff85a1bf};
+inline constexpr Tint matchText{0xffb87f29, 0xffdbad61};
+inline constexpr Tint destructiveText{0xffb3524d, 0xffd68580};
 inline constexpr Tint ground{0xfffafaf8, 0xff24262a};
-inline constexpr Tint fieldGround{0xffffffff, 0xff303338};
-inline constexpr Tint quoteGround{0xfff0f0ed, 0xff303338};
-inline constexpr Tint hoverGround{0xfff1f1ee, 0xff2f3238};
+inline constexpr Tint fieldGround{0xffffffff, 0xff303338}; ///< the capsule of the text field
+inline constexpr Tint quoteGround{0xfff0f0ed, 0xff303338}; ///< behind a quoted note
+inline constexpr Tint hoverGround{0xfff1f1ee, 0xff2f3238}; ///< behind the row or button under the pointer
 inline constexpr Tint hairline{0xffd9d9d5, 0xff3d4046};
-inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642};
-inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};
+inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642}; ///< behind the note being edited
+inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};   ///< behind a note that was jumped to
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};

@@ -22,10 +22,13 @@ void MenuLooks::apply(QMenu &menu)
                        "QMenu::item:disabled { color: %8 }"
                        "QMenu::separator { height: 1px; background: %2; margin: %4px %6px }");
     menu.setFont(NoteStyle::font());
-    menu.setStyleSheet(sheet.arg(NoteStyle::fieldColor(palette).name(), NoteStyle::hairline(palette).name())
+    menu.setStyleSheet(sheet
+                           .arg(NoteStyle::color(palette, Design::fieldGround).name(),
+                               NoteStyle::color(palette, Design::hairline).name())
                            .arg(isRound ? Design::menuRadius : 0)
                            .arg(Design::grid)
-                           .arg(NoteStyle::color(palette).name())
+                           .arg(NoteStyle::color(palette, Design::text).name())
                            .arg(Design::edge)
-                           .arg(NoteStyle::editing(palette).name(), NoteStyle::metaColor(palette).name()));
+                           .arg(NoteStyle::color(palette, Design::editingGround).name(),
+                               NoteStyle::color(palette, Design::metaText).name()));
 }

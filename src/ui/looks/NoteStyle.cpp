@@ -1,18 +1,12 @@
 #include "ui/looks/NoteStyle.h"
 
-#include "ui/looks/Design.h"
-
 #include <QApplication>
+#include <QPainter>
 
 namespace {
-QColor byAppearance(const QPalette &palette, QColor light, QColor dark)
+QColor inAppearance(bool isDark, Design::Tint tint)
 {
-    return NoteStyle::isDark(palette) ? dark : light;
-}
-
-QColor byAppearance(const QPalette &palette, Design::Tint tint)
-{
-    return byAppearance(palette, QColor(tint.light), QColor(tint.dark));
+    return QColor(isDark ? tint.dark : tint.light);
 }
 
 QFont systemFont(int pixelSize)
@@ -31,96 +25,30 @@ bool NoteStyle::isDark(const QPalette &palette)
 QPalette NoteStyle::palette(bool isDark)
 {
     QPalette made;
-    made.setColor(
-        QPalette::Window, isDark ? Qt::black : Qt::white); // decides which colours the functions below return
-    const QPalette appearance = made;
-    const QColor text = color(appearance);
-    const QColor faint = metaColor(appearance);
+    const auto set = [&made, isDark](QPalette::ColorRole role, Design::Tint tint) {
+        made.setColor(role, inAppearance(isDark, tint));
+    };
     for (const auto role :
         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
-        made.setColor(role, text);
-    made.setColor(QPalette::PlaceholderText, faint);
+        set(role, Design::text);
+    set(QPalette::PlaceholderText, Design::metaText);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        made.setColor(QPalette::Disabled, role, faint);
-    made.setColor(QPalette::Window, background(appearance));
-    made.setColor(QPalette::Base, fieldColor(appearance));
-    made.setColor(QPalette::AlternateBase, hover(appearance));
-    made.setColor(QPalette::ToolTipBase, fieldColor(appearance));
-    made.setColor(QPalette::Button, quoteGround(appearance));
-    made.setColor(QPalette::Mid, hairline(appearance));
-    made.setColor(QPalette::Highlight, tagColor(appearance));
-    made.setColor(QPalette::HighlightedText, background(appearance));
-    made.setColor(QPalette::Link, tagColor(appearance));
+        made.setColor(QPalette::Disabled, role, inAppearance(isDark, Design::metaText));
+    set(QPalette::Window, Design::ground);
+    set(QPalette::Base, Design::fieldGround);
+    set(QPalette::AlternateBase, Design::hoverGround);
+    set(QPalette::ToolTipBase, Design::fieldGround);
+    set(QPalette::Button, Design::quoteGround);
+    set(QPalette::Mid, Design::hairline);
+    set(QPalette::Highlight, Design::tagText);
+    set(QPalette::HighlightedText, Design::ground);
+    set(QPalette::Link, Design::tagText);
     return made;
 }
 
-QColor NoteStyle::numberColor(const QPalette &palette)
+QColor NoteStyle::color(const QPalette &palette, Design::Tint tint)
 {
-    return byAppearance(
-        palette, QColor::fromRgbF(0.25F, 0.55F, 0.40F), QColor::fromRgbF(0.46F, 0.65F, 0.52F));
-}
-
-QColor NoteStyle::tagColor(const QPalette &palette)
-{
-    return byAppearance(
-        palette, QColor::fromRgbF(0.26F, 0.47F, 0.67F), QColor::fromRgbF(0.52F, 0.63F, 0.75F));
-}
-
-QColor NoteStyle::matchColor(const QPalette &palette)
-{
-    return byAppearance(
-        palette, QColor::fromRgbF(0.72F, 0.50F, 0.16F), QColor::fromRgbF(0.86F, 0.68F, 0.38F));
-}
-
-QColor NoteStyle::destructiveColor(const QPalette &palette)
-{
-    return byAppearance(
-        palette, QColor::fromRgbF(0.70F, 0.32F, 0.30F), QColor::fromRgbF(0.84F, 0.52F, 0.50F));
-}
-
-QColor NoteStyle::color(const QPalette &palette)
-{
-    return byAppearance(palette, Design::text);
-}
-
-QColor NoteStyle::metaColor(const QPalette &palette)
-{
-    return byAppearance(palette, Design::metaText);
-}
-
-QColor NoteStyle::background(const QPalette &palette)
-{
-    return byAppearance(palette, Design::ground);
-}
-
-QColor NoteStyle::fieldColor(const QPalette &palette)
-{
-    return byAppearance(palette, Design::fieldGround);
-}
-
-QColor NoteStyle::quoteGround(const QPalette &palette)
-{
-    return byAppearance(palette, Design::quoteGround);
-}
-
-QColor NoteStyle::hover(const QPalette &palette)
-{
-    return byAppearance(palette, Design::hoverGround);
-}
-
-QColor NoteStyle::hairline(const QPalette &palette)
-{
-    return byAppearance(palette, Design::hairline);
-}
-
-QColor NoteStyle::editing(const QPalette &palette)
-{
-    return byAppearance(palette, Design::editingGround);
-}
-
-QColor NoteStyle::flash(const QPalette &palette)
-{
-    return byAppearance(palette, Design::flashGround);
+    return inAppearance(isDark(palette), tint);
 }
 
 QColor NoteStyle::segmentColor(NoteHighlighting::SegmentKind kind, const QPalette &palette)
@@ -129,11 +57,11 @@ QColor NoteStyle::segmentColor(NoteHighlighting::SegmentKind kind, const QPalett
     case NoteHighlighting::SegmentKind::Plain:
         return {};
     case NoteHighlighting::SegmentKind::Number:
-        return numberColor(palette);
+        return color(palette, Design::numberText);
     case NoteHighlighting::SegmentKind::Tag:
-        return tagColor(palette);
+        return color(palette, Design::tagText);
     case NoteHighlighting::SegmentKind::Match:
-        return matchColor(palette);
+        return color(palette, Design::matchText);
     }
     Q_UNREACHABLE();
 }
@@ -153,4 +81,18 @@ QFont NoteStyle::headerFont()
 QFont NoteStyle::quoteFont()
 {
     return systemFont(Design::smallSize);
+}
+
+void NoteStyle::drawLine(QPainter &painter, const QRect &rect, const QString &text, Qt::Alignment alignment)
+{
+    painter.drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
+        painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void NoteStyle::fillRounded(QPainter &painter, const QRectF &rect, int radius, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(rect, radius, radius);
 }

@@ -26,8 +26,6 @@ void SlimScrollBar::paintEvent(QPaintEvent *)
     const QRectF handle =
         style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(NoteStyle::hairline(palette()));
-    painter.drawRoundedRect(handle.adjusted(2, 0, -2, 0), 2, 2);
+    NoteStyle::fillRounded(
+        painter, handle.adjusted(2, 0, -2, 0), 2, NoteStyle::color(palette(), Design::hairline));
 }

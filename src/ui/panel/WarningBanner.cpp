@@ -27,7 +27,7 @@ WarningBanner::WarningBanner(const QString &symbol, const QString &text, QWidget
 void WarningBanner::applyColor()
 {
     QPalette colors;
-    colors.setColor(QPalette::WindowText, NoteStyle::destructiveColor(palette()));
+    colors.setColor(QPalette::WindowText, NoteStyle::color(palette(), Design::destructiveText));
     m_text->setPalette(colors);
 }
 
@@ -43,5 +43,5 @@ void WarningBanner::paintEvent(QPaintEvent *)
     QPainter painter(this);
     Symbol::paint(painter,
         {Design::edge, (height() - Design::symbolSize) / 2, Design::symbolSize, Design::symbolSize}, m_symbol,
-        NoteStyle::destructiveColor(palette()));
+        NoteStyle::color(palette(), Design::destructiveText));
 }

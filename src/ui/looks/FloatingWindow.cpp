@@ -12,7 +12,7 @@
 
 QColor FloatingFrame::ground(const QPalette &palette, Backdrop backdrop)
 {
-    QColor color = NoteStyle::background(palette);
+    QColor color = NoteStyle::color(palette, Design::ground);
     switch (backdrop) {
     case Backdrop::None:
         break;
@@ -96,7 +96,7 @@ void FloatingFrame::paint(QPainter &painter)
         if (!isOpaque)
             paintShadow(image);
         image.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
-        image.setPen(NoteStyle::hairline(palette));
+        image.setPen(NoteStyle::color(palette, Design::hairline));
         image.drawRoundedRect(
             QRectF(inside()).adjusted(0.5, 0.5, -0.5, -0.5), m_shape.radius, m_shape.radius);
     });
