@@ -46,8 +46,7 @@ void NoteListView::queryDidChange()
 
 RowPainter::EmptyState NoteListView::emptyState() const
 {
-    const bool isBlank = m_state.draft().trimmed().isEmpty();
-    if (isBlank)
+    if (m_state.draft().trimmed().isEmpty())
         return {QStringLiteral("menubar"), L10n::text("还没有笔记，写下第一条吧")};
     return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记")};
 }
@@ -60,13 +59,6 @@ void NoteListView::activate(int row)
     m_state.setDraft(note.text);
     m_state.setEditingID(note.id);
     m_state.setQuoting({});
-    m_state.focusComposer();
-}
-
-void NoteListView::quote(const Note &note)
-{
-    m_state.setQuoting(note);
-    m_state.setEditingID({});
     m_state.focusComposer();
 }
 
@@ -83,27 +75,25 @@ void NoteListView::remove(int row)
 void NoteListView::clickPart(int row, RowPart part)
 {
     const Note note = m_timeline.note(row);
-    switch (part.kind) {
-    case RowPart::Kind::Quote:
-        jumpToQuoted(note);
-        break;
-    case RowPart::Kind::Link:
+    if (part.kind == RowPart::Kind::Link) {
         QDesktopServices::openUrl(QUrl(*note.link));
-        break;
-    case RowPart::Kind::Symbol:
-        if (m_timeline.actions(row).value(part.symbol) == TimelineModel::Action::JumpToReply)
-            jumpToReply(note);
-        break;
-    case RowPart::Kind::Body:
-    case RowPart::Kind::None:
-        break;
+    } else if (part.kind == RowPart::Kind::Quote) {
+        if (note.quoteID && m_notes.note(*note.quoteID))
+            scrollAndFlash(*note.quoteID, false);
+    } else if (part.kind == RowPart::Kind::Button) {
+        if (const auto reply = m_notes.latestReply(note.id))
+            scrollAndFlash(reply->id, false);
     }
 }
 
 void NoteListView::fillMenu(QMenu &menu, int row)
 {
     const Note note = m_timeline.note(row);
-    menu.addAction(L10n::text("引用"), this, [this, note] { quote(note); });
+    menu.addAction(L10n::text("引用"), this, [this, note] {
+        m_state.setQuoting(note);
+        m_state.setEditingID({});
+        m_state.focusComposer();
+    });
     menu.addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
     menu.addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
     menu.addSeparator();
@@ -136,18 +126,6 @@ void NoteListView::jumpToExternalTarget()
 {
     if (const auto target = m_state.jumpTargetID())
         scrollAndFlash(*target, true);
-}
-
-void NoteListView::jumpToQuoted(const Note &note)
-{
-    if (note.quoteID && m_notes.note(*note.quoteID))
-        scrollAndFlash(*note.quoteID, false);
-}
-
-void NoteListView::jumpToReply(const Note &note)
-{
-    if (const auto reply = m_notes.latestReply(note.id))
-        scrollAndFlash(reply->id, false);
 }
 
 void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)

@@ -38,11 +38,8 @@ protected:
 
 private:
     void queryDidChange();
-    void quote(const Note &note);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
-    void jumpToQuoted(const Note &note);
-    void jumpToReply(const Note &note);
     void setFlashID(std::optional<QUuid> id);
 
     NoteStore &m_notes;

@@ -32,7 +32,7 @@ void ReminderListView::activate(int row)
 
 void ReminderListView::clickPart(int row, RowPart part)
 {
-    if (part.kind == RowPart::Kind::Symbol)
+    if (part.kind == RowPart::Kind::Button)
         remove(row);
 }
 

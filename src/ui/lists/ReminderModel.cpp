@@ -13,9 +13,8 @@ bool isSameRow(const ReminderRow &a, const ReminderRow &b)
     return !a.reminder && !b.reminder;
 }
 
-ReminderModel::ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent)
-    : RowsOf(parent)
-    , m_notes(notes)
+ReminderModel::ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock)
+    : m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
 {
@@ -39,18 +38,13 @@ void ReminderModel::refresh()
         const QString noteText = texts.value(reminder.noteID);
         const bool isExpired = reminder.fireAt <= m_clock.now();
         (isExpired ? expired : upcoming)
-            .append({reminder, isExpired, noteText.isEmpty() ? reminder.text : noteText});
+            .append({reminder, isExpired,
+                NoteFormatting::reminderTimeString(reminder.fireAt, m_clock.now(), m_clock.calendar()),
+                noteText.isEmpty() ? reminder.text : noteText});
     }
     if (!expired.isEmpty())
-        upcoming.append({{}, true, {}});
+        upcoming.append({{}, true});
     show(upcoming + expired);
-}
-
-void ReminderModel::timeDidPass()
-{
-    refresh();
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1)); // "today" and "tomorrow" move
 }
 
 QString ReminderModel::text(int number) const
@@ -58,19 +52,10 @@ QString ReminderModel::text(int number) const
     return row(number).reminder ? row(number).text : L10n::text("已过期");
 }
 
-RowContent ReminderModel::content(int number) const
+void ReminderModel::fillEntry(RowContent &entry, int number) const
 {
     const ReminderRow &row = this->row(number);
-    RowContent content;
-    if (!row.reminder) {
-        content.header = text(number);
-        return content;
-    }
-    const QString when =
-        NoteFormatting::reminderTimeString(row.reminder->fireAt, m_clock.now(), m_clock.calendar());
-    content.above = row.isExpired ? L10n::text("已过期 · %@", QStringList{when}) : when;
-    content.text = row.text;
-    content.isExpired = row.isExpired;
-    content.symbols = {{QStringLiteral("bell.slash"), L10n::text("取消提醒"), true}};
-    return content;
+    entry.above = row.isExpired ? L10n::text("已过期 · %@", QStringList{row.when}) : row.when;
+    entry.isExpired = row.isExpired;
+    entry.symbols = {{QStringLiteral("bell.slash"), L10n::text("取消提醒"), true}};
 }

@@ -12,7 +12,8 @@ class ReminderStore;
 struct ReminderRow {
     std::optional<Reminder> reminder; ///< none in the header of the expired ones
     bool isExpired = false;
-    QString text; ///< the note's, or the reminder's own when the note no longer exists
+    QString when = {}; ///< as seen from today
+    QString text = {}; ///< the note's, or the reminder's own when the note no longer exists
     bool operator==(const ReminderRow &) const = default;
 };
 [[nodiscard]] bool isSameRow(const ReminderRow &a, const ReminderRow &b);
@@ -23,15 +24,15 @@ class ReminderModel final : public RowsOf<ReminderRow>
     Q_OBJECT
 
 public:
-    ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock, QObject *parent = nullptr);
-    void refresh() override;
-    void timeDidPass();
+    ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock);
 
-    [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).reminder; }
     [[nodiscard]] QString text(int row) const override;
 
 private:
+    void refresh() override;
+    void fillEntry(RowContent &entry, int row) const override;
+
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;

@@ -28,6 +28,10 @@ struct RowContent {
 
     [[nodiscard]] bool isHeader() const { return !header.isEmpty(); }
     bool operator==(const RowContent &) const = default;
+    friend size_t qHash(const RowContent &content, size_t seed = 0)
+    {
+        return qHashMulti(seed, content.text, content.lead, content.query);
+    }
 };
 
 /// The part of a row under a point.

@@ -66,49 +66,46 @@ private:
     QPersistentModelIndex m_index;
 };
 
-QAccessibleInterface *makeInterface(const QString &, QObject *object)
+void announce(RowListView &view, int row, QAccessible::Event change)
 {
-    auto *view = qobject_cast<RowListView *>(object);
-    return view ? new RowListAccessible(view) : nullptr;
+    QAccessibleEvent event(&view, change);
+    event.setChild(row);
+    QAccessible::updateAccessibility(&event);
 }
 } // namespace
 
 void RowListAccessible::install()
 {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory([](const QString &, QObject *object) -> QAccessibleInterface * {
+        auto *view = qobject_cast<RowListView *>(object);
+        return view ? new RowListAccessible(view) : nullptr;
+    });
 }
 
 void RowListAccessible::announceCurrentRow(RowListView &view)
 {
-    if (!QAccessible::isActive() || !view.hasFocus() || view.currentRow() < 0)
-        return;
-    QAccessibleEvent event(&view, QAccessible::Focus);
-    event.setChild(view.currentRow());
-    QAccessible::updateAccessibility(&event);
+    if (QAccessible::isActive() && view.hasFocus() && view.currentRow() >= 0)
+        announce(view, view.currentRow(), QAccessible::Focus);
 }
 
 RowListAccessible::RowListAccessible(RowListView *view)
     : QAccessibleWidget(view, QAccessible::List)
 {
     const RowModel *model = &view->model();
-    m_connections = {
-        QObject::connect(model, &RowModel::rowsInserted, view,
-            [this](const QModelIndex &, int first, int last) {
-                announceRows(first, last, QAccessible::ObjectCreated);
-            }),
-        QObject::connect(model, &RowModel::rowsAboutToBeRemoved, view,
-            [this](const QModelIndex &, int first, int last) { forgetRows(first, last); }),
-        QObject::connect(model, &RowModel::dataChanged, view,
-            [this](const QModelIndex &first, const QModelIndex &last) {
-                announceRows(first.row(), last.row(), QAccessible::NameChanged);
-            }),
-    };
+    QObject::connect(
+        model, &RowModel::rowsInserted, &m_listener, [this](const QModelIndex &, int first, int last) {
+            announceRows(first, last, QAccessible::ObjectCreated);
+        });
+    QObject::connect(model, &RowModel::rowsAboutToBeRemoved, &m_listener,
+        [this](const QModelIndex &, int first, int last) { forgetRows(first, last); });
+    QObject::connect(model, &RowModel::dataChanged, &m_listener,
+        [this](const QModelIndex &first, const QModelIndex &last) {
+            announceRows(first.row(), last.row(), QAccessible::NameChanged);
+        });
 }
 
 RowListAccessible::~RowListAccessible()
 {
-    for (const QMetaObject::Connection &connection : m_connections)
-        QObject::disconnect(connection);
     for (const QAccessible::Id id : std::as_const(m_rows))
         QAccessible::deleteAccessibleInterface(id);
 }
@@ -122,21 +119,16 @@ void RowListAccessible::announceRows(int first, int last, QAccessible::Event eve
 {
     // Those out of view are found when they are asked for: a query may bring a hundred thousand.
     const int lastInView = std::min(last, view()->lastRowInView());
-    for (int row = std::max(first, view()->firstRowInView()); row <= lastInView; ++row) {
-        QAccessibleEvent announced(view(), event);
-        announced.setChild(row);
-        QAccessible::updateAccessibility(&announced);
-    }
+    for (int row = std::max(first, view()->firstRowInView()); row <= lastInView; ++row)
+        announce(*view(), row, event);
 }
 
 void RowListAccessible::forgetRows(int first, int last)
 {
-    QList<QPersistentModelIndex> forgotten;
-    for (const QPersistentModelIndex &index : m_rows.keys()) {
-        if (index.row() >= first && index.row() <= last)
-            forgotten.append(index);
-    }
-    for (const QPersistentModelIndex &index : forgotten) {
+    const QList<QPersistentModelIndex> known = m_rows.keys(); // listeners may ask for rows meanwhile
+    for (const QPersistentModelIndex &index : known) {
+        if (index.row() < first || index.row() > last)
+            continue;
         const QAccessible::Id id = m_rows.take(index);
         QAccessibleEvent event(QAccessible::accessibleInterface(id), QAccessible::ObjectDestroyed);
         QAccessible::updateAccessibility(&event);

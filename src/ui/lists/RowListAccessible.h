@@ -31,7 +31,7 @@ private:
     void announceRows(int first, int last, QAccessible::Event event) const;
     void forgetRows(int first, int last);
 
-    /// Those that have been asked for. A persistent index is the same key wherever its row moves.
+    /// The interfaces that have been asked for. A persistent index is the same key wherever its row moves.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> m_rows;
-    QList<QMetaObject::Connection> m_connections;
+    QObject m_listener; ///< ends the connections to the model
 };

@@ -62,18 +62,18 @@ bool RowListView::enter()
     return true;
 }
 
-void RowListView::rowsInserted(int first, int count)
+void RowListView::didInsertRows(int first, int count)
 {
     if (m_current >= first)
         m_current += count;
     m_hover = m_pressed = {};
-    RowScrollArea::rowsInserted(first, count);
+    RowScrollArea::didInsertRows(first, count);
 }
 
-void RowListView::rowsRemoved(int first, int count)
+void RowListView::didRemoveRows(int first, int count)
 {
     m_hover = m_pressed = {};
-    RowScrollArea::rowsRemoved(first, count);
+    RowScrollArea::didRemoveRows(first, count);
     if (m_current >= first + count) {
         m_current -= count;
     } else if (m_current >= first) {
@@ -152,13 +152,12 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         moveCurrentRow(nearestEntry(last, -1));
         return;
     case Qt::Key_PageUp:
+    case Qt::Key_PageDown: {
+        const int pages = event->key() == Qt::Key_PageUp ? -1 : 1;
         if (last >= 0)
-            moveCurrentRow(nearestEntry(rowPagesAway(std::max(0, m_current), -1), 1));
+            moveCurrentRow(nearestEntry(rowPagesAway(std::max(0, m_current), pages), -pages));
         return;
-    case Qt::Key_PageDown:
-        if (last >= 0)
-            moveCurrentRow(nearestEntry(rowPagesAway(std::max(0, m_current), 1), -1));
-        return;
+    }
     default:
         event->ignore();
     }
@@ -192,9 +191,8 @@ void RowListView::setHover(const Hit &hover)
     viewport()->update(rectOf(hover.row));
     m_hover = hover;
     const RowPart::Kind kind = hover.part.kind;
-    const bool isButton =
-        kind == RowPart::Kind::Symbol && model().content(hover.row).symbols[hover.part.symbol].isButton;
-    const bool isLink = kind == RowPart::Kind::Quote || kind == RowPart::Kind::Link || isButton;
+    const bool isLink =
+        kind == RowPart::Kind::Quote || kind == RowPart::Kind::Link || kind == RowPart::Kind::Button;
     viewport()->setCursor(isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
@@ -255,7 +253,7 @@ bool RowListView::viewportEvent(QEvent *event)
         return RowScrollArea::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const Hit hit = hitAt(help->pos());
-    if (hit.part.kind == RowPart::Kind::Symbol) {
+    if (hit.part.symbol >= 0) {
         QToolTip::showText(help->globalPos(), model().content(hit.row).symbols[hit.part.symbol].help,
             viewport(), rectOf(hit.row));
     } else {

@@ -43,8 +43,8 @@ protected:
     [[nodiscard]] virtual QColor groundOf(int) const { return {}; } ///< a colour behind the row
 
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
-    void rowsInserted(int first, int count) override;
-    void rowsRemoved(int first, int count) override;
+    void didInsertRows(int first, int count) override;
+    void didRemoveRows(int first, int count) override;
 
     void contextMenuEvent(QContextMenuEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;

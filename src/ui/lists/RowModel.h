@@ -23,7 +23,17 @@ public:
             refreshWhenSeen();
     }
 
-    [[nodiscard]] virtual RowContent content(int row) const = 0;
+    /// To be called after a minute, at midnight, and when the clock was changed.
+    virtual void timeDidPass() { refresh(); }
+
+    [[nodiscard]] RowContent content(int row) const
+    {
+        RowContent content;
+        (isHeader(row) ? content.header : content.text) = text(row);
+        if (!isHeader(row))
+            fillEntry(content, row);
+        return content;
+    }
     [[nodiscard]] virtual bool isHeader(int row) const = 0;
     [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
@@ -34,6 +44,7 @@ public:
     }
 
 protected:
+    virtual void fillEntry(RowContent &, int) const {} ///< with all that it shows beside its text
     virtual void refresh() = 0; ///< to the present state of what the rows are made from
     void refreshWhenSeen()
     {

@@ -27,14 +27,15 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     viewport()->setMouseTracking(true);
 
     connect(&m_model, &RowModel::rowsInserted, this,
-        [this](const QModelIndex &, int first, int last) { rowsInserted(first, last - first + 1); });
+        [this](const QModelIndex &, int first, int last) { didInsertRows(first, last - first + 1); });
     connect(&m_model, &RowModel::rowsRemoved, this,
-        [this](const QModelIndex &, int first, int last) { rowsRemoved(first, last - first + 1); });
+        [this](const QModelIndex &, int first, int last) { didRemoveRows(first, last - first + 1); });
     connect(
         &m_model, &RowModel::dataChanged, this, [this](const QModelIndex &first, const QModelIndex &last) {
             m_geometry.invalidate(first.row(), last.row() - first.row() + 1);
             geometryChanged();
         });
+    m_model.setParent(this);
     m_model.setSeen(false);
     estimateAll();
 
@@ -48,13 +49,13 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
 
 // Where the rows are
 
-void RowScrollArea::rowsInserted(int first, int count)
+void RowScrollArea::didInsertRows(int first, int count)
 {
     m_geometry.insert(first, estimatedHeights(first, count));
     geometryChanged();
 }
 
-void RowScrollArea::rowsRemoved(int first, int count)
+void RowScrollArea::didRemoveRows(int first, int count)
 {
     m_geometry.remove(first, count);
     geometryChanged();
@@ -78,6 +79,7 @@ std::vector<int> RowScrollArea::estimatedHeights(int first, int count) const
 
 void RowScrollArea::estimateAll()
 {
+    m_layouts.clear();
     m_geometry.reset(estimatedHeights(0, m_model.rowCount()));
     geometryChanged();
 }
@@ -91,13 +93,18 @@ void RowScrollArea::geometryChanged()
     verticalScrollBar()->setRange(0, std::max(0, end + spaceBelow - page()));
     verticalScrollBar()->setValue(offset);
     m_geometry.setOffset(verticalScrollBar()->value(), page());
-    rowsMoved();
+    didMoveRows();
     viewport()->update();
 }
 
 const RowLayout &RowScrollArea::layoutOf(int row) const
 {
-    return m_layouts.layout(m_model.content(row), viewport()->width(), palette());
+    const RowContent content = m_model.content(row);
+    if (const RowLayout *cached = m_layouts.object(content))
+        return *cached;
+    auto *layout = new RowLayout(content, viewport()->width(), palette());
+    m_layouts.insert(content, layout); // takes ownership, and drops the one unused for longest
+    return *layout;
 }
 
 bool RowScrollArea::measure(int firstRow, int lastRow)
@@ -156,7 +163,7 @@ int RowScrollArea::rowPagesAway(int row, int pages) const
 void RowScrollArea::scrollContentsBy(int, int)
 {
     m_geometry.setOffset(verticalScrollBar()->value(), page());
-    rowsMoved();
+    didMoveRows();
     viewport()->update();
 }
 
@@ -273,4 +280,6 @@ void RowScrollArea::changeEvent(QEvent *event)
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         estimateAll();
+    else if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        m_layouts.clear();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ui/lists/RowGeometry.h"
-#include "ui/lists/RowLayoutCache.h"
 #include "ui/lists/RowPainter.h"
 
 #include <QAbstractScrollArea>
+#include <QCache>
 #include <QPersistentModelIndex>
 #include <QVariantAnimation>
 
@@ -17,6 +17,7 @@ class RowScrollArea : public QAbstractScrollArea
     Q_OBJECT
 
 public:
+    /// Takes ownership of @p model.
     explicit RowScrollArea(RowModel &model, QWidget *parent = nullptr);
 
     [[nodiscard]] RowModel &model() const { return m_model; }
@@ -31,12 +32,12 @@ public:
 
 protected:
     [[nodiscard]] virtual RowPainter::Marks marksOf(int row) const = 0;
-    virtual void rowsInserted(int first, int count);
-    virtual void rowsRemoved(int first, int count);
-    virtual void rowsMoved() {} ///< within the viewport, by scrolling or a change
+    virtual void didInsertRows(int first, int count);
+    virtual void didRemoveRows(int first, int count);
+    virtual void didMoveRows() {} ///< within the viewport, by scrolling or a change
 
     void forgetHeights(); ///< of rows whose content has changed without the model having announced it
-    [[nodiscard]] const RowLayout &layoutOf(int row) const;
+    [[nodiscard]] const RowLayout &layoutOf(int row) const; ///< valid until the next call
     [[nodiscard]] int rowPagesAway(int row, int pages) const;
 
     void paintEvent(QPaintEvent *event) override;
@@ -65,7 +66,9 @@ private:
 
     RowModel &m_model;
     RowGeometry m_geometry;
-    mutable RowLayoutCache m_layouts;
+    /// Of the rows in view and near it, for the present width, font and palette: breaking a text into lines
+    /// takes longer than painting it.
+    mutable QCache<RowContent, RowLayout> m_layouts{200};
     QVariantAnimation m_scrolling; ///< from 0 to 1
     QPersistentModelIndex m_scrollTarget;
     double m_scrollProgress = 0;

@@ -81,7 +81,7 @@ void TagListView::editDidChange()
         if (m_editor == editor)
             commitRename(from, editor->text());
     });
-    rowsMoved();
+    didMoveRows();
     m_editor->show();
     m_editor->setFocus();
 }
@@ -95,7 +95,7 @@ void TagListView::endEdit()
     editor->deleteLater();
 }
 
-void TagListView::rowsMoved()
+void TagListView::didMoveRows()
 {
     if (!m_editor || !m_rename.renaming())
         return;

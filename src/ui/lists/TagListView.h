@@ -27,7 +27,7 @@ protected:
     void clickPart(int row, RowPart part) override;
     void remove(int row) override; ///< asks first
     void fillMenu(QMenu &menu, int row) override;
-    void rowsMoved() override;
+    void didMoveRows() override;
 
 private:
     void editDidChange();

@@ -8,9 +8,8 @@ bool isSameRow(const TagSummary &a, const TagSummary &b)
     return a.name == b.name;
 }
 
-TagModel::TagModel(NoteStore &notes, QObject *parent)
-    : RowsOf(parent)
-    , m_notes(notes)
+TagModel::TagModel(NoteStore &notes)
+    : m_notes(notes)
 {
     connect(&m_notes, &NoteStore::notesChanged, this, &TagModel::refreshWhenSeen);
     TagModel::refresh();
@@ -38,13 +37,10 @@ QString TagModel::text(int number) const
     return u'#' + row(number).name;
 }
 
-RowContent TagModel::content(int number) const
+void TagModel::fillEntry(RowContent &entry, int number) const
 {
-    RowContent content;
-    content.text = text(number);
-    content.query = m_query.trimmed();
-    content.trailing = QString::number(row(number).count);
-    return content;
+    entry.query = m_query.trimmed();
+    entry.trailing = QString::number(row(number).count);
 }
 
 int TagModel::rowOf(const QString &tag) const

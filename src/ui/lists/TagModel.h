@@ -13,15 +13,15 @@ class TagModel final : public RowsOf<TagSummary>
     Q_OBJECT
 
 public:
-    explicit TagModel(NoteStore &notes, QObject *parent = nullptr);
+    explicit TagModel(NoteStore &notes);
     void setQuery(const QString &query);
 
-    [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int) const override { return false; }
     [[nodiscard]] QString text(int row) const override;
     [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when not shown
 
 private:
+    void fillEntry(RowContent &entry, int row) const override;
     void refresh() override;
 
     NoteStore &m_notes;

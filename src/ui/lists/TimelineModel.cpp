@@ -29,10 +29,9 @@ bool operator==(const TimelineRow &a, const TimelineRow &b)
            && a.isSemanticOnly == b.isSemanticOnly && a.text == b.text;
 }
 
-TimelineModel::TimelineModel(const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders,
-    const Clock &clock, QObject *parent)
-    : RowsOf(parent)
-    , m_notes(notes)
+TimelineModel::TimelineModel(
+    const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders, const Clock &clock)
+    : m_notes(notes)
     , m_search(search)
     , m_reminders(reminders)
     , m_clock(clock)
@@ -135,16 +134,6 @@ const Note &TimelineModel::note(int number) const
     return m_notes.notes()[row(number).noteIndex];
 }
 
-QList<TimelineModel::Action> TimelineModel::actions(int number) const
-{
-    QList<Action> actions;
-    if (row(number).isRepliedTo)
-        actions.append(Action::JumpToReply);
-    if (row(number).hasReminder)
-        actions.append(Action::ShowReminder);
-    return actions;
-}
-
 QString TimelineModel::text(int number) const
 {
     switch (row(number).kind) {
@@ -158,43 +147,28 @@ QString TimelineModel::text(int number) const
     Q_UNREACHABLE();
 }
 
-RowContent TimelineModel::content(int number) const
+void TimelineModel::fillEntry(RowContent &entry, int number) const
 {
     const TimelineRow &row = this->row(number);
-    RowContent content;
-    if (!row.isNote()) {
-        content.header = text(number);
-        return content;
-    }
     const Note &note = this->note(number);
-    content.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
-    content.text = note.text;
-    content.query = m_query;
-    content.quote = note.quote.value_or(QString());
+    entry.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
+    entry.query = m_query;
+    entry.quote = note.quote.value_or(QString());
     if (note.link) {
         const QUrl url(*note.link);
-        content.link = url.isLocalFile() ? url.toLocalFile() : *note.link;
+        entry.link = url.isLocalFile() ? url.toLocalFile() : *note.link;
         if (url.isLocalFile())
-            content.linkSymbol = QStringLiteral("folder");
+            entry.linkSymbol = QStringLiteral("folder");
     }
     if (row.isSemanticOnly)
-        content.marker = L10n::text("仅供参考");
-    for (const Action action : actions(number)) {
-        switch (action) {
-        case Action::JumpToReply:
-            content.symbols.append({QStringLiteral("reply"), L10n::text("跳转到最新回复"), true});
-            break;
-        case Action::ShowReminder:
-            if (const auto reminder = m_reminders.reminder(note.id)) {
-                const QString when =
-                    NoteFormatting::reminderTimeString(reminder->fireAt, m_clock.now(), m_clock.calendar());
-                content.symbols.append(
-                    {QStringLiteral("bell"), L10n::text("%@ 提醒", QStringList{when}), false});
-            }
-            break;
-        }
+        entry.marker = L10n::text("仅供参考");
+    if (row.isRepliedTo)
+        entry.symbols.append({QStringLiteral("reply"), L10n::text("跳转到最新回复"), true});
+    if (const auto reminder = row.hasReminder ? m_reminders.reminder(note.id) : std::nullopt) {
+        const QString when =
+            NoteFormatting::reminderTimeString(reminder->fireAt, m_clock.now(), m_clock.calendar());
+        entry.symbols.append({QStringLiteral("bell"), L10n::text("%@ 提醒", QStringList{when}), false});
     }
-    return content;
 }
 
 QModelIndex TimelineModel::indexOf(QUuid noteID) const

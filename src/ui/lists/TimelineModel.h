@@ -44,26 +44,22 @@ class TimelineModel final : public RowsOf<TimelineRow>
     Q_OBJECT
 
 public:
-    TimelineModel(const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders,
-        const Clock &clock, QObject *parent = nullptr);
+    TimelineModel(
+        const NoteStore &notes, NoteSearch &search, const ReminderStore &reminders, const Clock &clock);
     ~TimelineModel() override;
 
     void setQuery(const QString &query);
     [[nodiscard]] const QString &query() const { return m_query; }
-    void timeDidPass(); ///< call after a minute, midnight, or a change of the clock
+    void timeDidPass() override;
 
-    [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).isNote(); }
     [[nodiscard]] QString text(int row) const override;
     [[nodiscard]] const Note &note(
         int row) const; ///< the row must be a note's; valid until the store changes
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
 
-    /// The actions of the symbols in a note's row, in their order.
-    enum class Action { JumpToReply, ShowReminder };
-    [[nodiscard]] QList<Action> actions(int row) const;
-
 private:
+    void fillEntry(RowContent &entry, int row) const override;
     void refresh() override; ///< also while the panel is hidden, so that it opens at once
     void continueSearch();
     void appendSections(

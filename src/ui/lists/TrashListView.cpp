@@ -27,7 +27,7 @@ void TrashListView::activate(int row)
 
 void TrashListView::clickPart(int row, RowPart part)
 {
-    if (part.kind == RowPart::Kind::Symbol)
+    if (part.kind == RowPart::Kind::Button)
         activate(row);
 }
 

@@ -12,9 +12,8 @@ bool isSameRow(const TrashRow &a, const TrashRow &b)
     return !a.note && !b.note && a.day == b.day;
 }
 
-TrashModel::TrashModel(NoteStore &notes, const Clock &clock, QObject *parent)
-    : RowsOf(parent)
-    , m_notes(notes)
+TrashModel::TrashModel(NoteStore &notes, const Clock &clock)
+    : m_notes(notes)
     , m_clock(clock)
 {
     connect(&m_notes, &NoteStore::notesChanged, this, &TrashModel::refreshWhenSeen);
@@ -38,16 +37,8 @@ QString TrashModel::text(int number) const
     return row.note ? row.note->text : NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
 }
 
-RowContent TrashModel::content(int number) const
+void TrashModel::fillEntry(RowContent &entry, int number) const
 {
-    const TrashRow &row = this->row(number);
-    RowContent content;
-    if (!row.note) {
-        content.header = text(number);
-        return content;
-    }
-    content.lead = NoteFormatting::timeString(row.note->createdAt, m_clock.calendar());
-    content.text = row.note->text;
-    content.symbols = {{QStringLiteral("arrow.uturn.backward"), L10n::text("恢复到时间线"), true}};
-    return content;
+    entry.lead = NoteFormatting::timeString(row(number).note->createdAt, m_clock.calendar());
+    entry.symbols = {{QStringLiteral("arrow.uturn.backward"), L10n::text("恢复到时间线"), true}};
 }

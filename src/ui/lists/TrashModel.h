@@ -21,14 +21,15 @@ class TrashModel final : public RowsOf<TrashRow>
     Q_OBJECT
 
 public:
-    TrashModel(NoteStore &notes, const Clock &clock, QObject *parent = nullptr);
-    void refresh() override;
+    TrashModel(NoteStore &notes, const Clock &clock);
 
-    [[nodiscard]] RowContent content(int row) const override;
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).note; }
     [[nodiscard]] QString text(int row) const override;
 
 private:
+    void refresh() override;
+    void fillEntry(RowContent &entry, int row) const override;
+
     NoteStore &m_notes;
     const Clock &m_clock;
 };
