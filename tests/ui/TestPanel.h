@@ -9,8 +9,8 @@
 #include "support/RecordingScheduler.h"
 #include "support/TestClock.h"
 #include "support/TestFiles.h"
+#include "ui/composer/ComposerBar.h"
 #include "ui/composer/ComposerField.h"
-#include "ui/composer/ReminderBar.h"
 #include "ui/lists/NoteListView.h"
 #include "ui/lists/RelatedNotesView.h"
 #include "ui/lists/RowListAccessible.h"
@@ -46,7 +46,7 @@ public:
     }
 
     ComposerField *field() { return window.findChild<ComposerField *>(); }
-    ReminderBar *reminderBar() { return window.findChild<ReminderBar *>(); }
+    ComposerBar *reminderBar() { return find<ComposerBar>("reminderBar"); }
     NoteListView &list() { return *window.findChild<NoteListView *>(); }
     PanelState &state() { return content->state(); }
 

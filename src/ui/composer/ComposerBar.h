@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /// One line above the field about something that will be saved with the draft, and a button to drop it.
-class ComposerBar : public QWidget
+class ComposerBar final : public QWidget
 {
     Q_OBJECT
 

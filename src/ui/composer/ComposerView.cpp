@@ -5,11 +5,11 @@
 #include "reminders/ReminderDetector.h"
 #include "text/L10n.h"
 #include "text/LocalFile.h"
+#include "text/NoteFormatting.h"
 #include "text/PageTitleFetching.h"
 #include "text/WebLink.h"
 #include "ui/composer/ComposerBar.h"
 #include "ui/composer/ComposerField.h"
-#include "ui/composer/ReminderBar.h"
 #include "ui/composer/SuggestionList.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
@@ -35,10 +35,11 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     , m_clock(clock)
     , m_suggestions(new SuggestionList(m_completion, this))
     , m_quoteBar(new ComposerBar(QStringLiteral("text.quote"), L10n::text("取消引用"), this))
-    , m_reminderBar(new ReminderBar(clock, this))
+    , m_reminderBar(new ComposerBar(QStringLiteral("bell"), L10n::text("本次不创建提醒"), this))
     , m_field(new ComposerField(this))
 {
     m_quoteBar->setObjectName(QStringLiteral("quoteBar"));
+    m_reminderBar->setObjectName(QStringLiteral("reminderBar"));
     m_field->setObjectName(QStringLiteral("composerField"));
     m_field->setFrame(false);
     m_field->setFont(NoteStyle::font());
@@ -66,7 +67,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
     connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
     connect(m_quoteBar, &ComposerBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
-    connect(m_reminderBar, &ReminderBar::dismissed, this, [this] {
+    connect(m_reminderBar, &ComposerBar::dismissed, this, [this] {
         m_suppressReminder = true;
         updateReminderPreview();
     });
@@ -180,7 +181,14 @@ std::optional<ParsedReminder> ComposerView::detectedReminder() const
 void ComposerView::updateReminderPreview()
 {
     const bool isOff = isFilterOnly() || m_state.editingID() || m_suppressReminder;
-    m_reminderBar->setPreview(isOff ? std::nullopt : detectedReminder());
+    const auto reminder = isOff ? std::nullopt : detectedReminder();
+    if (reminder) {
+        const Instant now = m_clock.now();
+        const QString when = NoteFormatting::reminderTimeString(reminder->fireAt, now, m_clock.calendar());
+        m_reminderBar->setText(reminder->fireAt > now ? when + QStringLiteral(" · ") + reminder->content
+                                                      : L10n::text("时间已过，回车仅保存笔记"));
+    }
+    m_reminderBar->setVisible(reminder.has_value());
 }
 
 bool ComposerView::isComposing() const

@@ -15,7 +15,6 @@ class DateDetecting;
 class NoteStore;
 class PageTitleFetching;
 class PanelState;
-class ReminderBar;
 class SuggestionList;
 
 /// The line that notes are written in, with completion and bars above it. Return saves the draft: as an edit,
@@ -64,7 +63,7 @@ private:
     TagCompletionState m_completion;
     SuggestionList *m_suggestions = nullptr;
     ComposerBar *m_quoteBar = nullptr;
-    ReminderBar *m_reminderBar = nullptr;
+    ComposerBar *m_reminderBar = nullptr; ///< which reminder saving would create
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
     CachedImage m_capsule;

@@ -12,18 +12,24 @@ class TagRenameState final : public QObject
     Q_OBJECT
 
 public:
-    explicit TagRenameState(QObject *parent = nullptr);
+    TagRenameState() { s_active = this; }
     /// The instance created last, while it exists.
     [[nodiscard]] static TagRenameState *active() { return s_active; }
 
     [[nodiscard]] const std::optional<QString> &renaming() const { return m_renaming; }
-    void setRenaming(const std::optional<QString> &tag);
+    void setRenaming(const std::optional<QString> &tag)
+    {
+        if (m_renaming == tag)
+            return;
+        m_renaming = tag;
+        Q_EMIT changed();
+    }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    static QPointer<TagRenameState> s_active;
+    static inline QPointer<TagRenameState> s_active;
 
     std::optional<QString> m_renaming;
 };

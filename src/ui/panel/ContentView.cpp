@@ -25,21 +25,6 @@
 #include <QVBoxLayout>
 
 namespace {
-QString title(PanelMode mode)
-{
-    switch (mode) {
-    case PanelMode::Timeline:
-        return L10n::text("笔记");
-    case PanelMode::Tags:
-        return L10n::text("标签");
-    case PanelMode::Reminders:
-        return L10n::text("提醒");
-    case PanelMode::Trash:
-        return L10n::text("回收站");
-    }
-    Q_UNREACHABLE();
-}
-
 bool hasComposer(PanelMode mode)
 {
     return mode == PanelMode::Timeline || mode == PanelMode::Tags;
@@ -52,13 +37,15 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     , m_notes(notes)
     , m_reminders(reminders)
     , m_clock(clock)
-    , m_timelineModel(new TimelineModel(notes, search, reminders, clock, this))
-    , m_timeline(new NoteListView(notes, search, reminders, m_state, *m_timelineModel, this))
-    , m_composer(new ComposerView(notes, m_state, detector, titles, clock, this))
     , m_title(new QLabel(this))
     , m_stack(new QStackedLayout)
+    , m_pages{{L10n::text("笔记")}, {L10n::text("标签")}, {L10n::text("提醒")}, {L10n::text("回收站")}}
     , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), this))
 {
+    // The order in which they are made is that of the Tab key.
+    auto &timeline = *new NoteListView(
+        notes, search, reminders, m_state, *new TimelineModel(notes, search, reminders, clock), this);
+    m_composer = new ComposerView(notes, m_state, detector, titles, clock, this);
     setFocusProxy(m_composer);
 
     m_title->setObjectName(QStringLiteral("title"));
@@ -73,9 +60,9 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     addModeButton(*bar, PanelMode::Reminders, QStringLiteral("bell"));
     addModeButton(*bar, PanelMode::Trash, QStringLiteral("trash"));
 
-    addPage({PanelMode::Timeline, m_timeline, m_timeline});
-    m_tags = new TagListView(notes, *new TagModel(notes, this), this);
-    addPage({PanelMode::Tags, m_tags, m_tags});
+    addList(PanelMode::Timeline, timeline, timeline);
+    m_tags = new TagListView(notes, *new TagModel(notes), this);
+    addList(PanelMode::Tags, *m_tags, *m_tags);
     addReminders();
     addTrash();
 
@@ -91,7 +78,6 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
     connect(m_composer, &ComposerView::listRequested, this, [this] { list().enter(); });
     connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
-    addShortcuts();
     m_nextMinute.setSingleShot(true);
     m_nextMinute.setTimerType(Qt::CoarseTimer);
     connect(&m_nextMinute, &QTimer::timeout, this, &ContentView::timeDidPass);
@@ -100,20 +86,25 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
 
 void ContentView::addModeButton(QLayout &bar, PanelMode mode, const QString &symbol)
 {
-    auto *button = new BarButton(symbol, title(mode), this);
+    auto *button = new BarButton(symbol, m_pages[qsizetype(mode)].title, this);
     button->setObjectName(QStringLiteral("mode.") + symbol);
     button->setCheckable(true);
-    connect(button, &BarButton::clicked, this, [this, mode] { toggle(mode); });
+    connect(button, &BarButton::clicked, this,
+        [this, mode] { enter(m_state.mode() == mode ? PanelMode::Timeline : mode); });
     bar.addWidget(button);
-    m_modeButtons.append({mode, button});
+    m_pages[qsizetype(mode)].button = button;
 }
 
-void ContentView::addPage(const Page &page)
+void ContentView::addList(PanelMode mode, RowListView &list, QWidget &page)
 {
-    Q_ASSERT(m_pages.size() == qsizetype(page.mode));
-    m_stack->addWidget(page.widget);
-    m_pages.append(page);
-    connect(page.list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+    m_pages[qsizetype(mode)].list = &list;
+    m_stack->insertWidget(int(mode), &page);
+    connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+    auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))), this);
+    connect(shortcut, &QShortcut::activated, this, [this, mode] {
+        if (m_state.mode() != mode)
+            enter(mode);
+    });
 }
 
 void ContentView::addReminders()
@@ -122,8 +113,7 @@ void ContentView::addReminders()
     auto *banner = new WarningBanner(QStringLiteral("bell.slash"),
         L10n::text("通知权限未开启，到点不会弹通知。请到 系统设置 → 通知 → Quillet 开启。"), page);
     banner->setObjectName(QStringLiteral("permissionBanner"));
-    m_reminderModel = new ReminderModel(m_notes, m_reminders, m_clock, this);
-    auto *list = new ReminderListView(m_reminders, *m_reminderModel, page);
+    auto *list = new ReminderListView(m_reminders, *new ReminderModel(m_notes, m_reminders, m_clock), page);
     connect(list, &ReminderListView::noteChosen, &m_state, &PanelState::openNote);
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -135,14 +125,13 @@ void ContentView::addReminders()
     };
     connect(&m_reminders, &ReminderStore::authorizationStatusChanged, banner, updateBanner);
     updateBanner();
-    addPage({PanelMode::Reminders, page, list});
+    addList(PanelMode::Reminders, *list, *page);
 }
 
 void ContentView::addTrash()
 {
-    m_trashModel = new TrashModel(m_notes, m_clock, this);
-    auto *list = new TrashListView(m_notes, *m_trashModel, this);
-    addPage({PanelMode::Trash, list, list});
+    auto *list = new TrashListView(m_notes, *new TrashModel(m_notes, m_clock), this);
+    addList(PanelMode::Trash, *list, *list);
     m_trashBar = new QWidget(this);
     auto *layout = new QHBoxLayout(m_trashBar);
     layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
@@ -152,17 +141,6 @@ void ContentView::addTrash()
     const auto updateButton = [this] { m_emptyTrash->setEnabled(!m_notes.trash().isEmpty()); };
     connect(&m_notes, &NoteStore::notesChanged, this, updateButton);
     updateButton();
-}
-
-void ContentView::addShortcuts()
-{
-    for (const Page &page : std::as_const(m_pages)) {
-        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(page.mode))), this);
-        connect(shortcut, &QShortcut::activated, this, [this, mode = page.mode] {
-            if (m_state.mode() != mode)
-                enter(mode);
-        });
-    }
 }
 
 RowListView &ContentView::list() const
@@ -181,18 +159,16 @@ void ContentView::enter(PanelMode mode)
         list().setFocus();
 }
 
-void ContentView::toggle(PanelMode mode)
-{
-    enter(m_state.mode() == mode ? PanelMode::Timeline : mode);
-}
-
 void ContentView::modeDidChange()
 {
     const PanelMode mode = m_state.mode();
-    m_title->setText(title(mode));
-    for (const ModeButton &each : m_modeButtons) {
-        each.button->setChecked(each.mode == mode);
-        each.button->setHelp(each.mode == mode ? L10n::text("返回时间线") : title(each.mode));
+    const Page &current = m_pages[qsizetype(mode)];
+    m_title->setText(current.title);
+    for (const Page &page : std::as_const(m_pages)) {
+        if (page.button) {
+            page.button->setChecked(&page == &current);
+            page.button->setHelp(&page == &current ? L10n::text("返回时间线") : page.title);
+        }
     }
     m_stack->setCurrentIndex(int(mode));
     m_composer->setVisible(hasComposer(mode));
@@ -206,8 +182,7 @@ void ContentView::selectTag(const QString &tag)
     m_state.setDraft(u'#' + tag);
     m_state.setEditingID({});
     m_state.setQuoting({});
-    m_state.setMode(PanelMode::Timeline);
-    QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
+    enter(PanelMode::Timeline);
 }
 
 bool ContentView::isComposing() const
@@ -225,7 +200,7 @@ bool ContentView::escape()
     else if (list().hasFocus() && m_composer->isVisible())
         m_composer->setFocus();
     else if (!m_state.draft().isEmpty() && m_composer->isVisible())
-        m_state.clearComposer();
+        m_state.setDraft({});
     else
         return false;
     return true;
@@ -235,26 +210,8 @@ bool ContentView::escape()
 
 void ContentView::timeDidPass()
 {
-    // The other lists are brought up to date when they are shown.
-    switch (m_state.mode()) {
-    case PanelMode::Timeline:
-        m_timelineModel->timeDidPass();
-        break;
-    case PanelMode::Reminders:
-        m_reminderModel->timeDidPass();
-        break;
-    case PanelMode::Trash:
-        m_trashModel->refresh();
-        break;
-    case PanelMode::Tags:
-        break;
-    }
+    list().model().timeDidPass(); // the other lists are brought up to date when they are shown
     m_composer->timeDidPass();
-    waitForNextMinute();
-}
-
-void ContentView::waitForNextMinute()
-{
     using namespace std::chrono;
     const auto sinceMinute = m_clock.now().time_since_epoch() % minutes(1);
     m_nextMinute.start(duration_cast<milliseconds>(minutes(1) - sinceMinute));

@@ -10,18 +10,14 @@ class CapsuleButton;
 class Clock;
 class ComposerView;
 class DateDetecting;
-class NoteListView;
 class NoteSearch;
 class NoteStore;
 class PageTitleFetching;
 class QLabel;
 class QStackedLayout;
-class ReminderModel;
 class ReminderStore;
 class RowListView;
 class TagListView;
-class TimelineModel;
-class TrashModel;
 
 /// The content of the panel: the top bar, the list of the current mode, and the composer or what takes its
 /// place below. Owns the panel's working state.
@@ -44,40 +40,28 @@ protected:
 
 private:
     struct Page {
-        PanelMode mode;
-        QWidget *widget = nullptr; ///< between top bar and composer: the list, perhaps with more around it
+        QString title;
+        BarButton *button = nullptr; ///< leads there and back; the timeline has none
         RowListView *list = nullptr;
-    };
-    struct ModeButton {
-        PanelMode mode;
-        BarButton *button = nullptr;
     };
 
     void addModeButton(QLayout &bar, PanelMode mode, const QString &symbol);
-    void addPage(const Page &page);
+    void addList(PanelMode mode, RowListView &list, QWidget &page);
     void addReminders();
     void addTrash();
-    void addShortcuts();
     [[nodiscard]] RowListView &list() const; ///< of the current mode
     void enter(PanelMode mode);
-    void toggle(PanelMode mode);
     void modeDidChange();
     void selectTag(const QString &tag);
     void timeDidPass();
-    void waitForNextMinute();
 
     PanelState m_state;
     NoteStore &m_notes;
     ReminderStore &m_reminders;
     const Clock &m_clock;
-    TimelineModel *m_timelineModel = nullptr;
-    NoteListView *m_timeline = nullptr;
     ComposerView *m_composer = nullptr;
     TagListView *m_tags = nullptr;
-    ReminderModel *m_reminderModel = nullptr;
-    TrashModel *m_trashModel = nullptr;
     QLabel *m_title = nullptr;
-    QList<ModeButton> m_modeButtons; ///< the timeline has none
     QStackedLayout *m_stack = nullptr;
     QList<Page> m_pages; ///< in the order of the modes
     CapsuleButton *m_emptyTrash = nullptr;

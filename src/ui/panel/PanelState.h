@@ -1,13 +1,15 @@
 #pragma once
 
 #include "model/Note.h"
-#include "ui/panel/PanelMode.h"
 
 #include <QObject>
 #include <QString>
 #include <QUuid>
 
 #include <optional>
+
+/// Which list the panel shows.
+enum class PanelMode { Timeline, Tags, Reminders, Trash };
 
 /// The panel's working state, shared by composer and timeline. Functions change it or ask for something,
 /// signals announce what happened.
@@ -36,10 +38,16 @@ public:
         set(m_jumpTargetID, id, &PanelState::jumpTargetIDChanged);
     }
 
-    void clearComposer() { setDraft({}); }
-    void focusComposer();        ///< with the caret behind the text
-    void openNote(QUuid noteID); ///< in the timeline; the draft stays
-    void panelDidToggle();       ///< to be called after the panel was opened or closed on request
+    /// With the caret behind the text.
+    void focusComposer() { Q_EMIT composerFocusRequested(); }
+    /// In the timeline; the draft stays.
+    void openNote(QUuid noteID)
+    {
+        setMode(PanelMode::Timeline);
+        setJumpTargetID(noteID);
+    }
+    /// To be called after the panel was opened or closed on request.
+    void panelDidToggle() { Q_EMIT panelToggled(); }
 
 Q_SIGNALS:
     void draftChanged();
