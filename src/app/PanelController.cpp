@@ -15,15 +15,15 @@
 #include <algorithm>
 
 namespace {
-FloatingFrame::Backdrop currentBackdrop()
+FloatingWindow::Backdrop currentBackdrop()
 {
     switch (Compositor::kind()) {
     case Compositor::Kind::None:
-        return FloatingFrame::Backdrop::None;
+        return FloatingWindow::Backdrop::None;
     case Compositor::Kind::Plain:
-        return FloatingFrame::Backdrop::Sharp;
+        return FloatingWindow::Backdrop::Sharp;
     case Compositor::Kind::Blurring:
-        return FloatingFrame::Backdrop::Blurred;
+        return FloatingWindow::Backdrop::Blurred;
     }
     Q_UNREACHABLE();
 }
@@ -53,8 +53,8 @@ void PanelController::prepare()
 
 void PanelController::makeWindow()
 {
-    const FloatingFrame::Backdrop backdrop = currentBackdrop();
-    if (m_window && m_window->frame().backdrop() == backdrop)
+    const FloatingWindow::Backdrop backdrop = currentBackdrop();
+    if (m_window && m_window->backdrop() == backdrop)
         return;
     if (m_window)
         m_window->releaseContent();
@@ -69,8 +69,8 @@ void PanelController::makeWindow()
         m_content->state().panelDidToggle();
     });
     m_window->winId(); // creates the native window
-    if (backdrop == FloatingFrame::Backdrop::Blurred)
-        X11::blurBehind(*m_window->windowHandle(), m_window->frame().outline(m_window->devicePixelRatioF()));
+    if (backdrop == FloatingWindow::Backdrop::Blurred)
+        X11::blurBehind(*m_window->windowHandle(), m_window->outline(m_window->devicePixelRatioF()));
     m_window->grab(); // does what the first painting needs: fonts, layouts, symbols
 }
 
@@ -143,10 +143,10 @@ void PanelController::moveToIcon()
     }
     // Next to the icon, within the space that panels and docks leave free; in the corner if the icon is
     // unknown.
-    const int margin = Design::panelMargin - m_window->frame().margin();
+    const int margin = Design::panelMargin - m_window->margin();
     const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
     const QRect icon = m_iconRect();
-    QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->frame().margin()));
+    QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->margin()));
     const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
     m_position = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),

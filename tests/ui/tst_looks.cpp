@@ -1,6 +1,6 @@
 // The panel can be read on the screen and by a screen reader.
 #include "ui/TestPanel.h"
-#include "ui/looks/FloatingFrame.h"
+#include "ui/looks/FloatingWindow.h"
 #include "ui/looks/NoteStyle.h"
 
 #include <QAccessible>
@@ -48,10 +48,10 @@ private Q_SLOTS:
         const Design::Tint texts[] = {Design::text, Design::metaText};
         const Design::Tint highlights[] = {
             Design::numberText, Design::tagText, Design::matchText, Design::destructiveText};
-        using Backdrop = FloatingFrame::Backdrop;
+        using Backdrop = FloatingWindow::Backdrop;
         // At worst all that shines through is black, or white.
         const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {
-            const QColor ground = FloatingFrame::ground(palette, backdrop);
+            const QColor ground = FloatingWindow::ground(palette, backdrop);
             const auto mixed = [&](float part) {
                 return part * ground.alphaF() + behind * (1 - ground.alphaF());
             };

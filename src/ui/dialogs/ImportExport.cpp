@@ -38,7 +38,7 @@ void ImportExport::exportNotes(const NoteStore &store, const Clock &clock)
     const Outcome written =
         AtomicFile::replace({{targetPath(*target), [&content](const ByteSink &sink) { sink(content); }}});
     if (!written)
-        ModalQuestion::inform(nullptr, L10n::text("导出失败"), written.message());
+        ModalQuestion::inform(L10n::text("导出失败"), written.message());
 }
 
 void ImportExport::importNotes(NoteStore &store, const Clock &clock)
@@ -46,23 +46,19 @@ void ImportExport::importNotes(NoteStore &store, const Clock &clock)
     const auto path = FileDialogs::askForSource(L10n::text("导入笔记"));
     if (!path)
         return;
-    const auto notesIn = [&clock](const QString &file) -> Result<QList<Note>> {
-        const auto bytes = AtomicFile::read(file);
-        if (!bytes || !bytes.value())
-            return Failure{QStringLiteral("unreadable")};
-        return NoteFileCodec::decode(*bytes.value(), clock.now(), clock.calendar());
-    };
-    const Result<QList<Note>> decoded = notesIn(*path);
+    const auto bytes = AtomicFile::read(*path);
+    const QByteArray content = bytes && bytes.value() ? *bytes.value() : QByteArray();
+    const auto decoded = NoteFileCodec::decode(content, clock.now(), clock.calendar());
     if (!decoded) {
-        ModalQuestion::inform(nullptr, L10n::text("导入失败"),
+        ModalQuestion::inform(L10n::text("导入失败"),
             L10n::text("无法识别的文件格式，请选择 Quillet 导出的 JSON 或 Markdown 文件。"));
         return;
     }
     const qsizetype added = store.importNotes(decoded.value());
     if (added == 0) {
-        ModalQuestion::inform(nullptr, L10n::text("没有可导入的笔记"), L10n::text("文件中的笔记均已存在。"));
+        ModalQuestion::inform(L10n::text("没有可导入的笔记"), L10n::text("文件中的笔记均已存在。"));
     } else {
-        ModalQuestion::inform(nullptr, L10n::text("导入完成"),
-            L10n::text("已导入 %@ 条笔记。", QStringList{QString::number(added)}));
+        ModalQuestion::inform(
+            L10n::text("导入完成"), L10n::text("已导入 %@ 条笔记。", QStringList{QString::number(added)}));
     }
 }

@@ -55,12 +55,12 @@ bool ModalQuestion::confirm(
     return box.clickedButton() == destructive;
 }
 
-void ModalQuestion::inform(QWidget *parent, const QString &title, const QString &message)
+void ModalQuestion::inform(const QString &title, const QString &message)
 {
     s_lastMessage = {title, message};
     if (std::exchange(s_nextAnswer, std::nullopt))
         return;
-    QMessageBox box(parent);
+    QMessageBox box;
     prepare(box, title, message);
     box.setIcon(QMessageBox::Information);
     box.addButton(L10n::text("好"), QMessageBox::AcceptRole);

@@ -9,7 +9,7 @@ namespace ModalQuestion {
 /// A warning with a button for a destructive action and one to cancel; true if the action was chosen.
 [[nodiscard]] bool confirm(
     QWidget *parent, const QString &title, const QString &message, const QString &confirmTitle);
-void inform(QWidget *parent, const QString &title, const QString &message);
+void inform(const QString &title, const QString &message);
 
 struct Message {
     QString title;

@@ -44,10 +44,10 @@ private:
 };
 
 /// A popover over a translucent window is translucent too.
-FloatingFrame::Backdrop backdropOf(const QWidget &parent)
+FloatingWindow::Backdrop backdropOf(const QWidget &parent)
 {
-    return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingFrame::Backdrop::Sharp
-                                                                        : FloatingFrame::Backdrop::None;
+    return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingWindow::Backdrop::Sharp
+                                                                        : FloatingWindow::Backdrop::None;
 }
 
 QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
@@ -65,17 +65,17 @@ QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidg
 } // namespace
 
 RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget *parent)
-    : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
-    , m_frame(*this, backdropOf(*parent), {Design::popoverRadius, Design::popoverShadow, true})
+    : FloatingWindow(Qt::Popup | Qt::NoDropShadowWindowHint, backdropOf(*parent),
+        {Design::popoverRadius, Design::popoverShadow, true}, parent)
 {
     setObjectName(QStringLiteral("relatedNotes"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(L10n::text("相关笔记"));
-    setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * m_frame.margin());
+    setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * margin());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(
-        QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + m_frame.margin());
+        QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + margin());
     layout->setSpacing(0);
     layout->addWidget(label(
         L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette(), Design::text), this));
@@ -97,22 +97,9 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
 void RelatedNotesView::popUp(const QRect &anchor)
 {
     adjustSize();
-    const int margin = m_frame.margin();
-    const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin);
-    const bool fitsBelow = anchor.bottom() + 1 - margin + height() <= available.bottom();
-    move(std::clamp(anchor.left() + Design::edge - margin, available.left(), available.right() - width()),
-        fitsBelow ? anchor.bottom() + 1 - margin : anchor.top() - height() + margin);
+    const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin());
+    const bool fitsBelow = anchor.bottom() + 1 - margin() + height() <= available.bottom();
+    move(std::clamp(anchor.left() + Design::edge - margin(), available.left(), available.right() - width()),
+        fitsBelow ? anchor.bottom() + 1 - margin() : anchor.top() - height() + margin());
     show();
-}
-
-void RelatedNotesView::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    m_frame.windowDidResize();
-}
-
-void RelatedNotesView::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    m_frame.paint(painter);
 }

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "ui/looks/FloatingFrame.h"
+#include "ui/looks/FloatingWindow.h"
 
 #include <QUuid>
-#include <QWidget>
 
 class NoteSearch;
 struct Note;
 
 /// A popover with a button for each note related to one. It deletes itself when it closes.
-class RelatedNotesView final : public QWidget
+class RelatedNotesView final : public FloatingWindow
 {
     Q_OBJECT
 
@@ -21,11 +20,4 @@ public:
 
 Q_SIGNALS:
     void selected(QUuid noteID);
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-
-private:
-    FloatingFrame m_frame;
 };

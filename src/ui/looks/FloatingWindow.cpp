@@ -1,4 +1,4 @@
-#include "ui/looks/FloatingFrame.h"
+#include "ui/looks/FloatingWindow.h"
 
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
@@ -8,9 +8,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
-#include <QWidget>
 
-QColor FloatingFrame::ground(const QPalette &palette, Backdrop backdrop)
+QColor FloatingWindow::ground(const QPalette &palette, Backdrop backdrop)
 {
     QColor color = NoteStyle::color(palette, Design::ground);
     switch (backdrop) {
@@ -27,28 +26,27 @@ QColor FloatingFrame::ground(const QPalette &palette, Backdrop backdrop)
     return color;
 }
 
-FloatingFrame::FloatingFrame(QWidget &window, Backdrop backdrop, Shape shape)
-    : m_window(window)
+FloatingWindow::FloatingWindow(Qt::WindowFlags flags, Backdrop backdrop, Shape shape, QWidget *parent)
+    : QWidget(parent, flags | Qt::FramelessWindowHint)
     , m_backdrop(backdrop)
     , m_shape(shape)
 {
-    window.setAttribute(
-        m_backdrop == Backdrop::None ? Qt::WA_OpaquePaintEvent : Qt::WA_TranslucentBackground);
+    setAttribute(m_backdrop == Backdrop::None ? Qt::WA_OpaquePaintEvent : Qt::WA_TranslucentBackground);
 }
 
-int FloatingFrame::margin() const
+int FloatingWindow::margin() const
 {
     return m_backdrop == Backdrop::None ? 0 : m_shape.shadow;
 }
 
-QRect FloatingFrame::inside() const
+QRect FloatingWindow::inside() const
 {
-    return m_window.rect().marginsRemoved(QMargins() + margin());
+    return rect().marginsRemoved(QMargins() + margin());
 }
 
-QRegion FloatingFrame::outline(qreal devicePixelRatio) const
+QRegion FloatingWindow::outline(qreal devicePixelRatio) const
 {
-    QBitmap shape(m_window.size() * devicePixelRatio);
+    QBitmap shape(size() * devicePixelRatio);
     shape.fill(Qt::color0);
     QPainter painter(&shape);
     painter.scale(devicePixelRatio, devicePixelRatio);
@@ -59,19 +57,20 @@ QRegion FloatingFrame::outline(qreal devicePixelRatio) const
     return QRegion(shape);
 }
 
-void FloatingFrame::windowDidResize()
+void FloatingWindow::resizeEvent(QResizeEvent *event)
 {
+    QWidget::resizeEvent(event);
     if (m_backdrop == Backdrop::None)
-        m_window.setMask(outline(1));
+        setMask(outline(1));
 }
 
-void FloatingFrame::paintShadow(QPainter &painter) const
+void FloatingWindow::paintShadow(QPainter &painter) const
 {
     // Soft at its edge, and offset downwards as if lit from above.
     constexpr int lower = 3;
     constexpr qreal darkest = 0.10;
     QPainterPath around;
-    around.addRect(m_window.rect());
+    around.addRect(rect());
     QPainterPath within;
     within.addRoundedRect(inside(), m_shape.radius, m_shape.radius);
     painter.save();
@@ -87,16 +86,16 @@ void FloatingFrame::paintShadow(QPainter &painter) const
     painter.restore();
 }
 
-void FloatingFrame::paint(QPainter &painter)
+void FloatingWindow::paintEvent(QPaintEvent *)
 {
-    const QPalette palette = m_window.palette();
+    QPainter painter(this);
     const bool isOpaque = m_backdrop == Backdrop::None;
-    const QColor color = ground(palette, m_shape.isSolid ? Backdrop::None : m_backdrop);
-    m_image.paint(painter, m_window, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &image) {
+    const QColor color = ground(palette(), m_shape.isSolid ? Backdrop::None : m_backdrop);
+    m_image.paint(painter, *this, isOpaque ? color : QColor(Qt::transparent), [&](QPainter &image) {
         if (!isOpaque)
             paintShadow(image);
         image.setBrush(isOpaque ? Qt::NoBrush : QBrush(color));
-        image.setPen(NoteStyle::color(palette, Design::hairline));
+        image.setPen(NoteStyle::color(palette(), Design::hairline));
         image.drawRoundedRect(
             QRectF(inside()).adjusted(0.5, 0.5, -0.5, -0.5), m_shape.radius, m_shape.radius);
     });

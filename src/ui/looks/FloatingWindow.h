@@ -2,18 +2,14 @@
 
 #include "ui/looks/CachedImage.h"
 
-#include <QRect>
+#include <QWidget>
 
-class QColor;
-class QPainter;
-class QPalette;
-class QRegion;
-class QWidget;
-
-/// The frame of a floating window: rounded corners and a hairline; with a compositor also a shadow and a
-/// slightly translucent ground. Without one the window is masked to its shape.
-class FloatingFrame final
+/// A window without the desktop's frame: rounded corners and a hairline; with a compositor also a shadow and
+/// a slightly translucent ground. Without one the window is masked to its shape.
+class FloatingWindow : public QWidget
 {
+    Q_OBJECT
+
 public:
     /// What the desktop shows through a translucent window.
     enum class Backdrop { None, Sharp, Blurred };
@@ -27,22 +23,21 @@ public:
         bool isSolid = false; ///< with an opaque ground
     };
 
-    /// Sets the window's attributes; to be created before the window is shown.
-    FloatingFrame(QWidget &window, Backdrop backdrop, Shape shape);
+    FloatingWindow(Qt::WindowFlags flags, Backdrop backdrop, Shape shape, QWidget *parent = nullptr);
 
     [[nodiscard]] Backdrop backdrop() const { return m_backdrop; }
-    [[nodiscard]] int margin() const; ///< from the window's edge to the frame's: room for the shadow
-    [[nodiscard]] QRect inside() const;
+    [[nodiscard]] int margin() const; ///< from the window's edge to what is seen of it: room for the shadow
     /// The area within the rounded corners, in device pixels.
     [[nodiscard]] QRegion outline(qreal devicePixelRatio) const;
 
-    void windowDidResize();
-    void paint(QPainter &painter);
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] QRect inside() const; ///< the margin
     void paintShadow(QPainter &painter) const;
 
-    QWidget &m_window;
     Backdrop m_backdrop;
     Shape m_shape;
     CachedImage m_image;

@@ -6,22 +6,21 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMargins>
-#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
-PanelWindow::PanelWindow(ContentView *content, FloatingFrame::Backdrop backdrop)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+PanelWindow::PanelWindow(ContentView *content, Backdrop backdrop)
+    : FloatingWindow(
+        Qt::Tool | Qt::WindowStaysOnTopHint, backdrop, {Design::panelRadius, Design::shadowMargin})
     , m_content(content)
-    , m_frame(*this, backdrop, {Design::panelRadius, Design::shadowMargin})
 {
     setWindowTitle(QStringLiteral("Quillet"));
     setObjectName(QStringLiteral("panel"));
-    setFixedSize(Design::panelSize.grownBy(QMargins() + m_frame.margin()));
+    setFixedSize(Design::panelSize.grownBy(QMargins() + margin()));
     setFocusProxy(m_content);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(QMargins() + m_frame.margin());
+    layout->setContentsMargins(QMargins() + margin());
     layout->addWidget(m_content);
     qApp->installEventFilter(this);
 
@@ -34,7 +33,7 @@ bool PanelWindow::event(QEvent *event)
     // A dialog was closed. Many desktops do not give the focus back to a window that is in no taskbar.
     if (event->type() == QEvent::WindowUnblocked && isVisible())
         activateWindow();
-    return QWidget::event(event);
+    return FloatingWindow::event(event);
 }
 
 bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
@@ -51,7 +50,7 @@ bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
 
 void PanelWindow::changeEvent(QEvent *event)
 {
-    QWidget::changeEvent(event);
+    FloatingWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange)
         return;
     // A key grab takes the focus briefly and gives it back.
@@ -79,7 +78,7 @@ void PanelWindow::expectFocusAgain()
 
 void PanelWindow::hideEvent(QHideEvent *event)
 {
-    QWidget::hideEvent(event);
+    FloatingWindow::hideEvent(event);
     m_focusCheck.stop(); // or it would close the panel if it is opened again at once
 }
 
@@ -94,16 +93,4 @@ void PanelWindow::releaseContent()
 {
     layout()->removeWidget(m_content);
     m_content->setParent(nullptr);
-}
-
-void PanelWindow::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    m_frame.windowDidResize();
-}
-
-void PanelWindow::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    m_frame.paint(painter);
 }

@@ -1,23 +1,20 @@
 #pragma once
 
-#include "ui/looks/FloatingFrame.h"
+#include "ui/looks/FloatingWindow.h"
 
 #include <QDeadlineTimer>
 #include <QTimer>
-#include <QWidget>
 
 class ContentView;
 
-/// The floating window around the panel's content: its frame, Escape, and the loss of the focus.
-class PanelWindow final : public QWidget
+/// The floating window around the panel's content: Escape, and the loss of the focus.
+class PanelWindow final : public FloatingWindow
 {
     Q_OBJECT
 
 public:
     /// Takes ownership of @p content.
-    explicit PanelWindow(
-        ContentView *content, FloatingFrame::Backdrop backdrop = FloatingFrame::Backdrop::None);
-    [[nodiscard]] const FloatingFrame &frame() const { return m_frame; }
+    explicit PanelWindow(ContentView *content, Backdrop backdrop = Backdrop::None);
     /// Gives up ownership of the content, for another window.
     void releaseContent();
     /// To be called when the window is shown again right after it was closed. Qt then still believes that it
@@ -33,8 +30,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void checkFocus();
@@ -42,5 +37,4 @@ private:
     ContentView *m_content = nullptr;
     QTimer m_focusCheck;
     QDeadlineTimer m_reopening; ///< until the window manager must have given the focus
-    FloatingFrame m_frame;
 };
