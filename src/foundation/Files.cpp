@@ -9,20 +9,21 @@
 #include <cstring>
 
 namespace {
-Failure systemFailure(const char *what, const QString &path, int error = errno)
+QString folderOf(const QString &path)
 {
-    return {QStringLiteral("cannot %1 %2: %3")
-                .arg(QLatin1String(what), path, QString::fromLocal8Bit(std::strerror(error))),
-        error};
+    return path.first(std::max<qsizetype>(1, path.lastIndexOf(u'/')));
 }
+} // namespace
 
 /// An open file or folder, closed at the end of its scope.
-class Descriptor
+class Files::Descriptor
 {
 public:
-    Descriptor(FileCalls &calls, const QString &path, int flags)
-        : m_calls(calls)
-        , m_fd(calls.open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, S_IRUSR | S_IWUSR))
+    Descriptor(Files &files, const char *what, const QString &path, int flags,
+        std::initializer_list<int> expected = {})
+        : m_calls(files.m_calls)
+        , m_fd(int(files.attempt(what, path, expected,
+              [&](const char *name) { return m_calls.open(name, flags | O_CLOEXEC, S_IRUSR | S_IWUSR); })))
     {
     }
     ~Descriptor()
@@ -30,8 +31,7 @@ public:
         if (isOpen())
             m_calls.close(m_fd); // after an fsync it has nothing more to report
     }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
+    Q_DISABLE_COPY(Descriptor)
 
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
     [[nodiscard]] int fd() const { return m_fd; }
@@ -41,128 +41,122 @@ private:
     const int m_fd;
 };
 
-QString folderOf(const QString &path)
+ssize_t Files::attempt(const char *what, const QString &path, std::initializer_list<int> expected,
+    const std::function<ssize_t(const char *path)> &call)
 {
-    return path.first(std::max<qsizetype>(1, path.lastIndexOf(u'/')));
+    if (!m_outcome)
+        return -ECANCELED;
+    const QByteArray name = QFile::encodeName(path);
+    ssize_t result = 0;
+    do
+        result = call(name.constData());
+    while (result < 0 && errno == EINTR);
+    if (result >= 0)
+        return result;
+    const int error = errno;
+    if (std::find(expected.begin(), expected.end(), error) == expected.end())
+        fail(what, path, error);
+    return -error;
 }
 
-bool isMissing(int error)
+void Files::fail(const char *what, const QString &path, int error)
 {
-    return error == ENOENT || error == ENOTDIR;
+    m_outcome = Failure{QStringLiteral("cannot %1 %2: %3")
+                            .arg(QLatin1String(what), path, QString::fromLocal8Bit(std::strerror(error))),
+        error};
 }
-} // namespace
 
-Result<QString> Files::behindLinks(const QString &path) const
+QString Files::behindLinks(const QString &path)
 {
     // ".." stays: it refers to the folder behind a link.
     QString current = QDir::current().absoluteFilePath(path);
     for (int links = 0; links < 40; ++links) { // as many as the kernel follows
         QByteArray target(PATH_MAX, Qt::Uninitialized);
-        const ssize_t length =
-            m_calls.readlink(QFile::encodeName(current).constData(), target.data(), size_t(target.size()));
-        if (length < 0 && (errno == EINVAL || isMissing(errno))) // no link
+        const ssize_t length = attempt("examine", current, {EINVAL, ENOENT, ENOTDIR},
+            [&](const char *name) { return m_calls.readlink(name, target.data(), size_t(target.size())); });
+        if (length < 0) // no link
             return current;
-        if (length < 0)
-            return systemFailure("examine", current);
         target.truncate(length);
         current = QDir(folderOf(current)).absoluteFilePath(QFile::decodeName(target));
     }
-    return systemFailure("examine", current, ELOOP);
+    fail("examine", current, ELOOP);
+    return {};
 }
 
-Result<bool> Files::exists(const QString &path) const
+bool Files::exists(const QString &path)
 {
     char target = 0;
-    if (m_calls.readlink(QFile::encodeName(path).constData(), &target, 1) >= 0 || errno == EINVAL)
-        return true;
-    if (isMissing(errno))
-        return false;
-    return systemFailure("examine", path);
+    const ssize_t found = attempt("examine", path, {EINVAL, ENOENT, ENOTDIR},
+        [&](const char *name) { return m_calls.readlink(name, &target, 1); });
+    return found >= 0 || found == -EINVAL; // no link, but a file
 }
 
-Result<bool> Files::isFolder(const QString &path) const
+bool Files::isFolder(const QString &path)
 {
-    const Descriptor folder(m_calls, path, O_PATH | O_DIRECTORY);
-    if (folder.isOpen() || isMissing(errno))
-        return folder.isOpen();
-    return systemFailure("examine", path);
+    return Descriptor(*this, "examine", path, O_PATH | O_DIRECTORY, {ENOENT, ENOTDIR}).isOpen();
 }
 
-Result<std::optional<QByteArray>> Files::read(const QString &path) const
+std::optional<QByteArray> Files::read(const QString &path)
 {
-    const Descriptor file(m_calls, path, O_RDONLY);
-    if (!file.isOpen() && isMissing(errno))
-        return std::optional<QByteArray>();
+    const Descriptor file(*this, "read", path, O_RDONLY, {ENOENT, ENOTDIR});
     if (!file.isOpen())
-        return systemFailure("read", path);
+        return std::nullopt;
     QByteArray bytes(1 << 16, Qt::Uninitialized);
     qsizetype size = 0;
     for (;;) {
         if (size == bytes.size())
             bytes.resize(2 * size);
-        const ssize_t count = m_calls.read(file.fd(), bytes.data() + size, size_t(bytes.size() - size));
-        if (count < 0 && errno != EINTR)
-            return systemFailure("read", path);
-        if (count == 0)
+        const ssize_t count = attempt("read", path, {}, [&](const char *) {
+            return m_calls.read(file.fd(), bytes.data() + size, size_t(bytes.size() - size));
+        });
+        if (count <= 0)
             break;
-        size += std::max<ssize_t>(count, 0);
+        size += count;
     }
     bytes.truncate(size);
-    return std::optional(std::move(bytes));
+    return bytes;
 }
 
-Outcome Files::write(const QString &path, const ByteSource &source) const
+void Files::write(const QString &path, const ByteSource &source)
 {
-    const Descriptor file(m_calls, path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
-    if (!file.isOpen())
-        return systemFailure("write", path);
-    Outcome written = Done{};
+    const Descriptor file(*this, "write", path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
     source([&](QByteArrayView rest) {
-        while (written && !rest.isEmpty()) {
-            const ssize_t count = m_calls.write(file.fd(), rest.data(), size_t(rest.size()));
-            if (count < 0 && errno != EINTR)
-                written = systemFailure("write", path);
+        while (m_outcome && !rest.isEmpty()) {
+            const ssize_t count = attempt("write", path, {},
+                [&](const char *) { return m_calls.write(file.fd(), rest.data(), size_t(rest.size())); });
             rest = rest.sliced(std::max<ssize_t>(count, 0));
         }
     });
-    if (written && m_calls.fsync(file.fd()) != 0)
-        written = systemFailure("write", path);
-    return written;
+    attempt("write", path, {}, [&](const char *) { return m_calls.fsync(file.fd()); });
 }
 
-Outcome Files::rename(const QString &from, const QString &to) const
+void Files::rename(const QString &from, const QString &to)
 {
-    if (m_calls.rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
-        return systemFailure("replace", to);
-    return Done{};
+    attempt("replace", to, {ENOENT},
+        [&](const char *name) { return m_calls.rename(QFile::encodeName(from).constData(), name); });
 }
 
-Outcome Files::remove(const QString &path) const
+void Files::remove(const QString &path)
 {
-    if (m_calls.remove(QFile::encodeName(path).constData()) != 0 && errno != ENOENT)
-        return systemFailure("remove", path);
-    return Done{};
+    attempt("remove", path, {ENOENT}, [&](const char *name) { return m_calls.remove(name); });
 }
 
-Outcome Files::makeFolder(const QString &path) const
+void Files::makeFolder(const QString &path)
 {
-    if (m_calls.mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0) {
-        Failure failure = systemFailure("create", path);
-        const auto madeByAnotherProcess = isFolder(path);
-        if (!madeByAnotherProcess || !madeByAnotherProcess.value())
-            return failure;
-    }
-    Outcome synced = syncFolderOf(path);
-    if (!synced) // so that the next attempt syncs again
-        (void)remove(path);
-    return synced;
+    const ssize_t made =
+        attempt("create", path, {EEXIST}, [&](const char *name) { return m_calls.mkdir(name, S_IRWXU); });
+    if (made == -EEXIST && !isFolder(path)) // else another process has made it
+        fail("create", path, EEXIST);
+    if (!m_outcome)
+        return;
+    syncFolderOf(path);
+    if (!m_outcome) // so that the next attempt syncs again
+        m_calls.remove(QFile::encodeName(path).constData());
 }
 
-Outcome Files::syncFolderOf(const QString &path) const
+void Files::syncFolderOf(const QString &path)
 {
-    const Descriptor folder(m_calls, folderOf(path), O_RDONLY | O_DIRECTORY);
+    const Descriptor folder(*this, "sync", folderOf(path), O_RDONLY | O_DIRECTORY);
     // Some file systems cannot sync a folder and return EINVAL.
-    if (!folder.isOpen() || (m_calls.fsync(folder.fd()) != 0 && errno != EINVAL))
-        return systemFailure("sync", folderOf(path));
-    return Done{};
+    attempt("sync", folderOf(path), {EINVAL}, [&](const char *) { return m_calls.fsync(folder.fd()); });
 }

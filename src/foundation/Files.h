@@ -6,9 +6,12 @@
 
 #include <QByteArray>
 
+#include <functional>
+#include <initializer_list>
 #include <optional>
 
-/// System calls on files, each repeated until it is complete. A failure names the path and keeps the errno.
+/// A sequence of steps on files. After the first failure the others do nothing and what they return is
+/// meaningless: ask for the outcome at the end.
 class Files
 {
 public:
@@ -17,21 +20,33 @@ public:
     {
     }
 
-    /// The absolute path with symbolic links in its last component followed; the file need not exist.
-    [[nodiscard]] Result<QString> behindLinks(const QString &path) const;
-    [[nodiscard]] Result<bool> exists(const QString &path) const; ///< a symbolic link exists by itself
-    [[nodiscard]] Result<bool> isFolder(const QString &path) const;
+    /// The first failure, if there was one: names the path and keeps the errno.
+    [[nodiscard]] const Outcome &outcome() const { return m_outcome; }
 
-    [[nodiscard]] Result<std::optional<QByteArray>> read(const QString &path) const;
+    /// The absolute path with symbolic links in its last component followed; the file need not exist.
+    [[nodiscard]] QString behindLinks(const QString &path);
+    [[nodiscard]] bool exists(const QString &path); ///< a symbolic link exists by itself
+    [[nodiscard]] bool isFolder(const QString &path);
+
+    [[nodiscard]] std::optional<QByteArray> read(const QString &path);
     /// Writes and syncs a file that only its owner may read.
-    Outcome write(const QString &path, const ByteSource &source) const;
-    Outcome rename(const QString &from, const QString &to) const;
-    Outcome remove(const QString &path) const; ///< succeeds if there is none
+    void write(const QString &path, const ByteSource &source);
+    void rename(const QString &from, const QString &to); ///< does nothing if there is no such file
+    void remove(const QString &path);                    ///< the same
     /// The folder survives a power failure, or is not made.
-    Outcome makeFolder(const QString &path) const;
+    void makeFolder(const QString &path);
     /// Names that were changed in the folder of @p path then survive a power failure.
-    Outcome syncFolderOf(const QString &path) const;
+    void syncFolderOf(const QString &path);
 
 private:
+    class Descriptor;
+
+    /// Makes a system call, again if a signal interrupts it. Returns what the call returns, or -errno. An
+    /// errno that is not @p expected is a failure: "cannot <what> <path>".
+    ssize_t attempt(const char *what, const QString &path, std::initializer_list<int> expected,
+        const std::function<ssize_t(const char *path)> &call);
+    void fail(const char *what, const QString &path, int error);
+
     FileCalls &m_calls;
+    Outcome m_outcome = Done{};
 };
