@@ -2,9 +2,11 @@
 
 #include "foundation/TextRange.h"
 
+#include <QList>
 #include <QString>
 #include <QVarLengthArray>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,51 +32,19 @@ public:
         QVarLengthArray<TextRange, 6> m_groups;
     };
 
-    class Search;
-
-    /// Lazy, single-pass range over the non-overlapping matches from left to right. The text must outlive it.
-    class Matches
-    {
-    public:
-        explicit Matches(std::unique_ptr<Search> search);
-        ~Matches();
-
-        struct End {
-        };
-        class Iterator
-        {
-        public:
-            explicit Iterator(Search *search)
-                : m_search(search)
-            {
-                ++*this;
-            }
-            const Match &operator*() const;
-            Iterator &operator++();
-            bool operator==(End) const { return !m_search; }
-
-        private:
-            Search *m_search; ///< null after the last match
-        };
-        [[nodiscard]] Iterator begin() { return Iterator(m_search.get()); }
-        [[nodiscard]] End end() const { return {}; }
-
-    private:
-        std::unique_ptr<Search> m_search;
-    };
-
     explicit Regex(const QString &pattern, Case caseRule = Case::Sensitive);
-    ~Regex();
-    Regex(Regex &&) noexcept;
-    Regex &operator=(Regex &&) noexcept;
 
     [[nodiscard]] std::optional<Match> firstMatch(QStringView text) const;
-    [[nodiscard]] Matches allMatches(QStringView text) const;
+    /// From left to right, not overlapping.
+    [[nodiscard]] QList<Match> allMatches(QStringView text) const;
     /// The text with every match replaced by @p replacement, taken literally.
     [[nodiscard]] QString replaced(QStringView text, QStringView replacement) const;
     [[nodiscard]] bool matchesIn(QStringView text) const { return firstMatch(text).has_value(); }
 
 private:
     struct Compiled;
-    std::unique_ptr<const Compiled> m_compiled; ///< read-only, so searches may run on several threads
+    /// Goes on to the next match while @p visit returns true.
+    void visitMatches(QStringView text, const std::function<bool(const Match &)> &visit) const;
+
+    std::shared_ptr<const Compiled> m_compiled; ///< read-only, so searches may run on several threads
 };
