@@ -1,12 +1,22 @@
 #include "foundation/InternetDateTime.h"
 
 #include <algorithm>
+#include <cstring>
 
 using namespace std::chrono;
 
 namespace {
 constexpr Instant earliest{sys_days(year(0) / January / 1)};
 constexpr Instant latest{sys_days(year(9999) / December / 31) + hours(24) - milliseconds(1)};
+
+constexpr QByteArrayView utcForm("0000-00-00T00:00:00Z");
+
+/// Whether the text has a digit wherever @p form has a 0, and is equal to it elsewhere.
+bool hasForm(QByteArrayView text, QByteArrayView form)
+{
+    return std::equal(text.begin(), text.end(), form.begin(), form.end(),
+        [](char unit, char wanted) { return wanted == '0' ? unit >= '0' && unit <= '9' : unit == wanted; });
+}
 
 void writePair(char *out, unsigned value)
 {
@@ -22,19 +32,14 @@ void InternetDateTime::write(Instant instant, char *out)
     const year_month_day date(midnight);
     const hh_mm_ss time(wholeSeconds - midnight);
     const auto yearNumber = unsigned(int(date.year()));
+    std::memcpy(out, utcForm.data(), length);
     writePair(out, yearNumber / 100);
     writePair(out + 2, yearNumber % 100);
-    out[4] = '-';
     writePair(out + 5, unsigned(date.month()));
-    out[7] = '-';
     writePair(out + 8, unsigned(date.day()));
-    out[10] = 'T';
     writePair(out + 11, unsigned(time.hours().count()));
-    out[13] = ':';
     writePair(out + 14, unsigned(time.minutes().count()));
-    out[16] = ':';
     writePair(out + 17, unsigned(time.seconds().count()));
-    out[19] = 'Z';
 }
 
 QByteArray InternetDateTime::format(Instant instant)
@@ -44,78 +49,28 @@ QByteArray InternetDateTime::format(Instant instant)
     return text;
 }
 
-namespace {
-/// Reads fixed-width fields from the front of a text and remembers whether all of them were valid.
-class FieldReader
-{
-public:
-    explicit FieldReader(QByteArrayView text)
-        : m_rest(text)
-    {
-    }
-
-    int digits(int count)
-    {
-        int value = 0;
-        for (int i = 0; i < count; ++i) {
-            const char digit = next();
-            m_valid = m_valid && digit >= '0' && digit <= '9';
-            value = value * 10 + (digit - '0');
-        }
-        return m_valid ? value : 0;
-    }
-    void expect(char separator) { m_valid = (next() == separator) && m_valid; }
-    char next()
-    {
-        if (m_rest.isEmpty()) {
-            m_valid = false;
-            return '\0';
-        }
-        const char first = m_rest.front();
-        m_rest = m_rest.sliced(1);
-        return first;
-    }
-    [[nodiscard]] bool readAll() const { return m_valid && m_rest.isEmpty(); }
-
-private:
-    QByteArrayView m_rest;
-    bool m_valid = true;
-};
-} // namespace
-
 std::optional<Instant> InternetDateTime::parse(QByteArrayView text)
 {
-    FieldReader reader(text);
-    const int yearNumber = reader.digits(4);
-    reader.expect('-');
-    const int monthNumber = reader.digits(2);
-    reader.expect('-');
-    const int dayNumber = reader.digits(2);
-    reader.expect('T');
-    const int hour = reader.digits(2);
-    reader.expect(':');
-    const int minute = reader.digits(2);
-    reader.expect(':');
-    const int second = reader.digits(2);
-
-    const char zone = reader.next();
-    minutes offset{0};
-    if (zone == '+' || zone == '-') {
-        const int offsetHours = reader.digits(2);
-        reader.expect(':');
-        const int offsetMinutes = reader.digits(2);
-        if (offsetHours > 23 || offsetMinutes > 59)
-            return std::nullopt;
-        offset = hours(offsetHours) + minutes(offsetMinutes);
-        if (zone == '-')
-            offset = -offset;
-    } else if (zone != 'Z') {
+    const bool isEast = hasForm(text, "0000-00-00T00:00:00+00:00");
+    const bool isWest = hasForm(text, "0000-00-00T00:00:00-00:00");
+    if (!isEast && !isWest && !hasForm(text, utcForm))
         return std::nullopt;
-    }
-
-    const year_month_day date{year(yearNumber), month(unsigned(monthNumber)), day(unsigned(dayNumber))};
-    if (!reader.readAll() || !date.ok() || hour > 23 || minute > 59 || second > 59)
+    const auto number = [text](qsizetype start, qsizetype digits = 2) {
+        int value = 0;
+        for (const char digit : text.sliced(start, digits))
+            value = value * 10 + (digit - '0');
+        return value;
+    };
+    const year_month_day date{year(number(0, 4)), month(unsigned(number(5))), day(unsigned(number(8)))};
+    const int hour = number(11);
+    const int minute = number(14);
+    const int second = number(17);
+    const int offsetHours = isEast || isWest ? number(20) : 0;
+    const int offsetMinutes = isEast || isWest ? number(23) : 0;
+    if (!date.ok() || std::max(hour, offsetHours) > 23 || std::max({minute, second, offsetMinutes}) > 59)
         return std::nullopt;
-    const Instant instant = sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - offset;
+    const minutes east = hours(offsetHours) + minutes(offsetMinutes);
+    const Instant instant =
+        sys_days(date) + hours(hour) + minutes(minute) + seconds(second) - (isWest ? -east : east);
     return instant < earliest || instant > latest ? std::nullopt : std::optional(instant);
 }
