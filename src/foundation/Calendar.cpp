@@ -6,15 +6,13 @@
 using namespace std::chrono;
 
 struct Calendar::Zone {
-    std::unique_ptr<const icu::BasicTimeZone> icuZone;
-
-    static std::shared_ptr<const Zone> adopt(icu::TimeZone *zone)
+    // Every zone that ICU makes is a BasicTimeZone; the class only exists apart for binary compatibility.
+    explicit Zone(icu::TimeZone *made)
+        : icuZone(dynamic_cast<icu::BasicTimeZone *>(made))
     {
-        // Every zone that ICU makes is a BasicTimeZone; the class only exists apart for binary compatibility.
-        auto *basic = dynamic_cast<icu::BasicTimeZone *>(zone);
-        Q_ASSERT(basic);
-        return std::make_shared<Zone>(Zone{std::unique_ptr<const icu::BasicTimeZone>(basic)});
+        Q_ASSERT(icuZone);
     }
+    std::unique_ptr<const icu::BasicTimeZone> icuZone;
 };
 
 Calendar::Calendar(std::shared_ptr<const Zone> zone)
@@ -23,24 +21,22 @@ Calendar::Calendar(std::shared_ptr<const Zone> zone)
 }
 
 Calendar::Calendar(const QByteArray &timeZoneID)
-    : Calendar(
-        Zone::adopt(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(timeZoneID.toStdString()))))
+    : Calendar(std::make_shared<Zone>(
+        icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(timeZoneID.constData()))))
 {
 }
 
 Calendar Calendar::system()
 {
     // ICU's own default is read once per process; this follows the machine.
-    return Calendar(Zone::adopt(icu::TimeZone::detectHostTimeZone()));
+    return Calendar(std::make_shared<Zone>(icu::TimeZone::detectHostTimeZone()));
 }
 
 QByteArray Calendar::timeZoneID() const
 {
     icu::UnicodeString id;
     m_zone->icuZone->getID(id);
-    std::string utf8;
-    id.toUTF8String(utf8);
-    return QByteArray::fromStdString(utf8);
+    return QStringView(id.getBuffer(), id.length()).toUtf8();
 }
 
 milliseconds Calendar::offsetAt(Instant instant) const

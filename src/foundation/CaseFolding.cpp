@@ -7,11 +7,6 @@
 #include <vector>
 
 namespace {
-const char16_t *utf16(QStringView text)
-{
-    return reinterpret_cast<const char16_t *>(text.utf16());
-}
-
 /// A text's folded form and, for each of its UTF-16 units, the start in the text of the code point it comes
 /// from. Folding treats each code point separately, so the folded text is the concatenation of their forms.
 struct MappedFold {
@@ -22,7 +17,7 @@ struct MappedFold {
     {
         folded.reserve(text.size());
         origin.reserve(size_t(text.size()) + 1);
-        const char16_t *units = utf16(text);
+        const char16_t *units = text.utf16();
         for (qsizetype i = 0; i < text.size();) {
             const qsizetype start = i;
             U16_FWD_1(units, i, text.size());
@@ -50,7 +45,7 @@ QString CaseFolding::folded(QStringView text)
     QString result(text.size() * 3, Qt::Uninitialized);
     UErrorCode status = U_ZERO_ERROR;
     const int32_t length = u_strFoldCase(reinterpret_cast<char16_t *>(result.data()), int32_t(result.size()),
-        utf16(text), int32_t(text.size()), U_FOLD_CASE_DEFAULT, &status);
+        text.utf16(), int32_t(text.size()), U_FOLD_CASE_DEFAULT, &status);
     result.truncate(length);
     result.squeeze();
     return result;

@@ -10,12 +10,10 @@
 namespace {
 icu::BreakIterator &boundaries()
 {
-    static const std::unique_ptr<icu::BreakIterator> iterator = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        auto *made = icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status);
-        Q_ASSERT(U_SUCCESS(status));
-        return std::unique_ptr<icu::BreakIterator>(made);
-    }();
+    UErrorCode status = U_ZERO_ERROR;
+    static const std::unique_ptr<icu::BreakIterator> iterator(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    Q_ASSERT(U_SUCCESS(status));
     return *iterator;
 }
 } // namespace
@@ -25,8 +23,7 @@ TextRange Characters::at(QStringView text, qsizetype position)
     constexpr qsizetype maxLength = 256; // longer than any character in real text
     const qsizetype from = std::max<qsizetype>(0, position - maxLength);
     const QStringView window = text.sliced(from, std::min(text.size(), position + maxLength) - from);
-    const icu::UnicodeString source(
-        false, reinterpret_cast<const char16_t *>(window.utf16()), int32_t(window.size()));
+    const icu::UnicodeString source(false, window.utf16(), int32_t(window.size()));
     boundaries().setText(source);
     const int32_t end = boundaries().following(int32_t(position - from));
     return {from + boundaries().previous(), from + end};
@@ -34,8 +31,7 @@ TextRange Characters::at(QStringView text, qsizetype position)
 
 QList<TextRange> Characters::all(QStringView text)
 {
-    const icu::UnicodeString source(
-        false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()));
+    const icu::UnicodeString source(false, text.utf16(), int32_t(text.size()));
     boundaries().setText(source);
     QList<TextRange> ranges;
     int32_t start = boundaries().first();
@@ -48,10 +44,9 @@ QList<TextRange> Characters::all(QStringView text)
 
 bool Characters::areSingleCodePoints(QStringView text)
 {
-    const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
     for (qsizetype i = 0; i < text.size();) {
         UChar32 codePoint = 0;
-        U16_NEXT(units, i, text.size(), codePoint);
+        U16_NEXT(text.utf16(), i, text.size(), codePoint);
         if (codePoint < 0x300 && codePoint != 0xAD && codePoint != u'\r')
             continue;
         switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {

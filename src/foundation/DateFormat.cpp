@@ -2,38 +2,30 @@
 
 #include "foundation/Calendar.h"
 
-#include <QHash>
-
 #include <unicode/smpdtfmt.h>
 
+#include <map>
 #include <memory>
+#include <tuple>
 
 namespace {
-struct Key {
-    QString pattern;
-    QByteArray locale;
-    QByteArray timeZoneID;
-    bool operator==(const Key &) const = default;
-};
-
-size_t qHash(const Key &key, size_t seed = 0)
-{
-    return qHashMulti(seed, key.pattern, key.locale, key.timeZoneID);
-}
+using Key = std::tuple<QString, QByteArray, QByteArray>; // pattern, locale, time zone
 
 icu::UnicodeString toIcu(QStringView text)
 {
-    return {reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size())};
+    return {text.utf16(), int32_t(text.size())};
 }
 
-std::shared_ptr<const icu::SimpleDateFormat> makeFormatter(const Key &key)
+/// Null if the pattern is invalid.
+std::unique_ptr<const icu::SimpleDateFormat> makeFormatter(const Key &key)
 {
+    const auto &[pattern, locale, timeZoneID] = key;
     UErrorCode status = U_ZERO_ERROR;
-    auto formatter = std::make_shared<icu::SimpleDateFormat>(
-        toIcu(key.pattern), icu::Locale(key.locale.constData()), status);
+    auto formatter =
+        std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), icu::Locale(locale.constData()), status);
     if (U_FAILURE(status))
         return nullptr;
-    formatter->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(QString::fromUtf8(key.timeZoneID))));
+    formatter->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(QString::fromUtf8(timeZoneID))));
     return formatter;
 }
 } // namespace
@@ -43,19 +35,19 @@ QString DateFormat::format(
 {
     // Few patterns are in use at a time. A change of the time zone leaves stale entries, so the cache is
     // bounded.
-    static QHash<Key, std::shared_ptr<const icu::SimpleDateFormat>> formatters;
-    constexpr qsizetype maxFormatters = 16;
+    static std::map<Key, std::unique_ptr<const icu::SimpleDateFormat>> formatters;
+    constexpr size_t maxFormatters = 16;
 
-    const Key key{pattern.toString(), locale, calendar.timeZoneID()};
-    auto found = formatters.constFind(key);
-    if (found == formatters.cend()) {
+    const Key key(pattern.toString(), locale, calendar.timeZoneID());
+    auto found = formatters.find(key);
+    if (found == formatters.end()) {
         if (formatters.size() >= maxFormatters)
             formatters.clear();
-        found = formatters.insert(key, makeFormatter(key));
+        found = formatters.emplace(key, makeFormatter(key)).first;
     }
-    if (!*found)
+    if (!found->second)
         return {};
     icu::UnicodeString text;
-    (*found)->format(UDate(instant.time_since_epoch().count()), text);
+    found->second->format(UDate(instant.time_since_epoch().count()), text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }

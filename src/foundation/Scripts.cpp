@@ -27,10 +27,9 @@ bool isWithin(std::span<const Block> blocks, UChar32 codePoint)
 Scripts::EastAsian Scripts::of(QStringView text)
 {
     EastAsian found;
-    const auto *units = reinterpret_cast<const char16_t *>(text.utf16());
     for (qsizetype i = 0; i < text.size();) {
         UChar32 codePoint = 0;
-        U16_NEXT(units, i, text.size(), codePoint);
+        U16_NEXT(text.utf16(), i, text.size(), codePoint);
         if (codePoint < firstEastAsian)
             continue;
         found.hangul = found.hangul || isWithin(hangulBlocks, codePoint);

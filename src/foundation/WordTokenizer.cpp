@@ -6,14 +6,11 @@
 
 QList<TextRange> WordTokenizer::words(QStringView text)
 {
-    static const std::unique_ptr<icu::BreakIterator> iterator = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        auto *made = icu::BreakIterator::createWordInstance(icu::Locale::getRoot(), status);
-        Q_ASSERT(U_SUCCESS(status));
-        return std::unique_ptr<icu::BreakIterator>(made);
-    }();
-    const icu::UnicodeString source(
-        false, reinterpret_cast<const char16_t *>(text.utf16()), int32_t(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    static const std::unique_ptr<icu::BreakIterator> iterator(
+        icu::BreakIterator::createWordInstance(icu::Locale::getRoot(), status));
+    Q_ASSERT(U_SUCCESS(status));
+    const icu::UnicodeString source(false, text.utf16(), int32_t(text.size()));
     iterator->setText(source);
     QList<TextRange> ranges;
     int32_t start = iterator->first();
