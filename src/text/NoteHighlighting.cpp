@@ -7,68 +7,57 @@
 #include <algorithm>
 
 namespace {
+using NoteHighlighting::Segment;
 using NoteHighlighting::SegmentKind;
 
-/// Amounts of money, calendar dates and clock times. Neither holds a "#", so that no match reaches into a
-/// tag.
-const Regex &numberPattern()
+/// The ranges of the text as segments of one kind, and what is between them as @p between divides it.
+QList<Segment> divided(QStringView text, const QList<TextRange> &ranges, SegmentKind kind,
+    QList<Segment> (*between)(QStringView))
 {
-    static const Regex regex(QStringLiteral(R"([¥$€£]\s?\d[\d,]*(?:\.\d+)?)"
-                                            R"(|\d{4}[-/年]\d{1,2}[-/月]\d{1,2}日?)"
-                                            R"(|\d{1,2}:\d{2})"));
-    return regex;
+    QList<Segment> result;
+    qsizetype cursor = 0;
+    for (const TextRange range : ranges) {
+        result += between(text.sliced(cursor, range.start - cursor));
+        result.append({kind, text.sliced(range.start, range.length()).toString()});
+        cursor = range.end;
+    }
+    return result += between(text.sliced(cursor));
 }
 
-void appendPlain(QStringView text, QList<NoteHighlighting::Segment> &out)
+QList<Segment> plain(QStringView text)
 {
-    if (!text.isEmpty())
-        out.append({SegmentKind::Plain, text.toString()});
+    return text.isEmpty() ? QList<Segment>() : QList<Segment>{{SegmentKind::Plain, text.toString()}};
 }
 
-void appendWithoutTags(QStringView text, QList<NoteHighlighting::Segment> &out)
+QList<Segment> withoutTags(QStringView text)
 {
+    // Amounts of money, calendar dates and clock times.
+    static const Regex number(QStringLiteral(R"([¥$€£]\s?\d[\d,]*(?:\.\d+)?)"
+                                             R"(|\d{4}[-/年]\d{1,2}[-/月]\d{1,2}日?)"
+                                             R"(|\d{1,2}:\d{2})"));
     // Each match has one of these. Most texts have none and need no matcher.
     constexpr QStringView marks = u"¥$€£-/年:";
     if (std::none_of(text.begin(), text.end(), [marks](QChar unit) { return marks.contains(unit); }))
-        return appendPlain(text, out);
-    qsizetype cursor = 0;
-    for (const Regex::Match &match : numberPattern().allMatches(text)) {
-        const TextRange range = match.range();
-        appendPlain(text.sliced(cursor, range.start - cursor), out);
-        out.append({SegmentKind::Number, text.sliced(range.start, range.length()).toString()});
-        cursor = range.end;
-    }
-    appendPlain(text.sliced(cursor), out);
+        return plain(text);
+    QList<TextRange> numbers;
+    for (const Regex::Match &match : number.allMatches(text))
+        numbers.append(match.range());
+    return divided(text, numbers, SegmentKind::Number, plain);
 }
 } // namespace
 
-QList<NoteHighlighting::Segment> NoteHighlighting::segments(QStringView text)
+QList<Segment> NoteHighlighting::segments(QStringView text)
 {
-    QList<Segment> result;
-    qsizetype cursor = 0;
-    for (const TagEditing::Token &tag : TagEditing::tokens(text)) {
-        appendWithoutTags(text.sliced(cursor, tag.range.start - cursor), result);
-        result.append({SegmentKind::Tag, tag.text});
-        cursor = tag.range.end;
-    }
-    appendWithoutTags(text.sliced(cursor), result);
-    return result;
+    QList<TextRange> tags;
+    for (const TagEditing::Token &tag : TagEditing::tokens(text))
+        tags.append(tag.range);
+    return divided(text, tags, SegmentKind::Tag, withoutTags);
 }
 
-QList<NoteHighlighting::Segment> NoteHighlighting::segments(QStringView text, QStringView query)
+QList<Segment> NoteHighlighting::segments(QStringView text, QStringView query)
 {
-    const QStringView trimmed = query.trimmed();
-    if (trimmed.isEmpty())
-        return segments(text);
-
-    QList<Segment> result;
-    qsizetype cursor = 0;
-    for (const TextRange &hit : CaseFolding::occurrences(text, trimmed)) {
-        result += segments(text.sliced(cursor, hit.start - cursor));
-        result.append({SegmentKind::Match, text.sliced(hit.start, hit.length()).toString()});
-        cursor = hit.end;
-    }
-    return result += segments(text.sliced(cursor));
+    // A blank query has no occurrences.
+    return divided(text, CaseFolding::occurrences(text, query.trimmed()), SegmentKind::Match, segments);
 }
 
 QStringList NoteHighlighting::tags(QStringView text)
