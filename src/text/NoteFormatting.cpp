@@ -26,22 +26,9 @@ QString NoteFormatting::timeString(Instant date, const Calendar &calendar, const
 QString NoteFormatting::reminderTimeString(
     Instant date, Instant now, const Calendar &calendar, const QString &language)
 {
-    const char *format = nullptr;
-    switch (calendar.daysBetween(now, date)) {
-    case -1:
-        format = "昨天 %@";
-        break;
-    case 0:
-        format = "今天 %@";
-        break;
-    case 1:
-        format = "明天 %@";
-        break;
-    case 2:
-        format = "后天 %@";
-        break;
-    default:
+    constexpr const char *fromYesterdayOn[] = {"昨天 %@", "今天 %@", "明天 %@", "后天 %@"};
+    const int day = calendar.daysBetween(now, date) + 1;
+    if (day < 0 || day >= int(std::size(fromYesterdayOn)))
         return formatted(date, "reminderTime.format", calendar, language);
-    }
-    return L10n::text(format, QStringList{timeString(date, calendar, language)}, language);
+    return L10n::text(fromYesterdayOn[day], QStringList{timeString(date, calendar, language)}, language);
 }

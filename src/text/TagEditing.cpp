@@ -5,9 +5,12 @@
 #include <algorithm>
 
 namespace {
-bool isTag(const TagEditing::Token &token, QStringView name)
+QList<TagEditing::Token> tokensOf(QStringView tag, QStringView text)
 {
-    return QStringView(token.text).sliced(1) == name;
+    QList<TagEditing::Token> tokens = TagEditing::tokens(text);
+    tokens.removeIf(
+        [tag](const TagEditing::Token &token) { return QStringView(token.text).sliced(1) != tag; });
+    return tokens;
 }
 } // namespace
 
@@ -39,19 +42,14 @@ bool TagEditing::isValidName(QStringView name)
 
 qsizetype TagEditing::occurrences(QStringView tag, QStringView text)
 {
-    qsizetype count = 0;
-    for (const Token &token : tokens(text))
-        count += isTag(token, tag);
-    return count;
+    return tokensOf(tag, text).size();
 }
 
 QString TagEditing::replacingTag(QStringView text, QStringView from, QStringView to)
 {
     QString result;
     qsizetype cursor = 0;
-    for (const Token &token : tokens(text)) {
-        if (!isTag(token, from))
-            continue;
+    for (const Token &token : tokensOf(from, text)) {
         result += text.sliced(cursor, token.range.start - cursor);
         result += u'#';
         result += to;
@@ -64,9 +62,7 @@ QString TagEditing::removingTag(QStringView text, QStringView tag)
 {
     QString result;
     qsizetype cursor = 0;
-    for (const Token &token : tokens(text)) {
-        if (!isTag(token, tag))
-            continue;
+    for (const Token &token : tokensOf(tag, text)) {
         result += text.sliced(cursor, token.range.start - cursor);
         cursor = token.range.end;
         if (!result.isEmpty() && result.back().isSpace()) {

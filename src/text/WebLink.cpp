@@ -11,14 +11,10 @@ namespace {
 /// Nothing if there is anything but digits of the base, or no Unicode scalar value.
 std::optional<QString> numericEntity(QStringView digits, int base)
 {
+    const QStringView digitsOfBase = QStringView(u"0123456789abcdef").first(base);
     char32_t value = 0;
     for (const QChar character : digits) {
-        const char16_t unit = character.toLower().unicode();
-        int digit = -1;
-        if (unit >= u'0' && unit <= u'9')
-            digit = unit - u'0';
-        else if (base == 16 && unit >= u'a' && unit <= u'f')
-            digit = unit - u'a' + 10;
+        const qsizetype digit = digitsOfBase.indexOf(character, 0, Qt::CaseInsensitive);
         if (digit < 0)
             return std::nullopt;
         value = value * char32_t(base) + char32_t(digit);
