@@ -85,10 +85,8 @@ void DesktopNotificationCenter::availabilityWasDetermined()
 
 void DesktopNotificationCenter::add(const NotificationRequest &request)
 {
-    const auto isSame = [&request](const NotificationRequest &other) {
-        return other.identifier == request.identifier;
-    };
-    m_pending.removeIf(isSame);
+    m_pending.removeIf(
+        [&request](const NotificationRequest &other) { return other.identifier == request.identifier; });
     const auto position = std::upper_bound(m_pending.begin(), m_pending.end(), request,
         [](const NotificationRequest &a, const NotificationRequest &b) { return a.minute < b.minute; });
     m_pending.insert(position, request);
@@ -117,21 +115,15 @@ void DesktopNotificationCenter::armTimer()
         m_timer.start(m_pending.first().minute);
 }
 
-bool DesktopNotificationCenter::collectDue()
+void DesktopNotificationCenter::presentDue()
 {
     const Instant now = m_clock.now();
     const qsizetype before = m_due.size();
     while (!m_pending.isEmpty() && m_pending.first().minute <= now)
         m_due.append(m_pending.takeFirst());
     armTimer();
-    return m_due.size() > before;
-}
-
-void DesktopNotificationCenter::presentDue()
-{
-    const bool hasNew = collectDue();
     if (!m_server.isAvailable()) {
-        if (hasNew)
+        if (m_due.size() > before)
             m_server.query();
         return;
     }

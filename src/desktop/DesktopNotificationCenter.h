@@ -44,7 +44,6 @@ private:
     [[nodiscard]] static QList<Bubble> bubbles(const QList<NotificationRequest> &due);
 
     void armTimer();
-    bool collectDue(); ///< whether any has come due
     void presentDue();
     void showBubbles();
     void show(const Bubble &bubble);

@@ -130,19 +130,6 @@ void PortalHotKey::createSession()
             {QStringLiteral("shortcuts"), QVariant::fromValue(wantedShortcuts())}});
 }
 
-void PortalHotKey::listShortcuts()
-{
-    ask(Step::ListingShortcuts, QStringLiteral("ListShortcuts"),
-        {QVariant::fromValue(QDBusObjectPath(m_session))}, {});
-}
-
-void PortalHotKey::bindShortcuts()
-{
-    ask(Step::BindingShortcuts, QStringLiteral("BindShortcuts"),
-        {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wantedShortcuts()), QString()},
-        {});
-}
-
 void PortalHotKey::onResponse(uint code, const QVariantMap &results)
 {
     m_bus.disconnect(service, m_request, requestInterface, QStringLiteral("Response"), this,
@@ -159,7 +146,8 @@ void PortalHotKey::onResponse(uint code, const QVariantMap &results)
         const QVariant handle = results.value(QStringLiteral("session_handle")); // a string in practice
         m_session =
             handle.canConvert<QDBusObjectPath>() ? handle.value<QDBusObjectPath>().path() : handle.toString();
-        listShortcuts();
+        ask(Step::ListingShortcuts, QStringLiteral("ListShortcuts"),
+            {QVariant::fromValue(QDBusObjectPath(m_session))});
         break;
     }
     case Step::ListingShortcuts: {
@@ -168,7 +156,9 @@ void PortalHotKey::onResponse(uint code, const QVariantMap &results)
         const bool isKnown = std::any_of(
             known.begin(), known.end(), [](const Shortcut &each) { return each.first == shortcutID; });
         if (!isKnown)
-            bindShortcuts();
+            ask(Step::BindingShortcuts, QStringLiteral("BindShortcuts"),
+                {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wantedShortcuts()),
+                    QString()});
         break;
     }
     }

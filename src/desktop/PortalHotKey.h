@@ -39,10 +39,8 @@ private:
     void registerIdentity();
     void checkVersion();
     void createSession();
-    void listShortcuts();
-    void bindShortcuts();
     /// Calls a method whose result arrives in onResponse(), as the portal's request objects deliver it.
-    void ask(Step step, const QString &method, const QVariantList &arguments, QVariantMap options);
+    void ask(Step step, const QString &method, const QVariantList &arguments, QVariantMap options = {});
     void forgetSession();
     void fail(const QString &message);
     /// Ignores the reply when the session has been forgotten by then.

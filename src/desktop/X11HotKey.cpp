@@ -127,14 +127,12 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
     if (eventType != "xcb_generic_event_t")
         return false;
     const auto *event = static_cast<xcb_generic_event_t *>(message);
-    const auto isHotKey = [this](const xcb_key_press_event_t &key) {
-        return key.event == m_root && (key.state & ~locks & 0xFF) == hotModifiers
-               && std::find(m_keycodes.begin(), m_keycodes.end(), key.detail) != m_keycodes.end();
-    };
     switch (event->response_type & 0x7F) {
     case XCB_KEY_PRESS: {
         const auto &key = *reinterpret_cast<const xcb_key_press_event_t *>(event);
-        if (!isHotKey(key))
+        const bool isHotKey = key.event == m_root && (key.state & ~locks & 0xFF) == hotModifiers
+                              && std::ranges::find(m_keycodes, key.detail) != m_keycodes.end();
+        if (!isHotKey)
             break;
         // While the key is held the server sends pairs of release and press with equal times.
         if (key.time != m_lastRelease) {
@@ -145,11 +143,9 @@ bool X11HotKey::nativeEventFilter(const QByteArray &eventType, void *message, qi
         }
         break;
     }
-    case XCB_KEY_RELEASE: {
-        const auto &key = *reinterpret_cast<const xcb_key_release_event_t *>(event);
-        m_lastRelease = key.time;
+    case XCB_KEY_RELEASE:
+        m_lastRelease = reinterpret_cast<const xcb_key_release_event_t *>(event)->time;
         break;
-    }
     case XCB_FOCUS_IN: {
         const auto &focus = *reinterpret_cast<const xcb_focus_in_event_t *>(event);
         const bool isRealFocus =
