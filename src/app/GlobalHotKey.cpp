@@ -1,5 +1,7 @@
 #include "app/GlobalHotKey.h"
 
+#include "desktop/PortalHotKey.h"
+#include "desktop/X11HotKey.h"
 #include "foundation/Log.h"
 
 #include <QTimer>
@@ -7,22 +9,19 @@
 
 void GlobalHotKey::registerHandler(std::function<void()> handler)
 {
-    const bool isFirst = !m_handler;
-    m_handler = std::move(handler);
-    if (!isFirst)
-        return;
-    const auto request = [this]<typename Key>(std::unique_ptr<Key> &key) {
-        key = std::make_unique<Key>();
-        connect(key.get(), &Key::pressed, this, &GlobalHotKey::fire);
-        connect(key.get(), &Key::failed, this, [](const QString &message) {
+    if (std::exchange(m_handler, std::move(handler)))
+        return; // the key has been requested already
+    const auto request = [this]<typename Key>(Key *key) {
+        connect(key, &Key::pressed, this, &GlobalHotKey::fire);
+        connect(key, &Key::failed, this, [](const QString &message) {
             Log::line(QStringLiteral("failed to register global hotkey: ") + message);
         });
         key->request();
     };
     if (X11HotKey::isPossible())
-        request(m_x11);
+        request(m_x11 = new X11HotKey(this));
     else
-        request(m_portal);
+        request(new PortalHotKey({}, this));
 }
 
 void GlobalHotKey::releaseKeyboardTo(const QWindow *window)

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "desktop/PortalHotKey.h"
-#include "desktop/X11HotKey.h"
-
 #include <QObject>
 
 #include <functional>
-#include <memory>
 
 class QWindow;
+class X11HotKey;
 
 /// Control+Alt+Space, whichever program has the focus: grabbed on X11, requested from the desktop portal
 /// elsewhere. A failure is logged.
@@ -30,7 +27,6 @@ public:
 private:
     void fire();
 
-    std::unique_ptr<X11HotKey> m_x11; ///< one of the two, once a handler is registered
-    std::unique_ptr<PortalHotKey> m_portal;
+    X11HotKey *m_x11 = nullptr; ///< once a handler is registered, on X11
     std::function<void()> m_handler;
 };
