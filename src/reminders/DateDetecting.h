@@ -31,7 +31,7 @@ class DateDetecting
 {
 public:
     virtual ~DateDetecting() = default;
-    /// @p language is the language of the draft; a detection may be in another.
+    /// From left to right. @p language is the language of the draft; a detection may be in another.
     [[nodiscard]] virtual QList<DateDetection> detectDates(
         QStringView text, ReminderLanguage language) const = 0;
 };

@@ -57,10 +57,7 @@ std::optional<ParsedReminder> ReminderDetector::detect(
     if (auto parsed = ReminderParser::parse(trimmed, now, calendar, language))
         return parsed;
 
-    QList<DateDetection> detections = detector.detectDates(trimmed, language);
-    std::stable_sort(detections.begin(), detections.end(),
-        [](const DateDetection &a, const DateDetection &b) { return a.range.start < b.range.start; });
-    const auto choice = choose(detections, calendar);
+    const auto choice = choose(detector.detectDates(trimmed, language), calendar);
     if (!choice)
         return std::nullopt;
     const bool isInFront = choice->ranges.size() == 1 && choice->ranges.first().start == 0;
