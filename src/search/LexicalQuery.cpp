@@ -83,22 +83,22 @@ quint32 readNumber(const quint8 *&at)
 LexicalQuery::PairSet::PairSet(const std::vector<quint64> &pairs)
     : m_slots(std::bit_ceil(pairs.size() * 4 + 1))
 {
-    for (const quint64 pair : pairs) {
-        size_t at = pair * 0x9E3779B97F4A7C15u >> 20 & (m_slots.size() - 1);
-        while (m_slots[at].pair != 0)
-            at = (at + 1) & (m_slots.size() - 1);
-        m_slots[at].pair = pair;
-    }
+    for (const quint64 pair : pairs)
+        slotFor(pair).pair = pair;
+}
+
+LexicalQuery::PairSet::Slot &LexicalQuery::PairSet::slotFor(quint64 pair)
+{
+    size_t at = pair * 0x9E3779B97F4A7C15u >> 20 & (m_slots.size() - 1);
+    while (m_slots[at].pair != 0 && m_slots[at].pair != pair)
+        at = (at + 1) & (m_slots.size() - 1);
+    return m_slots[at];
 }
 
 bool LexicalQuery::PairSet::isNewIn(quint32 round, quint64 pair)
 {
-    for (size_t at = pair * 0x9E3779B97F4A7C15u >> 20 & (m_slots.size() - 1); m_slots[at].pair != 0;
-         at = (at + 1) & (m_slots.size() - 1)) {
-        if (m_slots[at].pair == pair)
-            return std::exchange(m_slots[at].round, round) != round;
-    }
-    return false;
+    Slot &slot = slotFor(pair);
+    return slot.pair == pair && std::exchange(slot.round, round) != round;
 }
 
 LexicalQuery::LexicalQuery(const QString &query)

@@ -32,6 +32,8 @@ private:
             quint64 pair = 0; ///< 0 marks an empty slot: no letter has the code 0
             quint32 round = 0;
         };
+        [[nodiscard]] Slot &slotFor(quint64 pair); ///< the pair's own, or the empty one where it would be
+
         std::vector<Slot> m_slots; ///< open addressing; at least twice as many as pairs
     };
 
