@@ -22,6 +22,12 @@ QString onOneLine(QString text)
     return text;
 }
 
+/// The digits of a group; 0 if it did not take part in the match.
+int number(QStringView text, const std::optional<TextRange> &group)
+{
+    return group ? Digits::value(text.sliced(group->start, group->length())) : 0;
+}
+
 /// "2024-3-5" or "2024/03/05", anywhere in the line.
 std::optional<Calendar::Day> findDay(QStringView line)
 {
@@ -29,10 +35,8 @@ std::optional<Calendar::Day> findDay(QStringView line)
     const auto match = pattern.firstMatch(line);
     if (!match)
         return std::nullopt;
-    const auto number = [&](int group) {
-        return Digits::value(line.sliced(match->group(group)->start, match->group(group)->length()));
-    };
-    const Calendar::Day found{year(number(1)), month(unsigned(number(2))), day(unsigned(number(3)))};
+    const Calendar::Day found{year(number(line, match->group(1))),
+        month(unsigned(number(line, match->group(2)))), day(unsigned(number(line, match->group(3))))};
     return found.ok() ? std::optional(found) : std::nullopt;
 }
 
@@ -47,13 +51,9 @@ TimePrefix splitTimePrefix(QStringView text)
     const auto match = pattern.firstMatch(text);
     if (!match)
         return {std::nullopt, text};
-    const auto number = [&](int group) {
-        const auto range = match->group(group);
-        return range ? Digits::value(text.sliced(range->start, range->length())) : 0;
-    };
-    const int hour = number(1);
-    const int minute = number(2);
-    const int second = number(3);
+    const int hour = number(text, match->group(1));
+    const int minute = number(text, match->group(2));
+    const int second = number(text, match->group(3));
     if (hour > 23 || minute > 59)
         return {std::nullopt, text};
     // Seconds from 60 on are consumed, but ignored.
