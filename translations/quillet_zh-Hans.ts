@@ -9,6 +9,11 @@
         <translation>M月d日 EEEE</translation>
     </message>
     <message>
+        <source>fullDayTitle.format</source>
+        <extracomment>Date pattern of a day header's tooltip: year, month, day, weekday</extracomment>
+        <translation>y年M月d日 EEEE</translation>
+    </message>
+    <message>
         <source>reminderTime.format</source>
         <extracomment>Date pattern of a reminder more than two days away: month, day, time</extracomment>
         <translation>M月d日 HH:mm</translation>

@@ -8,14 +8,26 @@ QString formatted(Instant date, const char *patternKey, const Calendar &calendar
 {
     return DateFormat::format(date, L10n::text(patternKey, language), L10n::locale(language), calendar);
 }
+
+QString titleOfDay(
+    Instant date, const char *patternKey, Instant now, const Calendar &calendar, const QString &language)
+{
+    const QString title = formatted(date, patternKey, calendar, language);
+    if (calendar.day(date) == calendar.day(now))
+        return L10n::text("今天 · %@", QStringList{title}, language);
+    return title;
+}
 } // namespace
 
 QString NoteFormatting::dayTitle(Instant date, Instant now, const Calendar &calendar, const QString &language)
 {
-    const QString title = formatted(date, "dayTitle.format", calendar, language);
-    if (calendar.day(date) == calendar.day(now))
-        return L10n::text("今天 · %@", QStringList{title}, language);
-    return title;
+    return titleOfDay(date, "dayTitle.format", now, calendar, language);
+}
+
+QString NoteFormatting::fullDayTitle(
+    Instant date, Instant now, const Calendar &calendar, const QString &language)
+{
+    return titleOfDay(date, "fullDayTitle.format", now, calendar, language);
 }
 
 QString NoteFormatting::timeString(Instant date, const Calendar &calendar, const QString &language)

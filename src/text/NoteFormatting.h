@@ -13,6 +13,10 @@ namespace NoteFormatting {
 [[nodiscard]] QString dayTitle(
     Instant date, Instant now, const Calendar &calendar, const QString &language = L10n::currentLanguage());
 
+/// The same with the year: "2026年3月1日 星期日", "今天 · 2026年3月2日 星期一".
+[[nodiscard]] QString fullDayTitle(
+    Instant date, Instant now, const Calendar &calendar, const QString &language = L10n::currentLanguage());
+
 /// "09:05"
 [[nodiscard]] QString timeString(
     Instant date, const Calendar &calendar, const QString &language = L10n::currentLanguage());

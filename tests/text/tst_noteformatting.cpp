@@ -63,6 +63,8 @@ private Q_SLOTS:
         QCOMPARE(NoteFormatting::dayTitle(now, now, shanghai, u"zh-Hans"_s), u"今天 · 3月2日 星期一"_s);
         QCOMPARE(NoteFormatting::dayTitle(at("2026-03-01T15:59:00Z"), now, shanghai, u"zh-Hans"_s),
             u"3月1日 星期日"_s);
+        QCOMPARE(
+            NoteFormatting::fullDayTitle(now, now, shanghai, u"zh-Hans"_s), u"今天 · 2026年3月2日 星期一"_s);
     }
 
     void a_text_without_a_translation_is_its_own_key()

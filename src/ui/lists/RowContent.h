@@ -13,7 +13,8 @@ struct RowSymbol {
 
 /// What a row of a list shows.
 struct RowContent {
-    QString header; ///< a header of one line; the rest is empty then
+    QString header; ///< a header of one line; the rest but the help is empty then
+    QString help;   ///< what the header or the number stands for: the full date
     QString lead;   ///< in the column on the left: the time of day
     QString above;  ///< a small line above the text
     QString quote;  ///< the quoted note, in a block of one line above the text
@@ -27,6 +28,7 @@ struct RowContent {
     bool isExpired = false; ///< in a paler colour
 
     [[nodiscard]] bool isHeader() const { return !header.isEmpty(); }
+    [[nodiscard]] QString spoken() const; ///< all of it in one line, as a screen reader reads it out
     bool operator==(const RowContent &) const = default;
     friend size_t qHash(const RowContent &content, size_t seed = 0)
     {

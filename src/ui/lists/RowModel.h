@@ -30,10 +30,12 @@ public:
     {
         RowContent content;
         (isHeader(row) ? content.header : content.text) = text(row);
+        content.help = help(row);
         if (!isHeader(row))
             fillEntry(content, row);
         return content;
     }
+    [[nodiscard]] QString spokenText(int row) const { return content(row).spoken(); }
     [[nodiscard]] virtual bool isHeader(int row) const = 0;
     [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
@@ -44,7 +46,8 @@ public:
     }
 
 protected:
-    virtual void fillEntry(RowContent &, int) const {} ///< with all that it shows beside its text
+    [[nodiscard]] virtual QString help(int) const { return {}; } ///< as in RowContent
+    virtual void fillEntry(RowContent &, int) const {}           ///< with all that it shows beside its text
     virtual void refresh() = 0; ///< to the present state of what the rows are made from
     void refreshWhenSeen()
     {

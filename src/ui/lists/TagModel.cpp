@@ -2,6 +2,7 @@
 
 #include "foundation/CaseFolding.h"
 #include "model/NoteStore.h"
+#include "text/L10n.h"
 
 bool isSameRow(const TagSummary &a, const TagSummary &b)
 {
@@ -35,6 +36,11 @@ void TagModel::refresh()
 QString TagModel::text(int number) const
 {
     return u'#' + row(number).name;
+}
+
+QString TagModel::help(int number) const
+{
+    return L10n::text("%@ 条笔记", QStringList{QString::number(row(number).count)});
 }
 
 void TagModel::fillEntry(RowContent &entry, int number) const

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] int rowOf(const QString &tag) const; ///< -1 when not shown
 
 private:
+    [[nodiscard]] QString help(int row) const override;
     void fillEntry(RowContent &entry, int row) const override;
     void refresh() override;
 

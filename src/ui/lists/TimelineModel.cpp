@@ -147,6 +147,13 @@ QString TimelineModel::text(int number) const
     Q_UNREACHABLE();
 }
 
+QString TimelineModel::help(int number) const
+{
+    return row(number).kind == TimelineRow::Kind::Day
+               ? NoteFormatting::fullDayTitle(row(number).day, m_clock.now(), m_clock.calendar())
+               : QString();
+}
+
 void TimelineModel::fillEntry(RowContent &entry, int number) const
 {
     const TimelineRow &row = this->row(number);

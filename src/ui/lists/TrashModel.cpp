@@ -37,6 +37,12 @@ QString TrashModel::text(int number) const
     return row.note ? row.note->text : NoteFormatting::dayTitle(row.day, m_clock.now(), m_clock.calendar());
 }
 
+QString TrashModel::help(int number) const
+{
+    return isHeader(number) ? NoteFormatting::fullDayTitle(row(number).day, m_clock.now(), m_clock.calendar())
+                            : QString();
+}
+
 void TrashModel::fillEntry(RowContent &entry, int number) const
 {
     entry.lead = NoteFormatting::timeString(row(number).note->createdAt, m_clock.calendar());

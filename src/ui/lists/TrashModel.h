@@ -28,6 +28,7 @@ public:
 
 private:
     void refresh() override;
+    [[nodiscard]] QString help(int row) const override;
     void fillEntry(RowContent &entry, int row) const override;
 
     NoteStore &m_notes;
