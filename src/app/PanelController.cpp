@@ -74,10 +74,15 @@ void PanelController::makeWindow()
     m_window->grab(); // does what the first painting needs: fonts, layouts, symbols
 }
 
-PanelState &PanelController::state()
+ContentView *PanelController::content()
 {
     prepare();
-    return m_content->state();
+    return m_content;
+}
+
+PanelState &PanelController::state()
+{
+    return content()->state();
 }
 
 bool PanelController::isOpen() const

@@ -32,7 +32,9 @@ public:
     void toggleByClick();
     [[nodiscard]] const QWindow *openWindow() const; ///< null while the panel is closed
 
-    [[nodiscard]] PanelState &state(); ///< builds the panel if necessary
+    // These build the panel if necessary.
+    [[nodiscard]] ContentView *content();
+    [[nodiscard]] PanelState &state();
 
 private:
     [[nodiscard]] bool isOpen() const;

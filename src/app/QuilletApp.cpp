@@ -67,9 +67,9 @@ void QuilletApp::connectAll()
 
     connect(&m_statusBar, &StatusBarMenu::clicked, &m_panel, &PanelController::toggleByClick);
     connect(&m_statusBar, &StatusBarMenu::importChosen, this,
-        [this] { ImportExport::importNotes(m_notes, m_clock); });
+        [this] { ImportExport::importNotes(m_notes, m_clock, m_panel.content()); });
     connect(&m_statusBar, &StatusBarMenu::exportChosen, this,
-        [this] { ImportExport::exportNotes(m_notes, m_clock); });
+        [this] { ImportExport::exportNotes(m_notes, m_clock, m_panel.content()); });
     connect(&m_service, &ApplicationService::activated, &m_panel, &PanelController::open);
     connect(&m_service, &ApplicationService::toggled, &m_panel, &PanelController::toggle);
     connect(&m_appearance, &Appearance::schemeChanged, this, &QuilletApp::applyAppearance);

@@ -17,6 +17,7 @@
 #include "ui/lists/RowModel.h"
 #include "ui/panel/ContentView.h"
 #include "ui/panel/PanelWindow.h"
+#include "ui/panel/StatusLine.h"
 
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
@@ -47,6 +48,12 @@ public:
 
     ComposerField *field() { return window.findChild<ComposerField *>(); }
     ComposerBar *reminderBar() { return find<ComposerBar>("reminderBar"); }
+    /// What the line over the list says; empty while it is hidden.
+    QString told()
+    {
+        auto *line = find<StatusLine>("statusLine");
+        return line->isVisible() ? line->accessibleName() : QString();
+    }
     NoteListView &list() { return *window.findChild<NoteListView *>(); }
     PanelState &state() { return content->state(); }
 

@@ -229,6 +229,7 @@ private Q_SLOTS:
             rename(0, refused);
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#b"_s, u"#a"_s}));
         rename(0, u" c "_s);
+        QCOMPARE(panel.told(), u"已重命名"_s);
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#c"_s, u"#a"_s}));
         ModalQuestion::setNextAnswer(false);
         rename(0, u"a"_s);
@@ -277,6 +278,7 @@ private Q_SLOTS:
         QTRY_COMPARE(panel.list().flashID(), note.id);
         panel.state().setMode(PanelMode::Reminders);
         panel.choose(*list, 0, u"取消提醒"_s);
+        QCOMPARE(panel.told(), u"已取消提醒"_s);
         QCOMPARE(panel.rowsOf(*list), QStringList());
     }
 
@@ -295,9 +297,77 @@ private Q_SLOTS:
         QTest::keyClick(list, Qt::Key_Down);
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(panel.notes.notes().size(), 1);
+        QCOMPARE(panel.told(), u"已恢复到时间线"_s);
         empty->click();
+        QCOMPARE(panel.told(), u"已清空回收站"_s);
         QVERIFY(panel.notes.trash().isEmpty());
         QVERIFY(!empty->isEnabled());
+    }
+
+    void what_was_done_is_told_and_taken_back()
+    {
+        TestPanel panel;
+        panel.notes.add(u"一"_s);
+        QTRY_VERIFY(panel.field()->hasFocus());
+        auto *line = panel.find<StatusLine>("statusLine");
+        auto *undo = line->findChild<QPushButton *>();
+        const auto wait = [line] {
+            line->findChild<QTimer *>()->start(1);
+            QTest::qWait(20);
+        };
+        panel.press(Qt::Key_Down);
+        QTest::keyClick(&panel.list(), Qt::Key_Delete);
+        QCOMPARE(panel.told(), u"已移到回收站"_s);
+        undo->setFocus();
+        wait();
+        QCOMPARE(panel.told(), u"已移到回收站"_s); // while the focus is on it
+        QTest::keyClick(undo, Qt::Key_Return);
+        QCOMPARE(panel.rows().last(), u"一"_s);
+        QCOMPARE(panel.told(), QString());
+        QVERIFY(panel.field()->hasFocus());
+        panel.press(Qt::Key_Down);
+        QTest::keyClick(&panel.list(), Qt::Key_Delete);
+        QTest::keyClick(&panel.list(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(panel.rows().last(), u"一"_s);
+        panel.choose(1, u"复制"_s);
+        QCOMPARE(panel.told(), u"已复制"_s); // in place of the other
+        QVERIFY(!undo->isVisible());
+        wait();
+        QCOMPARE(panel.told(), QString());
+    }
+
+    void a_question_stands_over_the_panel_until_it_is_answered()
+    {
+        TestPanel panel;
+        panel.notes.add(u"甲 #a"_s);
+        QTRY_VERIFY(panel.field()->hasFocus());
+        panel.state().setMode(PanelMode::Tags);
+        auto *list = panel.find<RowListView>("tagList");
+        const auto press = [&panel](const QList<Qt::Key> &keys) {
+            for (const Qt::Key key : keys)
+                QTest::keyClick(panel.window.focusWidget(), key);
+        };
+        const auto isDeletedAfter = [&](const std::function<void()> &act) {
+            list->enter();
+            QTimer::singleShot(0, &panel.window, act);
+            QTest::keyClick(list, Qt::Key_Delete);
+            return panel.notes.tags().isEmpty();
+        };
+        QVERIFY(!isDeletedAfter([&] { press({Qt::Key_Return}); })); // the button to cancel has the focus
+        QVERIFY(!isDeletedAfter([&] { press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}); }));
+        QVERIFY(!isDeletedAfter([&] { press({Qt::Key_Escape}); }));
+        QVERIFY(panel.window.isVisible());
+        QVERIFY(list->hasFocus());
+        QVERIFY(!isDeletedAfter([&] {
+            QTest::keyClick(panel.window.focusWidget(), Qt::Key_1, Qt::ControlModifier);
+            panel.state().focusComposer();
+            panel.clickRow(*list, 0);
+            panel.window.hide();
+        }));
+        QCOMPARE(panel.state().mode(), PanelMode::Tags);
+        panel.window.show();
+        QVERIFY(isDeletedAfter([&] { press({Qt::Key_Tab, Qt::Key_Return}); }));
+        QCOMPARE(panel.told(), u"已删除标签"_s);
     }
 
     void midnight_moves_today()
@@ -326,13 +396,13 @@ private Q_SLOTS:
                  Case{"c.txt", ExportFormatAccessory::Format::Json, "c.txt.json"}}) {
             FileDialogs::setNextTarget(
                 FileDialogs::Target{folder.filePath(QString::fromUtf8(each.name)), each.format});
-            ImportExport::exportNotes(panel.notes, panel.clock);
+            ImportExport::exportNotes(panel.notes, panel.clock, nullptr);
             QVERIFY2(QFile::exists(folder.filePath(QString::fromUtf8(each.written))), each.written);
         }
         const auto import = [&](const QString &name) {
             FileDialogs::setNextSource(folder.filePath(name));
             ModalQuestion::setNextAnswer(true);
-            ImportExport::importNotes(panel.notes, panel.clock);
+            ImportExport::importNotes(panel.notes, panel.clock, nullptr);
             return ModalQuestion::lastMessage();
         };
         QCOMPARE(import(u"a.json"_s),
@@ -341,7 +411,7 @@ private Q_SLOTS:
         QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
         FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, ExportFormatAccessory::Format::Json});
         ModalQuestion::setNextAnswer(true);
-        ImportExport::exportNotes(panel.notes, panel.clock);
+        ImportExport::exportNotes(panel.notes, panel.clock, nullptr);
         QCOMPARE(ModalQuestion::lastMessage().title, u"导出失败"_s);
     }
 };

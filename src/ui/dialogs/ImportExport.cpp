@@ -26,7 +26,7 @@ QString targetPath(const FileDialogs::Target &target)
 }
 } // namespace
 
-void ImportExport::exportNotes(const NoteStore &store, const Clock &clock)
+void ImportExport::exportNotes(const NoteStore &store, const Clock &clock, QWidget *panel)
 {
     const QString today = DateFormat::format(clock.now(), u"yyyy-MM-dd", "en_US_POSIX", clock.calendar());
     const auto target = FileDialogs::askForTarget(L10n::text("导出笔记"), QStringLiteral("Quillet-") + today);
@@ -38,10 +38,10 @@ void ImportExport::exportNotes(const NoteStore &store, const Clock &clock)
     const Outcome written =
         AtomicFile::replace({{targetPath(*target), [&content](const ByteSink &sink) { sink(content); }}});
     if (!written)
-        ModalQuestion::inform(L10n::text("导出失败"), written.message());
+        ModalQuestion::inform(panel, L10n::text("导出失败"), written.message());
 }
 
-void ImportExport::importNotes(NoteStore &store, const Clock &clock)
+void ImportExport::importNotes(NoteStore &store, const Clock &clock, QWidget *panel)
 {
     const auto path = FileDialogs::askForSource(L10n::text("导入笔记"));
     if (!path)
@@ -50,15 +50,15 @@ void ImportExport::importNotes(NoteStore &store, const Clock &clock)
     const QByteArray content = bytes && bytes.value() ? *bytes.value() : QByteArray();
     const auto decoded = NoteFileCodec::decode(content, clock.now(), clock.calendar());
     if (!decoded) {
-        ModalQuestion::inform(L10n::text("导入失败"),
+        ModalQuestion::inform(panel, L10n::text("导入失败"),
             L10n::text("无法识别的文件格式，请选择 Quillet 导出的 JSON 或 Markdown 文件。"));
         return;
     }
     const qsizetype added = store.importNotes(decoded.value());
     if (added == 0) {
-        ModalQuestion::inform(L10n::text("没有可导入的笔记"), L10n::text("文件中的笔记均已存在。"));
+        ModalQuestion::inform(panel, L10n::text("没有可导入的笔记"), L10n::text("文件中的笔记均已存在。"));
     } else {
-        ModalQuestion::inform(
-            L10n::text("导入完成"), L10n::text("已导入 %@ 条笔记。", QStringList{QString::number(added)}));
+        ModalQuestion::inform(panel, L10n::text("导入完成"),
+            L10n::text("已导入 %@ 条笔记。", QStringList{QString::number(added)}));
     }
 }

@@ -4,12 +4,13 @@
 
 class QWidget;
 
-/// Modal questions and reports. A test answers them in advance, and reads what they said.
+/// Modal questions and reports, on a sheet over the panel that @p owner is in if that shows. A test answers
+/// them in advance, and reads what they said.
 namespace ModalQuestion {
 /// A warning with a button for a destructive action and one to cancel; true if the action was chosen.
 [[nodiscard]] bool confirm(
-    QWidget *parent, const QString &title, const QString &message, const QString &confirmTitle);
-void inform(const QString &title, const QString &message);
+    QWidget *owner, const QString &title, const QString &message, const QString &confirmTitle);
+void inform(QWidget *owner, const QString &title, const QString &message);
 
 struct Message {
     QString title;

@@ -64,12 +64,24 @@ void NoteListView::activate(int row)
 
 void NoteListView::copy(int row)
 {
-    QGuiApplication::clipboard()->setText(m_timeline.row(row).text);
+    copyText(m_timeline.row(row).text);
+}
+
+void NoteListView::copyText(const QString &text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    Q_EMIT done(L10n::text("已复制"));
 }
 
 void NoteListView::remove(int row)
 {
-    m_notes.remove(m_timeline.row(row).id);
+    removeNote(m_timeline.row(row).id);
+}
+
+void NoteListView::removeNote(QUuid noteID)
+{
+    m_notes.remove(noteID);
+    Q_EMIT done(L10n::text("已移到回收站"), [this, noteID] { m_notes.restore(noteID); });
 }
 
 void NoteListView::clickPart(int row, RowPart part)
@@ -94,11 +106,14 @@ void NoteListView::fillMenu(QMenu &menu, int row)
         m_state.setEditingID({});
         m_state.focusComposer();
     });
-    menu.addAction(L10n::text("复制"), this, [note] { QGuiApplication::clipboard()->setText(note.text); });
-    menu.addAction(L10n::text("删除"), this, [this, note] { m_notes.remove(note.id); });
+    menu.addAction(L10n::text("复制"), this, [this, note] { copyText(note.text); });
+    menu.addAction(L10n::text("删除"), this, [this, note] { removeNote(note.id); });
     menu.addSeparator();
     if (m_reminders.hasReminder(note.id))
-        menu.addAction(L10n::text("取消提醒"), this, [this, note] { m_reminders.cancelForNote(note.id); });
+        menu.addAction(L10n::text("取消提醒"), this, [this, note] {
+            m_reminders.cancelForNote(note.id);
+            Q_EMIT done(L10n::text("已取消提醒"));
+        });
     menu.addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
 }
 

@@ -38,6 +38,8 @@ protected:
 
 private:
     void queryDidChange();
+    void copyText(const QString &text);
+    void removeNote(QUuid noteID);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
     void setFlashID(std::optional<QUuid> id);

@@ -43,13 +43,6 @@ private:
     QString m_text;
 };
 
-/// A popover over a translucent window is translucent too.
-FloatingWindow::Backdrop backdropOf(const QWidget &parent)
-{
-    return parent.window()->testAttribute(Qt::WA_TranslucentBackground) ? FloatingWindow::Backdrop::Sharp
-                                                                        : FloatingWindow::Backdrop::None;
-}
-
 QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
@@ -65,7 +58,7 @@ QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidg
 } // namespace
 
 RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget *parent)
-    : FloatingWindow(Qt::Popup | Qt::NoDropShadowWindowHint, backdropOf(*parent),
+    : FloatingWindow(Qt::Popup | Qt::NoDropShadowWindowHint, backdropOver(*parent),
         {Design::popoverRadius, Design::popoverShadow, true}, parent)
 {
     setObjectName(QStringLiteral("relatedNotes"));

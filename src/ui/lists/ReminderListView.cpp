@@ -38,11 +38,17 @@ void ReminderListView::clickPart(int row, RowPart part)
 
 void ReminderListView::remove(int row)
 {
-    m_reminders.cancelForNote(noteOf(row));
+    cancel(noteOf(row));
+}
+
+void ReminderListView::cancel(QUuid noteID)
+{
+    m_reminders.cancelForNote(noteID);
+    Q_EMIT done(L10n::text("已取消提醒"));
 }
 
 void ReminderListView::fillMenu(QMenu &menu, int row)
 {
     menu.addAction(L10n::text("跳转到笔记"), this, [this, id = noteOf(row)] { Q_EMIT noteChosen(id); });
-    menu.addAction(L10n::text("取消提醒"), this, [this, id = noteOf(row)] { m_reminders.cancelForNote(id); });
+    menu.addAction(L10n::text("取消提醒"), this, [this, id = noteOf(row)] { cancel(id); });
 }

@@ -28,6 +28,7 @@ protected:
 
 private:
     [[nodiscard]] QUuid noteOf(int row) const;
+    void cancel(QUuid noteID);
 
     ReminderStore &m_reminders;
     ReminderModel &m_rows;

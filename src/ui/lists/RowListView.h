@@ -2,6 +2,8 @@
 
 #include "ui/lists/RowScrollArea.h"
 
+#include <functional>
+
 class QMenu;
 
 /// A list that the user works in with keys and mouse: one of its rows is the current one. What can be done
@@ -31,6 +33,8 @@ public:
     [[nodiscard]] Hit hitAt(QPoint point) const;
 
 Q_SIGNALS:
+    /// @p undo takes it back; empty where that is impossible.
+    void done(const QString &what, const std::function<void()> &undo = {});
     void left(); ///< by an arrow key beyond the first or last row
 
 protected:

@@ -109,7 +109,8 @@ void TagListView::commitRename(const QString &from, const QString &to)
     m_rename.setRenaming({});
     if (!TagEditing::isValidName(name) || name == from)
         return;
-    if (m_notes.tags().contains(name)) {
+    const bool isMerge = m_notes.tags().contains(name);
+    if (isMerge) {
         const QString message =
             L10n::text("把「#%@」改名为已存在的「#%@」，涉及 %@ 条笔记，合并后无法再分开。",
                 {from, name, QString::number(m_notes.noteCount(from))});
@@ -117,6 +118,7 @@ void TagListView::commitRename(const QString &from, const QString &to)
             return;
     }
     m_notes.renameTag(from, name);
+    Q_EMIT done(isMerge ? L10n::text("已合并标签") : L10n::text("已重命名"));
 }
 
 void TagListView::deleteTag(const QString &tag)
@@ -126,6 +128,8 @@ void TagListView::deleteTag(const QString &tag)
         "将从 %@ "
         "条笔记中移除该标签（含回收站）；时间线中因此变空的笔记会移入回收站。标签文本的改动不可撤销。",
         QStringList{QString::number(m_notes.noteCount(tag))});
-    if (ModalQuestion::confirm(this, title, message, L10n::text("删除")))
-        m_notes.removeTag(tag);
+    if (!ModalQuestion::confirm(this, title, message, L10n::text("删除")))
+        return;
+    m_notes.removeTag(tag);
+    Q_EMIT done(L10n::text("已删除标签"));
 }

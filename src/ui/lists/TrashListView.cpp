@@ -22,7 +22,13 @@ RowPainter::EmptyState TrashListView::emptyState() const
 
 void TrashListView::activate(int row)
 {
-    m_notes.restore(m_trash.row(row).note->id);
+    restore(m_trash.row(row).note->id);
+}
+
+void TrashListView::restore(QUuid noteID)
+{
+    m_notes.restore(noteID);
+    Q_EMIT done(L10n::text("已恢复到时间线"));
 }
 
 void TrashListView::clickPart(int row, RowPart part)
@@ -33,6 +39,5 @@ void TrashListView::clickPart(int row, RowPart part)
 
 void TrashListView::fillMenu(QMenu &menu, int row)
 {
-    menu.addAction(
-        L10n::text("恢复到时间线"), this, [this, id = m_trash.row(row).note->id] { m_notes.restore(id); });
+    menu.addAction(L10n::text("恢复到时间线"), this, [this, id = m_trash.row(row).note->id] { restore(id); });
 }

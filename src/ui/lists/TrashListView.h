@@ -2,6 +2,8 @@
 
 #include "ui/lists/RowListView.h"
 
+#include <QUuid>
+
 class NoteStore;
 class TrashModel;
 
@@ -21,6 +23,8 @@ protected:
     void fillMenu(QMenu &menu, int row) override;
 
 private:
+    void restore(QUuid noteID);
+
     NoteStore &m_notes;
     TrashModel &m_trash;
 };

@@ -5,25 +5,39 @@
 
 #include <QPainter>
 
-CapsuleButton::CapsuleButton(const QString &text, QWidget *parent)
+CapsuleButton::CapsuleButton(const QString &text, Kind kind, QWidget *parent)
     : QPushButton(text, parent)
+    , m_kind(kind)
 {
     setFont(NoteStyle::font());
-    setFixedSize(fontMetrics().horizontalAdvance(text) + 4 * Design::edge, Design::fieldHeight);
+    setAutoDefault(true); // for Return
+    const bool isFlat = kind == Kind::Flat;
+    setFixedHeight(isFlat ? Design::flatButtonHeight : Design::fieldHeight);
+    setMinimumWidth(fontMetrics().horizontalAdvance(text) + (isFlat ? 2 : 4) * Design::edge);
 }
 
 void CapsuleButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF capsule = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const bool isPointedAt = isEnabled() && underMouse();
-    painter.setPen(NoteStyle::color(palette(), hasFocus() ? Design::tagText : Design::hairline));
-    painter.setBrush(isDown()      ? NoteStyle::color(palette(), Design::editingGround)
-                     : isPointedAt ? NoteStyle::color(palette(), Design::hoverGround)
-                     : isEnabled() ? QBrush(NoteStyle::color(palette(), Design::fieldGround))
-                                   : QBrush(Qt::NoBrush));
+    const auto color = [this](Design::Tint tint) { return NoteStyle::color(palette(), tint); };
+    const bool isFlat = m_kind == Kind::Flat;
+    if (hasFocus())
+        painter.setPen(QPen(color(Design::tagText), Design::focusWidth));
+    else
+        painter.setPen(isFlat ? QPen(Qt::NoPen) : QPen(color(Design::hairline)));
+    if (isDown())
+        painter.setBrush(color(Design::editingGround));
+    else if (isEnabled() && underMouse())
+        painter.setBrush(color(Design::hoverGround));
+    else if (isEnabled() && !isFlat)
+        painter.setBrush(color(Design::fieldGround));
+    const qreal inset = painter.pen().widthF() / 2;
+    const QRectF capsule = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
     painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
-    painter.setPen(NoteStyle::color(palette(), isEnabled() ? Design::destructiveText : Design::metaText));
+    painter.setPen(color(!isEnabled()                  ? Design::metaText
+                         : m_kind == Kind::Destructive ? Design::destructiveText
+                         : isFlat                      ? Design::tagText
+                                                       : Design::text));
     painter.drawText(rect(), Qt::AlignCenter, text());
 }

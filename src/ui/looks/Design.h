@@ -37,6 +37,8 @@ inline constexpr int smallSymbolSize = 12;
 inline constexpr int emptySymbolSize = 32;
 inline constexpr int menuRadius = 8;
 inline constexpr int fieldHeight = 32;
+inline constexpr int flatButtonHeight = 24;
+inline constexpr int focusWidth = 2; ///< of the outline around what has the focus
 inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;
 inline constexpr int buttonSize = 28;
@@ -63,4 +65,5 @@ inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};   ///< behind a note 
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};
+inline constexpr std::chrono::milliseconds statusDuration{5000};
 } // namespace Design

@@ -26,6 +26,11 @@ QColor FloatingWindow::ground(const QPalette &palette, Backdrop backdrop)
     return color;
 }
 
+FloatingWindow::Backdrop FloatingWindow::backdropOver(const QWidget &widget)
+{
+    return widget.window()->testAttribute(Qt::WA_TranslucentBackground) ? Backdrop::Sharp : Backdrop::None;
+}
+
 FloatingWindow::FloatingWindow(Qt::WindowFlags flags, Backdrop backdrop, Shape shape, QWidget *parent)
     : QWidget(parent, flags | Qt::FramelessWindowHint)
     , m_backdrop(backdrop)

@@ -16,6 +16,8 @@ public:
 
     /// Nearly opaque, so that text stays readable on any background.
     [[nodiscard]] static QColor ground(const QPalette &palette, Backdrop backdrop);
+    /// For a window over that of @p widget, which is translucent if that is.
+    [[nodiscard]] static Backdrop backdropOver(const QWidget &widget);
 
     struct Shape {
         int radius;

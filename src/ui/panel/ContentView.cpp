@@ -17,8 +17,10 @@
 #include "ui/looks/CapsuleButton.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
+#include "ui/panel/StatusLine.h"
 #include "ui/panel/WarningBanner.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -40,7 +42,7 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     , m_title(new QLabel(this))
     , m_stack(new QStackedLayout)
     , m_pages{{L10n::text("笔记")}, {L10n::text("标签")}, {L10n::text("提醒")}, {L10n::text("回收站")}}
-    , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), this))
+    , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), CapsuleButton::Kind::Destructive, this))
 {
     // The order in which they are made is that of the Tab key.
     auto &timeline = *new NoteListView(
@@ -60,17 +62,25 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     addModeButton(*bar, PanelMode::Reminders, QStringLiteral("bell"));
     addModeButton(*bar, PanelMode::Trash, QStringLiteral("trash"));
 
+    m_statusLine = new StatusLine(this);
+    connect(m_statusLine, &StatusLine::left, this, &ContentView::focusFieldOrList);
+    // The field has an undo of its own, which comes first.
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, m_statusLine, &StatusLine::undo);
     addList(PanelMode::Timeline, timeline, timeline);
     m_tags = new TagListView(notes, *new TagModel(notes), this);
     addList(PanelMode::Tags, *m_tags, *m_tags);
     addReminders();
     addTrash();
 
+    auto *middle = new QGridLayout;
+    middle->addLayout(m_stack, 0, 0);
+    middle->addWidget(m_statusLine, 0, 0, Qt::AlignBottom);
+
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 0);
     layout->setSpacing(0);
     layout->addLayout(bar);
-    layout->addLayout(m_stack, 1);
+    layout->addLayout(middle, 1);
     layout->addWidget(m_composer);
     layout->addWidget(m_trashBar);
 
@@ -99,6 +109,7 @@ void ContentView::addList(PanelMode mode, RowListView &list, QWidget &page)
 {
     m_pages[qsizetype(mode)].list = &list;
     m_stack->insertWidget(int(mode), &page);
+    connect(&list, &RowListView::done, m_statusLine, &StatusLine::tell);
     connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
     auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))), this);
     connect(shortcut, &QShortcut::activated, this, [this, mode] {
@@ -137,7 +148,10 @@ void ContentView::addTrash()
     layout->setContentsMargins(Design::edge, 0, Design::edge, Design::edge);
     layout->addWidget(m_emptyTrash, 0, Qt::AlignHCenter);
     m_emptyTrash->setObjectName(QStringLiteral("emptyTrash"));
-    connect(m_emptyTrash, &QPushButton::clicked, &m_notes, &NoteStore::emptyTrash);
+    connect(m_emptyTrash, &QPushButton::clicked, this, [this] {
+        m_notes.emptyTrash();
+        m_statusLine->tell(L10n::text("已清空回收站"));
+    });
     const auto updateButton = [this] { m_emptyTrash->setEnabled(!m_notes.trash().isEmpty()); };
     connect(&m_notes, &NoteStore::notesChanged, this, updateButton);
     updateButton();
@@ -155,6 +169,14 @@ void ContentView::enter(PanelMode mode)
     m_state.setMode(mode);
     if (hasComposer(mode))
         QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
+    else
+        focusFieldOrList();
+}
+
+void ContentView::focusFieldOrList()
+{
+    if (hasComposer(m_state.mode()))
+        m_composer->setFocus();
     else if (!list().enter())
         list().setFocus();
 }
@@ -197,6 +219,8 @@ bool ContentView::escape()
         m_composer->completion().dismiss();
     else if (m_tags->renameState().renaming())
         m_tags->renameState().setRenaming({});
+    else if (m_statusLine->hasFocusWithin())
+        m_statusLine->dismiss();
     else if (list().hasFocus() && m_composer->isVisible())
         m_composer->setFocus();
     else if (!m_state.draft().isEmpty() && m_composer->isVisible())

@@ -17,6 +17,7 @@ class QLabel;
 class QStackedLayout;
 class ReminderStore;
 class RowListView;
+class StatusLine;
 class TagListView;
 
 /// The content of the panel: the top bar, the list of the current mode, and the composer or what takes its
@@ -51,6 +52,7 @@ private:
     void addTrash();
     [[nodiscard]] RowListView &list() const; ///< of the current mode
     void enter(PanelMode mode);
+    void focusFieldOrList();
     void modeDidChange();
     void selectTag(const QString &tag);
     void timeDidPass();
@@ -63,6 +65,7 @@ private:
     TagListView *m_tags = nullptr;
     QLabel *m_title = nullptr;
     QStackedLayout *m_stack = nullptr;
+    StatusLine *m_statusLine = nullptr;
     QList<Page> m_pages; ///< in the order of the modes
     CapsuleButton *m_emptyTrash = nullptr;
     QWidget *m_trashBar = nullptr; ///< below the trash, in place of the composer

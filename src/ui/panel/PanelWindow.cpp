@@ -41,8 +41,8 @@ bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return false;
     const auto *widget = qobject_cast<QWidget *>(watched);
-    if (!widget || widget->window() != this || m_content->isComposing())
-        return false;
+    if (!widget || widget->window() != this || !m_content->isEnabled() || m_content->isComposing())
+        return false; // not the panel's, but that of a sheet over it, or of the input method
     if (!m_content->escape())
         Q_EMIT escaped();
     return true;
