@@ -4,6 +4,7 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/looks/Symbol.h"
+#include "ui/looks/WidgetRole.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -14,6 +15,7 @@ ComposerBar::ComposerBar(const QString &symbol, const QString &dismissHelp, QWid
 {
     setFixedHeight(Design::barHeight);
     setVisible(false);
+    WidgetRole::set(*this, QAccessible::Notification);
     auto *dismiss = new BarButton(QStringLiteral("xmark"), dismissHelp, this);
     dismiss->setObjectName(QStringLiteral("dismiss"));
     dismiss->setFocusPolicy(Qt::NoFocus);

@@ -13,6 +13,7 @@
 #include "ui/composer/SuggestionList.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
+#include "ui/looks/WidgetRole.h"
 #include "ui/panel/PanelState.h"
 
 #include <QDir>
@@ -49,6 +50,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     colors.setColor(QPalette::Base, Qt::transparent);
     m_field->setPalette(colors);
     setFocusProxy(m_field);
+    WidgetRole::set(*this, QAccessible::Client);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, Design::edge);
@@ -163,8 +165,10 @@ bool ComposerView::handleKey(int key)
 void ComposerView::updateQuoteBar()
 {
     const auto &quoting = m_state.quoting();
-    if (quoting)
+    if (quoting) {
         m_quoteBar->setText(quoting->text);
+        m_quoteBar->setAccessibleName(L10n::text("引用：%@", QStringList{quoting->text}));
+    }
     m_quoteBar->setVisible(quoting && !isFilterOnly());
 }
 
@@ -249,7 +253,7 @@ void ComposerView::updatePlaceholder()
         m_field->setPlaceholderText(L10n::text("编辑中，回车保存修改"));
     else
         m_field->setPlaceholderText(L10n::text("输入即筛选，回车保存"));
-    m_field->setAccessibleName(m_field->placeholderText());
+    m_field->setAccessibleName(isFilterOnly() ? L10n::text("筛选标签") : L10n::text("笔记"));
 }
 
 void ComposerView::focusAtEnd()

@@ -4,6 +4,7 @@
 #include "text/L10n.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
+#include "ui/looks/WidgetRole.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -64,6 +65,7 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     setObjectName(QStringLiteral("relatedNotes"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(L10n::text("相关笔记"));
+    WidgetRole::set(*this, QAccessible::Dialog);
     setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * margin());
 
     auto *layout = new QVBoxLayout(this);

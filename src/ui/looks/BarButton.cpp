@@ -6,18 +6,13 @@
 
 #include <QPainter>
 
-BarButton::BarButton(const QString &symbol, const QString &help, QWidget *parent)
+BarButton::BarButton(const QString &symbol, const QString &name, QWidget *parent)
     : QToolButton(parent)
     , m_symbol(symbol)
 {
     setFixedSize(Design::buttonSize, Design::buttonSize);
-    setHelp(help);
-}
-
-void BarButton::setHelp(const QString &help)
-{
-    setToolTip(help);
-    setAccessibleName(help);
+    setToolTip(name);
+    setAccessibleName(name);
 }
 
 void BarButton::paintEvent(QPaintEvent *)

@@ -8,10 +8,8 @@ class BarButton final : public QToolButton
     Q_OBJECT
 
 public:
-    /// @p help is its tooltip and its accessible name.
-    BarButton(const QString &symbol, const QString &help, QWidget *parent = nullptr);
-
-    void setHelp(const QString &help);
+    /// @p name is its accessible name, and its tooltip until another is set.
+    BarButton(const QString &symbol, const QString &name, QWidget *parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

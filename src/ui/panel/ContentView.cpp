@@ -17,9 +17,11 @@
 #include "ui/looks/CapsuleButton.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
+#include "ui/looks/WidgetRole.h"
 #include "ui/panel/StatusLine.h"
 #include "ui/panel/WarningBanner.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QShortcut>
@@ -49,6 +51,7 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
         notes, search, reminders, m_state, *new TimelineModel(notes, search, reminders, clock), this);
     m_composer = new ComposerView(notes, m_state, detector, titles, clock, this);
     setFocusProxy(m_composer);
+    WidgetRole::set(*this, QAccessible::Client);
 
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setTextFormat(Qt::PlainText);
@@ -189,14 +192,20 @@ void ContentView::modeDidChange()
     for (const Page &page : std::as_const(m_pages)) {
         if (page.button) {
             page.button->setChecked(&page == &current);
-            page.button->setHelp(&page == &current ? L10n::text("返回时间线") : page.title);
+            page.button->setToolTip(&page == &current ? L10n::text("返回时间线") : page.title);
         }
     }
     m_stack->setCurrentIndex(int(mode));
     m_composer->setVisible(hasComposer(mode));
     m_trashBar->setVisible(mode == PanelMode::Trash);
-    if (isVisible())
-        timeDidPass();
+    if (!isVisible())
+        return;
+    timeDidPass();
+    if (m_composer->hasFocus()) {
+        // The focus stays, but what is typed means something else now.
+        WidgetRole::announce(*m_title, QAccessible::Focus);
+        WidgetRole::announce(*QApplication::focusWidget(), QAccessible::Focus);
+    }
 }
 
 void ContentView::selectTag(const QString &tag)

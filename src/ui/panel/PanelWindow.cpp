@@ -1,6 +1,7 @@
 #include "ui/panel/PanelWindow.h"
 
 #include "ui/looks/Design.h"
+#include "ui/looks/WidgetRole.h"
 #include "ui/panel/ContentView.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@ PanelWindow::PanelWindow(ContentView *content, Backdrop backdrop)
 {
     setWindowTitle(QStringLiteral("Quillet"));
     setObjectName(QStringLiteral("panel"));
+    WidgetRole::set(*this, QAccessible::Window);
     setFixedSize(Design::panelSize.grownBy(QMargins() + margin()));
     setFocusProxy(m_content);
     auto *layout = new QVBoxLayout(this);

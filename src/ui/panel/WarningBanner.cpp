@@ -3,6 +3,7 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/looks/Symbol.h"
+#include "ui/looks/WidgetRole.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -14,6 +15,8 @@ WarningBanner::WarningBanner(const QString &symbol, const QString &text, QWidget
     , m_symbol(symbol)
     , m_text(new QLabel(text, this))
 {
+    setAccessibleName(text);
+    WidgetRole::set(*this, QAccessible::Notification);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setFont(NoteStyle::quoteFont());
     m_text->setWordWrap(true);
