@@ -1,29 +1,88 @@
 #include "ui/composer/SuggestionList.h"
 
+#include "text/L10n.h"
 #include "text/TagCompletion.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
+#include "ui/looks/WidgetRole.h"
 
-#include <QMouseEvent>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QPainter>
+#include <QVBoxLayout>
+
+/// Is named by what it shows.
+class SuggestionRow final : public QAbstractButton
+{
+public:
+    explicit SuggestionRow(QWidget *parent)
+        : QAbstractButton(parent)
+    {
+        setFixedHeight(Design::suggestionHeight);
+        setFocusPolicy(Qt::NoFocus);
+        setCursor(Qt::PointingHandCursor);
+        setAttribute(Qt::WA_Hover);
+        WidgetRole::set(*this, QAccessible::ListItem);
+    }
+    void show(const QString &tag, bool isSelected)
+    {
+        if (tag == accessibleName() && isSelected == m_isSelected)
+            return;
+        m_isSelected = isSelected;
+        setAccessibleName(tag);
+        setVisible(!tag.isEmpty());
+        update();
+        WidgetRole::setSelected(*this, isSelected);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setFont(NoteStyle::font());
+        if (m_isSelected || underMouse()) {
+            NoteStyle::fillRounded(painter, rect(), Design::rowRadius,
+                NoteStyle::color(palette(), m_isSelected ? Design::editingGround : Design::hoverGround));
+        }
+        painter.setPen(NoteStyle::color(palette(), Design::tagText));
+        NoteStyle::drawLine(painter, rect().adjusted(Design::edge, 0, -Design::edge, 0), accessibleName());
+    }
+
+private:
+    bool m_isSelected = false;
+};
 
 SuggestionList::SuggestionList(const TagCompletionState &completion, QWidget *parent)
     : QWidget(parent)
     , m_completion(completion)
 {
     setObjectName(QStringLiteral("suggestions"));
-    setMouseTracking(true);
-    setCursor(Qt::PointingHandCursor);
+    setAccessibleName(L10n::text("标签"));
     setVisible(false);
+    WidgetRole::set(*this, QAccessible::List);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Design::edge, 0, Design::edge, Design::grid);
+    layout->setSpacing(0);
     connect(&m_completion, &TagCompletionState::changed, this, &SuggestionList::completionDidChange);
 }
 
 void SuggestionList::completionDidChange()
 {
-    setFixedHeight(int(m_completion.candidates().size()) * Design::suggestionHeight + Design::grid);
-    setAccessibleName(suggestions().value(m_completion.selection()));
+    const QStringList shown = suggestions();
+    while (m_rows.size() < shown.size()) {
+        auto *row = new SuggestionRow(this);
+        connect(row, &SuggestionRow::clicked, this,
+            [this, number = m_rows.size()] { Q_EMIT chosen(m_completion.candidates()[number]); });
+        layout()->addWidget(row);
+        m_rows.append(row);
+    }
+    const bool wasVisible = isVisible();
     setVisible(m_completion.isActive());
-    update();
+    for (qsizetype row = 0; row < m_rows.size(); ++row)
+        m_rows[row]->show(shown.value(row), m_completion.isActive() && row == m_completion.selection());
+    // What is announced last is where screen readers believe the focus to be.
+    if (QWidget *field = QApplication::focusWidget(); field && wasVisible && !m_completion.isActive())
+        WidgetRole::announce(*field, QAccessible::Focus);
 }
 
 QStringList SuggestionList::suggestions() const
@@ -32,47 +91,4 @@ QStringList SuggestionList::suggestions() const
     for (const QString &candidate : m_completion.candidates())
         shown.append(u'#' + candidate);
     return shown;
-}
-
-qsizetype SuggestionList::rowAt(int y) const
-{
-    const qsizetype row = y / Design::suggestionHeight;
-    return y >= 0 && row < m_completion.candidates().size() ? row : -1;
-}
-
-void SuggestionList::mouseMoveEvent(QMouseEvent *event)
-{
-    m_hovered = rowAt(event->position().toPoint().y());
-    update();
-}
-
-void SuggestionList::leaveEvent(QEvent *)
-{
-    m_hovered = -1;
-    update();
-}
-
-void SuggestionList::mouseReleaseEvent(QMouseEvent *event)
-{
-    const qsizetype row = rowAt(event->position().toPoint().y());
-    if (event->button() == Qt::LeftButton && row >= 0)
-        Q_EMIT chosen(m_completion.candidates()[row]);
-}
-
-void SuggestionList::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.setFont(NoteStyle::font());
-    const QStringList shown = suggestions();
-    for (qsizetype row = 0; row < shown.size(); ++row) {
-        const QRect rect(Design::edge, int(row) * Design::suggestionHeight, width() - 2 * Design::edge,
-            Design::suggestionHeight);
-        const bool isSelected = row == m_completion.selection();
-        if (isSelected || row == m_hovered) {
-            NoteStyle::fillRounded(painter, rect, Design::rowRadius,
-                NoteStyle::color(palette(), isSelected ? Design::editingGround : Design::hoverGround));
-        }
-        painter.setPen(NoteStyle::color(palette(), Design::tagText));
-        NoteStyle::drawLine(painter, rect.adjusted(Design::edge, 0, -Design::edge, 0), shown[row]);
-    }
 }

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QWidget>
 
+class SuggestionRow;
 class TagCompletionState;
 
 /// The tags offered for completion, one per row; the selected one is highlighted.
@@ -18,16 +19,9 @@ public:
 Q_SIGNALS:
     void chosen(const QString &candidate);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-
 private:
     void completionDidChange();
-    [[nodiscard]] qsizetype rowAt(int y) const; ///< -1 outside the rows
 
     const TagCompletionState &m_completion;
-    qsizetype m_hovered = -1;
+    QList<SuggestionRow *> m_rows; ///< at least as many as there are candidates
 };
