@@ -3,6 +3,8 @@
 #include "ui/lists/RowListView.h"
 #include "ui/lists/RowModel.h"
 
+#include <QLineEdit>
+
 #include <algorithm>
 
 namespace {
@@ -37,12 +39,19 @@ public:
         const QRect rect = m_list.view()->rectOf(row());
         return {m_list.view()->viewport()->mapToGlobal(rect.topLeft()), rect.size()};
     }
-    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
+    [[nodiscard]] QAccessible::Role role() const override
+    {
+        return isHeader() ? QAccessible::Heading : QAccessible::ListItem;
+    }
     [[nodiscard]] QAccessible::State state() const override
     {
+        const RowListView &view = *m_list.view();
         QAccessible::State state;
-        state.focusable = state.selectable = true;
-        state.focused = m_list.view()->hasFocus() && m_list.view()->currentRow() == row();
+        state.focusable = state.selectable = !isHeader();
+        state.selected = view.currentRow() == row();
+        state.focused = state.selected && view.hasFocus();
+        state.invisible = !view.isVisible();
+        state.offscreen = !view.viewport()->rect().intersects(view.rectOf(row()));
         return state;
     }
     void *interface_cast(QAccessible::InterfaceType type) override
@@ -51,7 +60,10 @@ public:
                                                     : nullptr;
     }
 
-    [[nodiscard]] QStringList actionNames() const override { return {pressAction(), showMenuAction()}; }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return isHeader() ? QStringList() : QStringList{pressAction(), showMenuAction()};
+    }
     void doAction(const QString &name) override
     {
         if (name == pressAction())
@@ -62,6 +74,8 @@ public:
     [[nodiscard]] QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
+    [[nodiscard]] bool isHeader() const { return m_list.view()->model().isHeader(row()); }
+
     const RowListAccessible &m_list;
     QPersistentModelIndex m_index;
 };
@@ -136,14 +150,28 @@ void RowListAccessible::forgetRows(int first, int last)
     }
 }
 
+QWidget *RowListAccessible::editor() const
+{
+    return view()->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 int RowListAccessible::childCount() const
 {
-    return view()->model().rowCount();
+    return view()->model().rowCount() + (editor() ? 1 : 0);
+}
+
+QString RowListAccessible::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Description && view()->model().rowCount() == 0)
+        return view()->emptyState().text;
+    return QAccessibleWidget::text(kind);
 }
 
 QAccessibleInterface *RowListAccessible::child(int row) const
 {
-    if (row < 0 || row >= childCount())
+    if (row == view()->model().rowCount())
+        return QAccessible::queryAccessibleInterface(editor());
+    if (row < 0 || row > view()->model().rowCount())
         return nullptr;
     const QPersistentModelIndex index = view()->model().index(row);
     const auto known = m_rows.constFind(index);
@@ -166,6 +194,8 @@ QAccessibleInterface *RowListAccessible::focusChild() const
 
 int RowListAccessible::indexOfChild(const QAccessibleInterface *wanted) const
 {
+    if (wanted->object() && wanted->object() == editor())
+        return view()->model().rowCount();
     const auto *row = dynamic_cast<const RowAccessible *>(wanted);
     return row ? row->row() : -1;
 }

@@ -20,6 +20,7 @@ public:
     ~RowListAccessible() override;
 
     [[nodiscard]] int childCount() const override;
+    [[nodiscard]] QString text(QAccessible::Text kind) const override; ///< also what an empty list shows
     [[nodiscard]] QAccessibleInterface *child(int row) const override;
     [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override;
     [[nodiscard]] QAccessibleInterface *focusChild() const override;
@@ -28,6 +29,7 @@ public:
     [[nodiscard]] RowListView *view() const;
 
 private:
+    [[nodiscard]] QWidget *editor() const; ///< of one of the rows; the last child while there is one
     void announceRows(int first, int last, QAccessible::Event event) const;
     void forgetRows(int first, int last);
 

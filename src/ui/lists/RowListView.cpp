@@ -91,7 +91,9 @@ void RowListView::focusInEvent(QFocusEvent *event)
     if (isByTab && m_current < 0)
         m_current = entryFrom(firstRowInView(), 1);
     viewport()->update();
-    RowListAccessible::announceCurrentRow(*this);
+    // After Qt has announced the list itself.
+    QMetaObject::invokeMethod(
+        this, [this] { RowListAccessible::announceCurrentRow(*this); }, Qt::QueuedConnection);
 }
 
 void RowListView::focusOutEvent(QFocusEvent *event)

@@ -65,7 +65,7 @@ void TagListView::editDidChange()
     const auto &renaming = m_rename.renaming();
     if (!renaming || m_tags.rowOf(*renaming) < 0)
         return;
-    m_editor = new QLineEdit(*renaming, viewport());
+    m_editor = new QLineEdit(*renaming, this);
     m_editor->setObjectName(QStringLiteral("tagNameField"));
     m_editor->setPlaceholderText(L10n::text("标签名"));
     m_editor->setAccessibleName(m_editor->placeholderText());
