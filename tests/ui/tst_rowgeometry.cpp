@@ -107,20 +107,41 @@ private Q_SLOTS:
         QCOMPARE(geometry.offset(), expected);
     }
 
-    void an_offset_shows_a_row_or_centers_it()
+    void an_offset_shows_a_row_or_centers_it_or_goes_on_within_it()
     {
-        RowGeometry geometry = geometryOf(Heights(20, 100));
-        geometry.setOffset(550, page);
+        RowGeometry geometry = geometryOf({100, 100, 100, 100, 100, 100, 360, 1000, 100, 100});
+        constexpr RowGeometry::View view{page, 28, 20};
         struct Case {
+            int offset;
             int row;
             int toShow;
             int toCenter;
+            int down;
+            int up;
         };
-        for (const Case &each : {Case{5, 472, 350}, Case{6, 550, 450}, Case{8, 550, 650}, Case{9, 600, 750},
-                 Case{19, 1600, 1750}}) {
-            QCOMPARE(geometry.offsetToShow(each.row, page, 28), each.toShow);
-            QCOMPARE(geometry.offsetToCenter(each.row, page), each.toCenter);
+        for (const Case &each : {Case{250, 2, 172, 50, 250, 250}, Case{250, 4, 250, 250, 250, 250},
+                 Case{250, 5, 250, 350, 250, 250}, Case{350, 6, 572, 572, 580, 350},
+                 Case{575, 6, 575, 572, 580, 572}, Case{580, 6, 580, 572, 580, 572},
+                 Case{600, 7, 932, 932, 932, 600}, Case{932, 7, 932, 932, 1232, 932},
+                 Case{1232, 7, 1232, 932, 1532, 932}, Case{1532, 7, 1532, 932, 1580, 1232},
+                 Case{1580, 7, 1580, 932, 1580, 1280}, Case{1900, 7, 932, 932, 1900, 1580},
+                 Case{932, 8, 1680, 1810, 932, 932}}) {
+            geometry.setOffset(each.offset, page);
+            QCOMPARE(geometry.offsetToShow(each.row, view), each.toShow);
+            QCOMPARE(geometry.offsetToCenter(each.row, view), each.toCenter);
+            QCOMPARE(geometry.offsetWithin(each.row, view, 300), each.down);
+            QCOMPARE(geometry.offsetWithin(each.row, view, -300), each.up);
         }
+    }
+
+    void what_was_read_is_found_again_in_rows_of_other_heights()
+    {
+        const RowGeometry before = geometryOf({100, 1000, 100});
+        const RowGeometry after = geometryOf({300, 100, 200});
+        const std::pair<int, int> places[] = {{0, 0}, {50, 150}, {100, 300}, {600, 350}, {1095, 400},
+            {1100, 400}, {1150, 500}, {1200, 600}, {1208, 608}};
+        for (const auto &[y, expected] : places)
+            QCOMPARE(after.yOf(before, y), expected);
     }
 
     void a_random_walk_agrees_with_plain_sums()

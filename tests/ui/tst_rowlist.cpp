@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVariantAnimation>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -186,23 +188,215 @@ private Q_SLOTS:
         QCOMPARE(list.rectOf(0).top(), 0);
     }
 
-    void a_scroll_to_the_center_ends_there_although_rows_come_on_the_way()
+    void a_jump_ends_in_the_middle_whatever_lies_between_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<int>("distance");
+        QTest::addColumn<bool>("isChanging");
+        for (const QString &script : {u"words "_s, u"笔记本里的字"_s, u"买 milk 和面包 "_s}) {
+            for (const int distance : {1, 100, 9000}) {
+                for (const bool isChanging : {false, true}) {
+                    QTest::addRow("%s %d%s", qUtf8Printable(script), distance, isChanging ? " changing" : "")
+                        << script << distance << isChanging;
+                }
+            }
+        }
+    }
+    void a_jump_ends_in_the_middle_whatever_lies_between()
+    {
+        QFETCH(QString, script);
+        QFETCH(int, distance);
+        QFETCH(bool, isChanging);
+        auto &model = *new PlainModel;
+        PlainList list(model);
+        const QString text = script.repeated(2000 / script.size() + 1);
+        QList<PlainRow> rows;
+        for (int i = 0; i < 10000; ++i) {
+            const bool isHeader = i % 9 == 0;
+            const int length = i % 4 == 0 ? 1 + i * 37 % 2000 : 1 + i * 37 % 90;
+            rows.append(
+                {isHeader ? u"#%1"_s.arg(i) : QString::number(i), isHeader ? u"day"_s : text.first(length)});
+        }
+        model.set(rows);
+        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
+        auto *flash = list.findChild<QVariantAnimation *>(u"flash"_s);
+        const int page = list.viewport()->height();
+        for (int i = 0; i < 6; ++i) {
+            const int target = (500 + i / 2 * 7 + (i % 2) * distance) % 10000; // there and back
+            const QString name = QString::number(target);
+            const auto rowOfTarget = [&] {
+                int row = 0;
+                while (row < model.rowCount() && model.row(row).name != name
+                       && model.row(row).name != u'#' + name)
+                    ++row;
+                return model.index(row);
+            };
+            list.jumpTo(rowOfTarget);
+            for (const int time : {100, 250, 400, 550, 600}) {
+                scrolling->setCurrentTime(time);
+                list.grab();
+                if (isChanging) { // some replace all rows in between
+                    rows.prepend({u"new%1"_s.arg(rows.size()), u"new"_s});
+                    if (time == 400)
+                        rows.removeLast();
+                    rows.insert(4 + time, {u"in%1"_s.arg(rows.size()), text.first(time)});
+                    if (time < 600)
+                        model.set(rows);
+                }
+            }
+            const QRect rect = list.rectOf(rowOfTarget().row());
+            const bool isHigh = rect.height() > page - 2 * Design::headerHeight;
+            QCOMPARE(isHigh ? rect.top() : (rect.top() + rect.bottom() + 1 - page) / 2,
+                isHigh ? Design::headerHeight : 0);
+            QCOMPARE(flash->state(), QVariantAnimation::Running);
+        }
+    }
+
+    void a_jump_near_the_ends_goes_as_far_as_the_list()
     {
         auto &model = *new PlainModel;
         PlainList list(model);
-        model.set(rowsOfAllHeights(100, 300));
-        list.grab();
-        list.scrollToCenter(200);
-        const QString name = model.row(200).name;
-        QTest::qWait(200);
-        model.set(rowsOfAllHeights(90, 310));
-        const auto isCentered = [&] {
-            return std::abs(list.rectOfName(name).center().y() - list.viewport()->height() / 2) <= 1;
+        model.set(rowsOfAllHeights(1, 300));
+        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
+        const auto rectAfterJump = [&](int row) {
+            list.jumpTo([&, row] { return model.index(row); });
+            scrolling->setCurrentTime(scrolling->duration());
+            list.grab();
+            return list.rectOf(row);
         };
-        QVERIFY(!isCentered());
-        QTRY_VERIFY(isCentered());
-        QTest::qWait(100);
-        QVERIFY(isCentered());
+        const int last = model.rowCount() - 1;
+        QCOMPARE(rectAfterJump(last).bottom() + 1, list.viewport()->height() - 2 * Design::grid);
+        QCOMPARE(rectAfterJump(0).top(), 0);
+    }
+
+    void equal_turns_of_the_wheel_move_the_rows_equally_data()
+    {
+        QTest::addColumn<QPoint>("pixels");
+        QTest::addColumn<int>("angle");
+        QTest::addColumn<int>("turns");
+        QTest::addColumn<int>("moved"); // in all
+        const int notch = QApplication::wheelScrollLines() * Design::headerHeight;
+        QTest::newRow("notches") << QPoint() << 120 << 10 << 10 * notch;
+        QTest::newRow("eighths of notches") << QPoint() << 15 << 80 << 10 * notch;
+        QTest::newRow("the finest wheel") << QPoint() << 1 << 360 << 3 * notch;
+        QTest::newRow("a touchpad") << QPoint(0, 3) << 40 << 100 << 300;
+    }
+    void equal_turns_of_the_wheel_move_the_rows_equally()
+    {
+        QFETCH(QPoint, pixels);
+        QFETCH(int, angle);
+        QFETCH(int, turns);
+        QFETCH(int, moved);
+        for (const int direction : {1, -1}) { // up at first, into rows that have only been estimated
+            auto &model = *new PlainModel;
+            PlainList list(model);
+            model.set(rowsOfAllHeights(100, 600));
+            list.scrollTo(300);
+            list.grab();
+            int sum = 0;
+            for (int i = 0; i < turns; ++i) {
+                const int row = direction > 0 ? list.firstRowInView() : list.lastRowInView();
+                const int before = list.rectOf(row).top();
+                QWheelEvent event({5, 5}, list.viewport()->mapToGlobal(QPointF(5, 5)), direction * pixels,
+                    {0, direction * angle}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(
+                    i % 2 == 0 ? list.viewport() : static_cast<QWidget *>(list.verticalScrollBar()), &event);
+                const int after = list.rectOf(row).top();
+                sum += after - before;
+                if (moved % turns == 0)
+                    QCOMPARE(after - before, direction * moved / turns);
+                if (i % 3 == 0)
+                    list.grab();
+            }
+            QVERIFY2(std::abs(sum - direction * moved) <= 1, qPrintable(QString::number(sum)));
+        }
+    }
+
+    void a_dragged_thumb_leads_to_the_same_rows_and_to_both_ends()
+    {
+        auto &model = *new PlainModel;
+        PlainList list(model);
+        QList<PlainRow> rows = rowsOfAllHeights(1, 400);
+        for (PlainRow &row : rows)
+            row.text.replace(u'字', u'i'); // not as high as estimated
+        rows.append({u"last"_s, QString(1900, u'字')});
+        model.set(rows);
+        list.grab();
+        QScrollBar &bar = *list.verticalScrollBar();
+        const int maximum = bar.maximum();
+        bar.setSliderDown(true);
+        const auto placeAt = [&](int position) {
+            bar.setSliderPosition(position);
+            list.grab();
+            const int row = list.rowAt({20, 200});
+            return std::pair(row, list.rectOf(row).top());
+        };
+        QList<std::pair<int, int>> places;
+        for (int i = 1; i < 20; ++i)
+            places.append(placeAt(maximum * i / 20));
+        QVERIFY(
+            std::is_sorted(places.begin(), places.end(), [](auto a, auto b) { return a.first < b.first; }));
+        placeAt(maximum);
+        QCOMPARE(bar.maximum(), maximum);
+        QCOMPARE(list.rectOfName(u"last"_s).bottom() + 1, list.viewport()->height() - 2 * Design::grid);
+        for (int i = 19; i > 0; --i) {
+            const auto [row, top] = placeAt(maximum * i / 20);
+            QCOMPARE(row, places[i - 1].first);
+            QVERIFY(std::abs(top - places[i - 1].second) <= 1);
+        }
+        placeAt(0);
+        QCOMPARE(list.rectOf(0).top(), 0);
+        bar.setSliderDown(false);
+        list.scrollToEnd(1);
+        QCOMPARE(bar.value(), bar.maximum());
+        list.grab();
+        QCOMPARE(bar.value(), bar.maximum());
+        QVERIFY(bar.maximum() < maximum);
+    }
+
+    void a_row_higher_than_the_view_is_read_to_its_end()
+    {
+        auto &model = *new PlainModel;
+        PlainList list(model);
+        QList<PlainRow> rows = rowsNamed({u"#x"_s, u"a"_s, u"long"_s, u"b"_s, u"tail"_s});
+        rows[2].text = rows[4].text = QString(1500, u'字');
+        model.set(rows);
+        list.grab();
+        const auto steps = [&](int row, int direction) {
+            int count = 0;
+            for (; list.scrollWithin(row, direction) && count < 100; ++count)
+                list.grab();
+            return count;
+        };
+        list.scrollTo(2);
+        QCOMPARE(list.rectOf(2).top(), Design::headerHeight);
+        const int pages = steps(2, 1);
+        QVERIFY(pages >= list.rectOf(2).height() / list.viewport()->height());
+        QCOMPARE(list.rectOf(2).bottom() + 1, list.viewport()->height() - Design::fadingEdge);
+        QCOMPARE(steps(2, -1), pages);
+        QCOMPARE(list.rectOf(2).top(), Design::headerHeight);
+        QCOMPARE(steps(3, 1), 0);
+        list.scrollTo(3);
+        QCOMPARE(list.rectOf(3).bottom() + 1, list.viewport()->height() - Design::fadingEdge);
+        list.scrollTo(4);
+        QVERIFY(steps(4, 1) > 0); // which ends at the end of the list
+        QCOMPARE(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+    }
+
+    void what_is_read_stays_when_the_list_is_made_narrower()
+    {
+        auto &model = *new PlainModel;
+        PlainList list(model);
+        model.set(rowsOfAllHeights(1, 300));
+        list.scrollTo(200);
+        list.grab();
+        const QPoint reading(20, Design::headerHeight + 1);
+        const int row = list.rowAt(reading);
+        for (const QSize size : {QSize(250, 400), QSize(600, 300), QSize(340, 400)}) {
+            list.resize(size);
+            list.grab();
+            QCOMPARE(list.rowAt(reading), row);
+        }
     }
 
     void an_interface_that_a_screen_reader_holds_follows_its_row()

@@ -13,7 +13,6 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QScrollBar>
 #include <QTimer>
 #include <QUrl>
 
@@ -41,7 +40,7 @@ void NoteListView::queryDidChange()
         return;
     m_timeline.setQuery(m_state.draft());
     forgetHeights(); // other matches are coloured in the rows that stay
-    verticalScrollBar()->setValue(0);
+    scrollToEnd(-1);
 }
 
 RowPainter::EmptyState NoteListView::emptyState() const
@@ -121,10 +120,8 @@ QColor NoteListView::groundOf(int row) const
 {
     if (m_timeline.isHeader(row))
         return {};
-    const QUuid id = m_timeline.row(row).id;
-    if (id == m_flashID)
-        return NoteStyle::color(palette(), Design::flashGround);
-    return id == m_state.editingID() ? NoteStyle::color(palette(), Design::editingGround) : QColor();
+    const bool isEdited = m_timeline.row(row).id == m_state.editingID();
+    return isEdited ? NoteStyle::color(palette(), Design::editingGround) : QColor();
 }
 
 void NoteListView::showRelated(const Note &note)
@@ -146,15 +143,13 @@ void NoteListView::jumpToExternalTarget()
 void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
 {
     const auto jump = [this, noteID, clearsExternalTarget] {
-        const QModelIndex index = m_timeline.indexOf(noteID);
-        if (index.isValid())
-            scrollToCenter(index.row());
-        setFlashID(noteID);
+        jumpTo([this, noteID] { return m_timeline.indexOf(noteID); });
+        m_flashID = noteID;
         if (clearsExternalTarget)
             m_state.setJumpTargetID({});
         QTimer::singleShot(Design::flashDuration, this, [this, noteID] {
-            if (flashID() == noteID)
-                setFlashID({});
+            if (m_flashID == noteID)
+                m_flashID.reset();
         });
     };
     if (m_timeline.indexOf(noteID).isValid()) {
@@ -163,10 +158,4 @@ void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
     }
     m_state.setDraft({});
     QTimer::singleShot(0, this, jump);
-}
-
-void NoteListView::setFlashID(std::optional<QUuid> id)
-{
-    m_flashID = id;
-    viewport()->update();
 }

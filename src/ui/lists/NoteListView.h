@@ -24,6 +24,7 @@ public:
 
     /// Scrolls the note to the center and flashes it. A draft that hides the note is cleared first.
     void scrollAndFlash(QUuid noteID, bool clearsExternalTarget);
+    /// The note of the latest jump, for half a second. Its row is lit for longer, from when it is in view.
     [[nodiscard]] std::optional<QUuid> flashID() const { return m_flashID; }
 
     [[nodiscard]] RowPainter::EmptyState emptyState() const override;
@@ -42,7 +43,6 @@ private:
     void removeNote(QUuid noteID);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
-    void setFlashID(std::optional<QUuid> id);
 
     NoteStore &m_notes;
     NoteSearch &m_search;

@@ -1,6 +1,7 @@
 #include "ui/lists/RowGeometry.h"
 
 #include <algorithm>
+#include <cmath>
 
 void RowGeometry::reset(const std::vector<int> &estimates)
 {
@@ -90,15 +91,33 @@ int RowGeometry::offset() const
     return m_anchorRow < 0 ? 0 : std::max(0, top(m_anchorRow) - m_anchorY);
 }
 
-int RowGeometry::offsetToCenter(int row, int page) const
+int RowGeometry::offsetToCenter(int row, View view) const
 {
-    return (top(row) + bottom(row)) / 2 - page / 2;
+    return std::min((top(row) + bottom(row) - view.height) / 2, top(row) - view.covered);
 }
 
-int RowGeometry::offsetToShow(int row, int page, int covered) const
+int RowGeometry::offsetToShow(int row, View view) const
 {
-    if (top(row) < offset() + covered)
-        return top(row) - covered;
-    // Of a row higher than the view, its beginning.
-    return std::min(top(row) - covered, std::max(offset(), bottom(row) - page));
+    const int atTop = top(row) - view.covered;
+    const int atBottom = bottom(row) - view.height + view.faded;
+    if (atBottom <= atTop)
+        return std::clamp(offset(), atBottom, atTop);
+    return offset() >= atTop && offset() <= atBottom ? offset() : atTop;
+}
+
+int RowGeometry::offsetWithin(int row, View view, int step) const
+{
+    const int atTop = top(row) - view.covered;
+    const int atBottom = bottom(row) - view.height + view.faded;
+    const bool isAtEdge = step > 0 ? offset() >= atBottom : offset() <= atTop;
+    return atBottom <= atTop || isAtEdge ? offset() : std::clamp(offset() + step, atTop, atBottom);
+}
+
+int RowGeometry::yOf(const RowGeometry &before, int y) const
+{
+    const int row = before.rowAt(y);
+    if (row < 0 || y >= before.bottom(row))
+        return top(count()) + y - before.top(before.count());
+    const double share = double(y - before.top(row)) / (before.bottom(row) - before.top(row));
+    return top(row) + int(std::lround(share * (bottom(row) - top(row))));
 }

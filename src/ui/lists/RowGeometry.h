@@ -29,11 +29,19 @@ public:
     void setOffset(int offset, int page);
     [[nodiscard]] int offset() const;
 
-    // Offsets to scroll to, before they are clamped to the end of the list. @p covered is what a pinned
-    // header may take off the top of the view.
-    [[nodiscard]] int offsetToCenter(int row, int page) const;
-    [[nodiscard]] int offsetToShow(
-        int row, int page, int covered) const; ///< offset() when the row is in view
+    /// The height of the view, and how much of it a pinned header and a fading edge may cover.
+    struct View {
+        int height;
+        int covered;
+        int faded;
+    };
+    // Offsets to scroll to, before they are clamped to the list. Of a row higher than the view:
+    [[nodiscard]] int offsetToCenter(int row, View view) const; ///< its beginning
+    [[nodiscard]] int offsetToShow(int row, View view) const;   ///< its beginning, unless it fills the view
+    /// The next part of it, downwards or upwards by the sign of @p step; offset() when there is none.
+    [[nodiscard]] int offsetWithin(int row, View view, int step) const;
+    /// Where that which was at @p y in @p before is now: as far into its row as then.
+    [[nodiscard]] int yOf(const RowGeometry &before, int y) const;
 
 private:
     struct Row {

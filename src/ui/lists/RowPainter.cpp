@@ -28,9 +28,13 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
         return;
     }
     m_painter.setRenderHint(QPainter::Antialiasing);
-    if (marks.ground.isValid()) {
-        NoteStyle::fillRounded(
-            m_painter, rect.adjusted(Design::grid, 1, -Design::grid, -1), Design::rowRadius, marks.ground);
+    const QRect ground = rect.adjusted(Design::grid, 1, -Design::grid, -1);
+    if (marks.ground.isValid())
+        NoteStyle::fillRounded(m_painter, ground, Design::rowRadius, marks.ground);
+    if (marks.flash > 0) {
+        QColor flash = NoteStyle::color(m_palette, Design::flashGround);
+        flash.setAlphaF(float(marks.flash));
+        NoteStyle::fillRounded(m_painter, ground, Design::rowRadius, flash);
     }
     const QColor text = NoteStyle::color(m_palette, Design::text);
     const RowLayout::Parts &parts = layout.parts();

@@ -14,6 +14,7 @@ public:
     struct Marks {
         QColor ground; ///< behind the row; invalid for none
         RowPart hovered;
+        double flash = 0; ///< its strength, up to 1
     };
     /// What a list without rows shows.
     struct EmptyState {

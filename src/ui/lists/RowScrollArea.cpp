@@ -4,9 +4,11 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/SlimScrollBar.h"
 
+#include <QApplication>
 #include <QEasingCurve>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -23,6 +25,13 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     // width, and with it the heights that it follows from.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     verticalScrollBar()->setSingleStep(Design::headerHeight);
+    verticalScrollBar()->installEventFilter(this);
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, &RowScrollArea::didUseScrollBar);
+    connect(verticalScrollBar(), &QScrollBar::sliderPressed, this, [this] { m_dragged = m_geometry; });
+    connect(verticalScrollBar(), &QScrollBar::sliderReleased, this, [this] {
+        m_dragged.reset();
+        geometryChanged();
+    });
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
 
@@ -39,12 +48,18 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     m_model.setSeen(false);
     estimateAll();
 
+    m_scrolling.setObjectName(QStringLiteral("scrolling"));
     m_scrolling.setDuration(int(Design::scrollDuration.count()));
     m_scrolling.setEasingCurve(QEasingCurve::OutCubic);
     m_scrolling.setStartValue(0.0);
     m_scrolling.setEndValue(1.0);
     connect(&m_scrolling, &QVariantAnimation::valueChanged, this,
-        [this](const QVariant &value) { scrollStep(value.toDouble()); });
+        [this](const QVariant &value) { jumpStep(value.toDouble()); });
+    m_flash.setObjectName(QStringLiteral("flash"));
+    m_flash.setDuration(int(Design::flashFading.count()));
+    m_flash.setKeyValues({{0, 0.0}, {0.1, 1.0}, {0.6, 1.0}, {1, 0.0}});
+    connect(&m_flash, &QVariantAnimation::valueChanged, this,
+        [this] { viewport()->update(rectOf(targetRow())); });
 }
 
 // Where the rows are
@@ -52,13 +67,13 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
 void RowScrollArea::didInsertRows(int first, int count)
 {
     m_geometry.insert(first, estimatedHeights(first, count));
-    geometryChanged();
+    rowsChanged();
 }
 
 void RowScrollArea::didRemoveRows(int first, int count)
 {
     m_geometry.remove(first, count);
-    geometryChanged();
+    rowsChanged();
 }
 
 void RowScrollArea::forgetHeights()
@@ -80,21 +95,48 @@ std::vector<int> RowScrollArea::estimatedHeights(int first, int count) const
 void RowScrollArea::estimateAll()
 {
     m_layouts.clear();
+    const RowGeometry before = m_geometry;
     m_geometry.reset(estimatedHeights(0, m_model.rowCount()));
+    // What is read first stays: the text just below the pinned header.
+    if (before.offset() > 0) {
+        const int y = before.offset() + Design::headerHeight;
+        measure(before.rowAt(y), before.rowAt(y));
+        m_geometry.setOffset(m_geometry.yOf(before, y) - Design::headerHeight, page());
+    }
+    rowsChanged();
+}
+
+void RowScrollArea::rowsChanged()
+{
+    const bool isDragged = m_dragged.has_value();
+    m_dragged.reset();
     geometryChanged();
+    if (isDragged)
+        m_dragged = m_geometry;
 }
 
 void RowScrollArea::geometryChanged()
 {
-    constexpr int spaceBelow = 2 * Design::grid;
-    const int offset = m_geometry.offset(); // before a shorter range changes it
-    const int end = m_geometry.top(m_geometry.count());
-    verticalScrollBar()->setPageStep(page());
-    verticalScrollBar()->setRange(0, std::max(0, end + spaceBelow - page()));
-    verticalScrollBar()->setValue(offset);
-    m_geometry.setOffset(verticalScrollBar()->value(), page());
+    if (!m_dragged) {
+        const int offset = m_geometry.offset(); // before a shorter range changes it
+        verticalScrollBar()->setPageStep(page());
+        verticalScrollBar()->setRange(0, maxOffset());
+        verticalScrollBar()->setValue(offset);
+        m_geometry.setOffset(verticalScrollBar()->value(), page());
+    }
     didMoveRows();
     viewport()->update();
+}
+
+int RowScrollArea::maxOffset() const
+{
+    constexpr int spaceBelow = 2 * Design::grid;
+    return std::max(0, m_geometry.top(m_geometry.count()) + spaceBelow - page());
+}
+
+RowGeometry::View RowScrollArea::view() const
+{
+    return {page(), Design::headerHeight, Design::fadingEdge};
 }
 
 const RowLayout &RowScrollArea::layoutOf(int row) const
@@ -117,6 +159,18 @@ bool RowScrollArea::measure(int firstRow, int lastRow)
         }
     }
     return hasMeasured;
+}
+
+void RowScrollArea::measureAround(int row, int distance)
+{
+    measure(row, row);
+    for (const int step : {-1, 1}) {
+        int next = row + step;
+        for (int height = 0; height < distance && next >= 0 && next < m_geometry.count(); next += step) {
+            measure(next, next);
+            height += m_geometry.bottom(next) - m_geometry.top(next);
+        }
+    }
 }
 
 void RowScrollArea::measureRowsInView()
@@ -153,51 +207,164 @@ int RowScrollArea::lastRowInView() const
     return m_geometry.rowAt(m_geometry.offset() + page());
 }
 
-int RowScrollArea::rowPagesAway(int row, int pages) const
+int RowScrollArea::rowPagesAway(int row, int pages)
 {
-    return m_geometry.rowAt(m_geometry.top(row) + pages * page());
+    measureAround(row, std::abs(pages) * page());
+    return m_geometry.rowAt(m_geometry.top(row) + pages * step());
 }
 
 // Scrolling
 
-void RowScrollArea::scrollContentsBy(int, int)
+void RowScrollArea::moveTo(int offset)
 {
-    m_geometry.setOffset(verticalScrollBar()->value(), page());
-    didMoveRows();
-    viewport()->update();
+    m_geometry.setOffset(std::clamp(offset, 0, maxOffset()), page());
+    geometryChanged();
+}
+
+void RowScrollArea::scrollBy(int distance)
+{
+    m_scrolling.stop();
+    // What comes into view is measured before, so that it cannot move what is there by more or less.
+    const auto rowAt = [this](int y) { return m_geometry.rowAt(m_geometry.offset() + y); };
+    while (measure(rowAt(std::min(0, distance)), rowAt(page() + std::max(0, distance)))) {
+    }
+    moveTo(m_geometry.offset() + distance);
 }
 
 void RowScrollArea::scrollTo(int row)
 {
     m_scrolling.stop();
-    measure(row, row);
-    geometryChanged();
-    verticalScrollBar()->setValue(m_geometry.offsetToShow(row, page(), Design::headerHeight));
+    measureAround(row, page());
+    moveTo(m_geometry.offsetToShow(row, view()));
 }
 
-void RowScrollArea::scrollToCenter(int row)
+bool RowScrollArea::scrollWithin(int row, int direction)
 {
     m_scrolling.stop();
-    m_scrollTarget = m_model.index(row);
-    m_scrollProgress = 0;
+    measureAround(row, page());
+    const int before = m_geometry.offset();
+    moveTo(m_geometry.offsetWithin(row, view(), direction * step()));
+    return m_geometry.offset() != before;
+}
+
+void RowScrollArea::scrollPage(int pages)
+{
+    scrollBy(pages * step());
+}
+
+void RowScrollArea::scrollToEnd(int direction)
+{
+    m_scrolling.stop();
+    if (direction > 0 && m_geometry.count() > 0)
+        measureAround(m_geometry.count() - 1, page());
+    moveTo(direction < 0 ? 0 : maxOffset());
+}
+
+int RowScrollArea::step() const
+{
+    return std::max(1, page() - Design::headerHeight - Design::fadingEdge);
+}
+
+// Jumps
+
+void RowScrollArea::jumpTo(std::function<QModelIndex()> target)
+{
+    m_scrolling.stop();
+    m_flash.stop();
+    m_flash.setCurrentTime(0);
+    m_findTarget = std::move(target);
+    m_target = QModelIndex();
+    m_progress = 0;
     m_scrolling.start();
 }
 
-void RowScrollArea::scrollStep(double progress)
+int RowScrollArea::targetRow()
 {
-    if (!m_scrollTarget.isValid()) {
+    if (!m_target.isValid())
+        m_target = m_findTarget();
+    return m_target.row();
+}
+
+void RowScrollArea::jumpStep(double progress)
+{
+    const int row = targetRow();
+    if (row < 0) {
         m_scrolling.stop();
         return;
     }
-    // The rows around the target are measured first: what is measured on the way may move the target.
-    const int row = m_scrollTarget.row();
-    if (measure(rowPagesAway(row, -1), rowPagesAway(row, 1)))
-        geometryChanged();
-    const int offset = m_geometry.offset();
-    const int target = std::clamp(m_geometry.offsetToCenter(row, page()), 0, verticalScrollBar()->maximum());
-    const double share = m_scrollProgress < 1 ? (progress - m_scrollProgress) / (1 - m_scrollProgress) : 1;
-    m_scrollProgress = progress;
-    verticalScrollBar()->setValue(offset + int(std::lround((target - offset) * share)));
+    // Measured anew at each step, since rows may have come and gone. A far jump begins two pages away.
+    const int farthest = 2 * page();
+    measureAround(row, farthest + page());
+    const int target = std::clamp(m_geometry.offsetToCenter(row, view()), 0, maxOffset());
+    const int offset = std::clamp(m_geometry.offset(), target - farthest, target + farthest);
+    const double share = m_progress < 1 ? (progress - m_progress) / (1 - m_progress) : 1;
+    m_progress = progress;
+    moveTo(offset + int(std::lround((target - offset) * share)));
+    const bool hasFlashed = m_flash.state() == QVariantAnimation::Running || m_flash.currentTime() > 0;
+    if (!hasFlashed && rectOf(row).intersects(viewport()->rect()))
+        m_flash.start();
+}
+
+// Wheel and scroll bar
+
+void RowScrollArea::wheelEvent(QWheelEvent *event)
+{
+    // On X11 the pixels are the driver's units, whatever these are.
+    const bool hasPixels =
+        !event->pixelDelta().isNull() && QGuiApplication::platformName() != QStringLiteral("xcb");
+    const double notch = QApplication::wheelScrollLines() * verticalScrollBar()->singleStep();
+    m_wheelRest += hasPixels ? event->pixelDelta().y() : event->angleDelta().y() * notch / 120;
+    const int whole = int(m_wheelRest);
+    m_wheelRest -= whole;
+    if (whole != 0)
+        scrollBy(-whole);
+    event->accept();
+}
+
+bool RowScrollArea::eventFilter(QObject *object, QEvent *event)
+{
+    if (object != verticalScrollBar() || event->type() != QEvent::Wheel)
+        return QAbstractScrollArea::eventFilter(object, event);
+    wheelEvent(static_cast<QWheelEvent *>(event));
+    return true;
+}
+
+void RowScrollArea::didUseScrollBar(int action)
+{
+    m_scrolling.stop();
+    switch (action) {
+    case QScrollBar::SliderSingleStepAdd:
+        return scrollBy(verticalScrollBar()->singleStep());
+    case QScrollBar::SliderSingleStepSub:
+        return scrollBy(-verticalScrollBar()->singleStep());
+    case QScrollBar::SliderPageStepAdd:
+        return scrollPage(1);
+    case QScrollBar::SliderPageStepSub:
+        return scrollPage(-1);
+    case QScrollBar::SliderToMinimum:
+        return scrollToEnd(-1);
+    case QScrollBar::SliderToMaximum:
+        return scrollToEnd(1);
+    default:
+        return;
+    }
+}
+
+void RowScrollArea::scrollContentsBy(int, int)
+{
+    const int value = verticalScrollBar()->value();
+    if (!m_dragged) {
+        m_geometry.setOffset(value, page());
+    } else {
+        // The thumb keeps to the heights of when it was taken. What is as far down the view as the thumb down
+        // its groove is found in them, so that both ends are reached whatever the heights turn out to be.
+        const int y = int(std::lround(double(page()) * value / std::max(1, verticalScrollBar()->maximum())));
+        measureAround(m_dragged->rowAt(value + y), page());
+        const int offset = m_geometry.yOf(*m_dragged, value + y) - y;
+        m_geometry.setOffset(std::clamp(offset, 0, maxOffset()), page());
+    }
+    didMoveRows();
+    viewport()->update();
 }
 
 // Painting
@@ -214,7 +381,7 @@ void RowScrollArea::paintEvent(QPaintEvent *event)
     measureRowsInView();
     const PinnedHeader header = pinnedHeader();
     const int headerBottom = header.row < 0 ? 0 : header.top + Design::headerHeight;
-    const int fading = std::min(Design::fadingEdge, verticalScrollBar()->maximum() - m_geometry.offset());
+    const int fading = std::min(Design::fadingEdge, maxOffset() - m_geometry.offset());
     const QRect fadingRect = view.adjusted(0, view.height() - fading, 0, 0);
     painter.setClipRect(view.adjusted(0, headerBottom, 0, -fading));
     paintRows(painter, event->rect());
@@ -231,8 +398,12 @@ void RowScrollArea::paintRows(QPainter &painter, const QRect &part) const
 {
     RowPainter rows(painter, palette());
     const int last = m_geometry.rowAt(m_geometry.offset() + part.bottom());
-    for (int row = m_geometry.rowAt(m_geometry.offset() + part.top()); row <= last; ++row)
-        rows.paintRow(rectOf(row), layoutOf(row), marksOf(row));
+    for (int row = m_geometry.rowAt(m_geometry.offset() + part.top()); row <= last; ++row) {
+        RowPainter::Marks marks = marksOf(row);
+        if (row == m_target.row())
+            marks.flash = m_flash.currentValue().toDouble();
+        rows.paintRow(rectOf(row), layoutOf(row), marks);
+    }
 }
 
 RowScrollArea::PinnedHeader RowScrollArea::pinnedHeader() const
@@ -272,6 +443,7 @@ void RowScrollArea::showEvent(QShowEvent *event)
 void RowScrollArea::hideEvent(QHideEvent *event)
 {
     m_model.setSeen(false);
+    verticalScrollBar()->setSliderDown(false); // its release will not come
     QAbstractScrollArea::hideEvent(event);
 }
 

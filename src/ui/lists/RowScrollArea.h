@@ -8,6 +8,9 @@
 #include <QPersistentModelIndex>
 #include <QVariantAnimation>
 
+#include <functional>
+#include <optional>
+
 class RowModel;
 
 /// Shows the rows of a model below each other and scrolls them. A row is measured when it comes into view and
@@ -25,8 +28,14 @@ public:
     [[nodiscard]] int rowAt(QPoint point) const; ///< -1 where there is none
     [[nodiscard]] int firstRowInView() const;    ///< -1 without rows, as the next
     [[nodiscard]] int lastRowInView() const;
-    void scrollTo(int row);
-    void scrollToCenter(int row); ///< animated
+    void scrollTo(int row); ///< so that neither the pinned header nor the fading edge covers it
+    /// Downwards or upwards in a row higher than the view, by a page. False when that end of it is in view.
+    bool scrollWithin(int row, int direction);
+    void scrollPage(int pages);
+    void scrollToEnd(int direction); ///< the last row, or the first
+    /// Scrolls the row to the middle of the view and flashes it there, or shows the beginning of a row higher
+    /// than the view. @p target is asked for again when the model has replaced the row.
+    void jumpTo(std::function<QModelIndex()> target);
 
     [[nodiscard]] virtual RowPainter::EmptyState emptyState() const = 0;
 
@@ -38,7 +47,7 @@ protected:
 
     void forgetHeights(); ///< of rows whose content has changed without the model having announced it
     [[nodiscard]] const RowLayout &layoutOf(int row) const; ///< valid until the next call
-    [[nodiscard]] int rowPagesAway(int row, int pages) const;
+    [[nodiscard]] int rowPagesAway(int row, int pages);
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -46,6 +55,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void wheelEvent(QWheelEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     /// The header of the rows at the top of the view, when it is scrolled out itself.
@@ -58,10 +69,19 @@ private:
 
     [[nodiscard]] std::vector<int> estimatedHeights(int first, int count) const;
     void estimateAll();
-    bool measure(int firstRow, int lastRow); ///< whether any of them had only been estimated
+    bool measure(int firstRow, int lastRow);   ///< whether any of them had only been estimated
+    void measureAround(int row, int distance); ///< the row, and those within the distance of it
     void measureRowsInView();
-    void scrollStep(double progress);
+    void rowsChanged();
     void geometryChanged();
+    void moveTo(int offset);
+    void scrollBy(int distance); ///< exactly, as far as the list goes
+    void didUseScrollBar(int action);
+    int targetRow(); ///< of the jump; -1 when it is gone
+    void jumpStep(double progress);
+    [[nodiscard]] int maxOffset() const;
+    [[nodiscard]] RowGeometry::View view() const;
+    [[nodiscard]] int step() const; ///< of a page; what the header and the fading edge cover is shown again
     [[nodiscard]] int page() const { return viewport()->height(); }
 
     RowModel &m_model;
@@ -69,7 +89,12 @@ private:
     /// Of the rows in view and near it, for the present width, font and palette: breaking a text into lines
     /// takes longer than painting it.
     mutable QCache<RowContent, RowLayout> m_layouts{200};
-    QVariantAnimation m_scrolling; ///< from 0 to 1
-    QPersistentModelIndex m_scrollTarget;
-    double m_scrollProgress = 0;
+    std::optional<RowGeometry> m_dragged; ///< as it was when the thumb was taken, while it is held
+    double m_wheelRest = 0;               ///< what is left of a pixel
+    // A jump: from 0 to 1, and the strength of the flash.
+    QVariantAnimation m_scrolling{this};
+    QVariantAnimation m_flash{this};
+    std::function<QModelIndex()> m_findTarget;
+    QPersistentModelIndex m_target;
+    double m_progress = 0;
 };

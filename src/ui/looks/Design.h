@@ -66,4 +66,5 @@ inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};   ///< behind a note 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};
 inline constexpr std::chrono::milliseconds statusDuration{5000};
+inline constexpr std::chrono::milliseconds flashFading{1400}; ///< from when the note is in view
 } // namespace Design
