@@ -1,8 +1,12 @@
 #include "foundation/Scripts.h"
 
+#include <unicode/translit.h>
+#include <unicode/ucnv.h>
+#include <unicode/uniset.h>
 #include <unicode/utf16.h>
 
 #include <algorithm>
+#include <memory>
 #include <span>
 
 namespace {
@@ -22,6 +26,28 @@ bool isWithin(std::span<const Block> blocks, UChar32 codePoint)
     return std::any_of(blocks.begin(), blocks.end(),
         [codePoint](Block block) { return codePoint >= block.first && codePoint <= block.last; });
 }
+
+icu::UnicodeSet charactersOf(const char *charset)
+{
+    icu::UnicodeSet characters;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::LocalUConverterPointer converter(ucnv_open(charset, &status));
+    ucnv_getUnicodeSet(converter.getAlias(), characters.toUSet(), UCNV_ROUNDTRIP_SET, &status);
+    characters.freeze();
+    return characters;
+}
+
+icu::UnicodeSet charactersWithSimplifiedForm()
+{
+    icu::UnicodeSet characters;
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Transliterator> rules(
+        icu::Transliterator::createInstance("Traditional-Simplified", UTRANS_FORWARD, status));
+    if (rules)
+        rules->getSourceSet(characters);
+    characters.freeze();
+    return characters;
+}
 } // namespace
 
 Scripts::EastAsian Scripts::of(QStringView text)
@@ -37,6 +63,27 @@ Scripts::EastAsian Scripts::of(QStringView text)
         found.han = found.han || isWithin(hanBlocks, codePoint);
     }
     return found;
+}
+
+Scripts::HanForm Scripts::hanForm(QStringView text)
+{
+    static const icu::UnicodeSet ofMainland = charactersOf("GB2312");
+    static const icu::UnicodeSet ofTaiwan = charactersOf("Big5");
+    int balance = 0;
+    for (const QChar character : text) {
+        const UChar32 codePoint = character.unicode();
+        if (codePoint < hanBlocks[0].first || codePoint > hanBlocks[0].last)
+            continue;
+        const bool isOfTaiwan = ofTaiwan.contains(codePoint);
+        if (ofMainland.contains(codePoint)) {
+            balance -= !isOfTaiwan;
+        } else if (isOfTaiwan) {
+            // Or it is only rare, as 喆. Reading these rules takes a frame, and most texts never get here.
+            static const icu::UnicodeSet withSimplifiedForm = charactersWithSimplifiedForm();
+            balance += withSimplifiedForm.contains(codePoint);
+        }
+    }
+    return balance > 0 ? HanForm::Traditional : balance < 0 ? HanForm::Simplified : HanForm::Either;
 }
 
 bool Scripts::isHan(QChar character)

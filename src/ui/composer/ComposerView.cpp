@@ -64,7 +64,10 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     layout->addLayout(capsule);
     updatePlaceholder();
 
-    connect(m_field, &QLineEdit::textChanged, &m_state, &PanelState::setDraft);
+    connect(m_field, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_field->setFont(NoteStyle::fontFor(text, NoteStyle::font()));
+        m_state.setDraft(text);
+    });
     m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
     connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);

@@ -38,7 +38,7 @@ QString shownText(const QString &text)
 
 RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     : m_content(std::move(content))
-    , m_text(shownText(m_content.text), NoteStyle::font())
+    , m_text(shownText(m_content.text), NoteStyle::fontFor(m_content.text, NoteStyle::font()))
 {
     if (m_content.isHeader()) {
         m_height = Design::headerHeight;

@@ -1,6 +1,10 @@
 #include "ui/looks/NoteStyle.h"
 
+#include "text/L10n.h"
+#include "ui/looks/Typeface.h"
+
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPainter>
 
 namespace {
@@ -9,12 +13,56 @@ QColor inAppearance(bool isDark, Design::Tint tint)
     return QColor(isDark ? tint.dark : tint.light);
 }
 
-QFont systemFont(int pixelSize)
+void setRegion(QFont &font, Typeface::Region region)
 {
-    QFont font = QApplication::font();
-    font.setPixelSize(pixelSize);
-    return font;
+    using Typeface::Region;
+    struct Families {
+        QString system;
+        QStringList all;
+    };
+    static QHash<Region, Families> known;
+    // The system's own name may be "Sans Serif", which stands for another family in each locale.
+    const QString system = QFontInfo(QApplication::font()).family();
+    Families &families = known[region];
+    if (families.system != system) {
+        const auto writing = region == Region::Traditional ? QFontDatabase::TraditionalChinese
+                             : region == Region::Japanese  ? QFontDatabase::Japanese
+                             : region == Region::Korean    ? QFontDatabase::Korean
+                                                           : QFontDatabase::SimplifiedChinese;
+        families = {system, Typeface::families(region, system, QFontDatabase::families(writing))};
+    }
+    font.setFamilies(families.all);
+    // Qt remembers what it loaded by the first family and the strategy: of two fonts that differ in other
+    // families only, the second would get those of the first. These strategies matter for bitmap fonts alone.
+    font.setStyleStrategy(region == Region::Traditional ? QFont::PreferQuality
+                          : region == Region::Japanese  ? QFont::PreferMatch
+                          : region == Region::Korean    ? QFont::PreferDevice
+                                                        : QFont::PreferOutline);
 }
+
+/// That of texts which leave a choice.
+Typeface::Region regionOfInterface()
+{
+    static const Typeface::Region region = Typeface::region(u"中", L10n::currentLanguage());
+    return region;
+}
+
+/// Made once, so that what Qt finds for it stays with it.
+struct SystemFont {
+    QFont made;
+    QFont system;
+
+    QFont withSize(int pixelSize, bool isBold = false)
+    {
+        if (system != QApplication::font() || made.pixelSize() != pixelSize) {
+            made = system = QApplication::font();
+            setRegion(made, regionOfInterface());
+            made.setPixelSize(pixelSize);
+            made.setBold(isBold);
+        }
+        return made;
+    }
+};
 } // namespace
 
 bool NoteStyle::isDark(const QPalette &palette)
@@ -68,25 +116,39 @@ QColor NoteStyle::segmentColor(NoteHighlighting::SegmentKind kind, const QPalett
 
 QFont NoteStyle::font()
 {
-    return systemFont(Design::bodySize);
+    static SystemFont font;
+    return font.withSize(Design::bodySize);
 }
 
 QFont NoteStyle::headerFont()
 {
-    QFont font = systemFont(Design::bodySize);
-    font.setBold(true);
-    return font;
+    static SystemFont font;
+    return font.withSize(Design::bodySize, true);
 }
 
 QFont NoteStyle::quoteFont()
 {
-    return systemFont(Design::smallSize);
+    static SystemFont font;
+    return font.withSize(Design::smallSize);
+}
+
+QFont NoteStyle::fontFor(QStringView text, const QFont &font)
+{
+    const Typeface::Region region = Typeface::region(text, L10n::currentLanguage());
+    if (region == Typeface::Region::None || region == regionOfInterface())
+        return font;
+    QFont other = font;
+    setRegion(other, region);
+    return other;
 }
 
 void NoteStyle::drawLine(QPainter &painter, const QRect &rect, const QString &text, Qt::Alignment alignment)
 {
+    const QFont font = painter.font();
+    painter.setFont(fontFor(text, font));
     painter.drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+    painter.setFont(font);
 }
 
 void NoteStyle::fillRounded(QPainter &painter, const QRectF &rect, int radius, const QColor &color)

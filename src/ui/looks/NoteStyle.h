@@ -22,11 +22,14 @@ namespace NoteStyle {
 /// The colour of a kind of segment; invalid where the row's own colour applies.
 [[nodiscard]] QColor segmentColor(NoteHighlighting::SegmentKind kind, const QPalette &palette);
 
+// With the typeface of the interface language.
 [[nodiscard]] QFont font();       ///< 13
 [[nodiscard]] QFont headerFont(); ///< 13, bold
 [[nodiscard]] QFont quoteFont();  ///< 11
+/// With the typeface of the text, where that is of another language.
+[[nodiscard]] QFont fontFor(QStringView text, const QFont &font);
 
-/// One line, elided to the width of @p rect.
+/// One line, elided to the width of @p rect, in the typeface of the text.
 void drawLine(
     QPainter &painter, const QRect &rect, const QString &text, Qt::Alignment alignment = Qt::AlignLeft);
 /// A ground with round corners and no outline.

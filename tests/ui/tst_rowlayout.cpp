@@ -1,0 +1,110 @@
+// What a row's text looks like: its typeface.
+#include "ui/lists/RowLayout.h"
+#include "ui/looks/NoteStyle.h"
+#include "ui/looks/Typeface.h"
+
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QRawFont>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using Typeface::Region;
+
+class RowLayoutTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_text_has_the_typeface_of_its_language_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<Region>("expected");
+        const auto row = [](const char *text, const char *language, Region expected) {
+            QTest::addRow("%s %s", text, language) << QString::fromLatin1(language) << expected;
+        };
+        row("plain text, 10:00 – café 😀 שלום", "zh-Hans", Region::None);
+        row("买牛奶", "en", Region::Simplified);
+        row("這個 and that", "zh-Hans", Region::Traditional);
+        row("天下", "zh-Hans", Region::Simplified);
+        row("天下", "zh-Hant-TW", Region::Traditional);
+        row("这个", "zh-Hant-TW", Region::Simplified);
+        row("天下", "ja", Region::Japanese);
+        row("天下", "ko", Region::Korean);
+        row("東京へ行く", "zh-Hans", Region::Japanese);
+        row("집에 가다 學校", "zh-Hans", Region::Korean);
+        row("著名作家陶喆於乾隆年間", "zh-Hans", Region::Traditional); // only the last character decides
+        row("著名作家陶喆，皇后沈", "zh-Hans", Region::Simplified);    // written so in both, or only rare
+        row("他说「這個」这样写", "zh-Hans", Region::Simplified);      // a quotation
+        row("！", "en", Region::Simplified);
+        row("𠮷", "ja", Region::Japanese);
+    }
+    void a_text_has_the_typeface_of_its_language()
+    {
+        QFETCH(QString, language);
+        const QString text = QString::fromUtf8(QTest::currentDataTag()).chopped(language.size() + 1);
+        QTEST(Typeface::region(text, language), "expected");
+    }
+
+    void the_best_families_that_are_there_are_taken_data()
+    {
+        QTest::addColumn<Region>("region");
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QStringList>("available");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](Region region, const QString &system, const QStringList &available,
+                             const QStringList &expected) {
+            QTest::addRow("%s of %s", qUtf8Printable(system), qUtf8Printable(available.join(u',')))
+                << region << system << available << expected;
+        };
+        const QString sc = u"Noto Sans CJK SC"_s;
+        const QString tc = u"Noto Sans CJK TC"_s;
+        const QString jp = u"Noto Sans CJK JP"_s;
+        const QString kr = u"Noto Sans CJK KR"_s;
+        const QString dejaVu = u"DejaVu Sans"_s;
+        const QString wen = u"WenQuanYi Zen Hei"_s;
+        const QString ming = u"AR PL UMing CN"_s;
+        const QString kai = u"LXGW Neo XiHei"_s;
+        const QStringList pan{u"Noto Sans CJK HK"_s, jp, kr, sc, tc, u"Noto Serif CJK SC"_s, wen};
+        row(Region::Simplified, dejaVu, pan, {dejaVu, sc});
+        row(Region::Traditional, dejaVu, pan, {dejaVu, tc});
+        row(Region::Japanese, dejaVu, pan, {dejaVu, jp});
+        row(Region::Korean, dejaVu, pan, {dejaVu, kr});
+        row(Region::Simplified, jp, pan, {sc, jp});
+        row(Region::Korean, sc, pan, {kr, sc});
+        row(Region::Simplified, wen, pan, {wen, sc}); // as the user wishes
+        row(Region::Simplified, kai, pan, {kai, sc});
+        row(Region::Traditional, dejaVu, {ming, wen}, {dejaVu, wen});
+        row(Region::Japanese, dejaVu, {u"Source Han Sans JP VF"_s}, {dejaVu, u"Source Han Sans JP VF"_s});
+        row(Region::Simplified, dejaVu, {ming, kai}, {dejaVu, kai});
+        row(Region::Simplified, dejaVu, {ming}, {dejaVu, ming});
+        row(Region::Korean, dejaVu, {}, {dejaVu});
+    }
+    void the_best_families_that_are_there_are_taken()
+    {
+        QFETCH(Region, region);
+        QFETCH(QString, system);
+        QFETCH(QStringList, available);
+        QTEST(Typeface::families(region, system, available), "expected");
+    }
+
+    void a_row_is_drawn_with_one_typeface()
+    {
+        QMap<QString, QString> expected{{u"买牛奶和面包，直至傍晚"_s, u"Noto Sans CJK SC"_s},
+            {u"這個包裹還沒有收到直"_s, u"Noto Sans CJK TC"_s}, {u"東京へ行く直前"_s, u"Noto Sans CJK JP"_s},
+            {u"집에가다"_s, u"Noto Sans CJK KR"_s}};
+        if (!QFontDatabase::families(QFontDatabase::Japanese).contains(u"Noto Sans CJK JP"_s))
+            QSKIP("needs the fonts that Quillet's package recommends");
+        for (const auto &[text, family] : expected.asKeyValueRange()) {
+            RowContent content;
+            content.text = text;
+            const RowLayout row(content, 340, NoteStyle::palette(false));
+            for (const QGlyphRun &run : row.text().glyphRuns())
+                QCOMPARE(
+                    run.rawFont().familyName() + u' ' + run.rawFont().styleName(), family + u" Regular"_s);
+        }
+    }
+};
+
+QTEST_MAIN(RowLayoutTest)
+#include "tst_rowlayout.moc"
