@@ -4,15 +4,18 @@
 #include "foundation/InternetDateTime.h"
 #include "text/L10n.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono;
 
 namespace {
 /// In the order of the enumeration.
-constexpr std::array languageNames{"chinese", "english", "japanese", "korean", "german", "french", "spanish",
-    "danish", "norwegian", "swedish", "dutch", "italian", "portuguese"};
+constexpr std::array languageNames{"chinese"_L1, "english"_L1, "japanese"_L1, "korean"_L1, "german"_L1,
+    "french"_L1, "spanish"_L1, "danish"_L1, "norwegian"_L1, "swedish"_L1, "dutch"_L1, "italian"_L1,
+    "portuguese"_L1};
 } // namespace
 
 std::optional<Instant> parseProbeInstant(const QString &text)
@@ -29,74 +32,71 @@ std::optional<Instant> parseProbeInstant(const QString &text)
     return *whole + milliseconds(qint64(fraction * 1000));
 }
 
-QString Answer::instant(Instant instant)
+QJsonValue Answer::of(Instant instant)
 {
     QString text = QString::fromLatin1(InternetDateTime::format(instant));
     const qint64 fraction = (instant - floor<seconds>(instant)).count();
     if (fraction != 0)
-        text.insert(text.size() - 1, QStringLiteral(".%1").arg(fraction, 3, 10, QChar(u'0')));
+        text.insert(text.size() - 1, u".%1"_s.arg(fraction, 3, 10, QChar(u'0')));
     return text;
 }
 
-QString Answer::day(Calendar::Day day)
+QJsonValue Answer::of(Calendar::Day day)
 {
     return QString::asprintf("%04d-%02u-%02u", int(day.year()), unsigned(day.month()), unsigned(day.day()));
 }
 
-QString Answer::uuid(QUuid id)
+QJsonValue Answer::of(QUuid id)
 {
     return id.toString(QUuid::WithoutBraces).toUpper();
 }
 
-QJsonObject Answer::note(const Note &note)
+QJsonValue Answer::of(const Note &note)
 {
-    QJsonObject object{{QStringLiteral("id"), uuid(note.id)}, {QStringLiteral("text"), note.text},
-        {QStringLiteral("createdAt"), instant(note.createdAt)}};
+    QJsonObject object{{u"id"_s, of(note.id)}, {u"text"_s, note.text}, {u"createdAt"_s, of(note.createdAt)}};
     if (note.quote)
-        object.insert(QStringLiteral("quote"), *note.quote);
+        object.insert(u"quote"_s, *note.quote);
     if (note.quoteID)
-        object.insert(QStringLiteral("quoteID"), uuid(*note.quoteID));
+        object.insert(u"quoteID"_s, of(*note.quoteID));
     if (note.link)
-        object.insert(QStringLiteral("link"), *note.link);
+        object.insert(u"link"_s, *note.link);
     return object;
 }
 
-QJsonArray Answer::notes(const QList<Note> &notes)
+QJsonValue Answer::of(const Reminder &reminder)
 {
-    QJsonArray array;
-    for (const Note &note : notes)
-        array.append(Answer::note(note));
-    return array;
+    return QJsonObject{{u"id"_s, of(reminder.id)}, {u"noteID"_s, of(reminder.noteID)},
+        {u"text"_s, reminder.text}, {u"fullText"_s, reminder.fullText}, {u"fireAt"_s, of(reminder.fireAt)},
+        {u"createdAt"_s, of(reminder.createdAt)}};
 }
 
-QJsonValue Answer::orNull(const std::optional<QString> &text)
+QJsonValue Answer::of(const ParsedReminder &reminder)
 {
-    return text ? QJsonValue(*text) : QJsonValue();
+    return QJsonObject{{u"fireAt"_s, of(reminder.fireAt)}, {u"content"_s, reminder.content}};
 }
 
-QString Answer::kindName(SemanticHitKind kind)
+QJsonValue Answer::of(ReminderLanguage language)
+{
+    return languageNames[size_t(language)];
+}
+
+QJsonValue Answer::of(SemanticHitKind kind)
 {
     switch (kind) {
     case SemanticHitKind::Substring:
-        return QStringLiteral("substring");
+        return u"substring"_s;
     case SemanticHitKind::Lexical:
-        return QStringLiteral("lexical");
+        return u"lexical"_s;
     case SemanticHitKind::SemanticOnly:
-        return QStringLiteral("semanticOnly");
+        return u"semanticOnly"_s;
     }
     return {};
-}
-
-QString Answer::languageName(ReminderLanguage language)
-{
-    return QString::fromLatin1(languageNames[size_t(language)]);
 }
 
 Arguments::Arguments(QJsonObject step, const Arguments &request)
     : m_object(std::move(step))
 {
-    for (const QString &key :
-        {QStringLiteral("now"), QStringLiteral("timeZone"), QStringLiteral("uiLanguage")}) {
+    for (const QString &key : {u"now"_s, u"timeZone"_s, u"uiLanguage"_s}) {
         if (!has(key) && request.has(key))
             m_object.insert(key, request.value(key));
     }
@@ -113,10 +113,15 @@ bool Arguments::has(const QString &key) const
     return !value(key).isUndefined() && !value(key).isNull();
 }
 
+void Arguments::expect(bool isGood, const QString &key, const QString &what)
+{
+    if (!isGood)
+        fail(u"\"%1\" must %2"_s.arg(key, what));
+}
+
 QString Arguments::text(const QString &key)
 {
-    if (!value(key).isString())
-        fail(QStringLiteral("\"%1\" must be a string").arg(key));
+    expect(value(key).isString(), key, u"be a string"_s);
     return value(key).toString();
 }
 
@@ -129,38 +134,41 @@ qsizetype Arguments::integer(const QString &key)
 {
     const double number = value(key).toDouble();
     constexpr double most = 1LL << 53; // beyond which not every integer is there
-    if (!value(key).isDouble() || !(std::abs(number) <= most) || number != std::floor(number))
-        fail(QStringLiteral("\"%1\" must be an integer").arg(key));
+    expect(value(key).isDouble() && std::abs(number) <= most && number == std::floor(number), key,
+        u"be an integer"_s);
     return value(key).toInteger();
 }
 
 bool Arguments::flag(const QString &key)
 {
-    if (has(key) && !value(key).isBool())
-        fail(QStringLiteral("\"%1\" must be true or false").arg(key));
+    expect(!has(key) || value(key).isBool(), key, u"be true or false"_s);
     return value(key).toBool();
+}
+
+QUuid Arguments::uuid(const QString &key)
+{
+    const QUuid id = QUuid::fromString(text(key));
+    expect(!id.isNull(), key, u"be a UUID"_s);
+    return id;
 }
 
 QByteArray Arguments::base64(const QString &key)
 {
     const auto decoded =
         QByteArray::fromBase64Encoding(text(key).toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded)
-        fail(QStringLiteral("\"%1\" must be base64").arg(key));
+    expect(bool(decoded), key, u"be base64"_s);
     return decoded.decoded;
 }
 
 QJsonArray Arguments::array(const QString &key)
 {
-    if (!value(key).isArray())
-        fail(QStringLiteral("\"%1\" must be an array").arg(key));
+    expect(value(key).isArray(), key, u"be an array"_s);
     return value(key).toArray();
 }
 
 QJsonObject Arguments::object(const QString &key)
 {
-    if (!value(key).isObject())
-        fail(QStringLiteral("\"%1\" must be an object").arg(key));
+    expect(value(key).isObject(), key, u"be an object"_s);
     return value(key).toObject();
 }
 
@@ -168,8 +176,7 @@ QStringList Arguments::texts(const QString &key)
 {
     QStringList texts;
     for (const QJsonValue &element : array(key)) {
-        if (!element.isString())
-            fail(QStringLiteral("\"%1\" must hold strings").arg(key));
+        expect(element.isString(), key, u"hold strings"_s);
         texts.append(element.toString());
     }
     return texts;
@@ -178,28 +185,25 @@ QStringList Arguments::texts(const QString &key)
 Instant Arguments::instant(const QString &key)
 {
     const auto instant = parseProbeInstant(text(key));
-    if (!instant)
-        fail(QStringLiteral("\"%1\" must be an instant like 2026-03-02T02:00:00Z").arg(key));
+    expect(instant.has_value(), key, u"be an instant like 2026-03-02T02:00:00Z"_s);
     return instant.value_or(Instant());
 }
 
 ReminderLanguage Arguments::language()
 {
-    const QString name = text(QStringLiteral("language"));
-    for (size_t i = 0; i < languageNames.size(); ++i) {
-        if (name == QLatin1String(languageNames[i]))
-            return ReminderLanguage(i);
+    const auto name = std::find(languageNames.begin(), languageNames.end(), text(u"language"_s));
+    if (name == languageNames.end()) {
+        fail(u"\"language\" is none of the thirteen"_s);
+        return ReminderLanguage::English;
     }
-    fail(QStringLiteral("\"language\" is none of the thirteen"));
-    return ReminderLanguage::English;
+    return ReminderLanguage(name - languageNames.begin());
 }
 
 QList<double> Arguments::numbers(const QString &key)
 {
     QList<double> numbers;
     for (const QJsonValue &element : array(key)) {
-        if (!element.isDouble())
-            fail(QStringLiteral("\"%1\" must be an array of numbers").arg(key));
+        expect(element.isDouble(), key, u"be an array of numbers"_s);
         numbers.append(element.toDouble());
     }
     return numbers;
@@ -219,21 +223,14 @@ QHash<QString, QList<double>> Arguments::numbersByName(const QString &key)
 QList<Note> Arguments::notes()
 {
     QList<Note> notes;
-    for (const QJsonValue &element : array(QStringLiteral("notes"))) {
+    for (const QJsonValue &element : array(u"notes"_s)) {
         Arguments of(element.toObject());
-        const auto id = [&of](const QString &key) {
-            const QUuid parsed = QUuid::fromString(of.text(key));
-            if (parsed.isNull())
-                of.fail(QStringLiteral("\"%1\" must be a UUID").arg(key));
-            return parsed;
-        };
-        Note note{id(QStringLiteral("id")), of.text(QStringLiteral("text")),
-            of.optionalText(QStringLiteral("quote")), {}, of.optionalText(QStringLiteral("link")),
-            of.instant(QStringLiteral("createdAt"))};
-        if (of.has(QStringLiteral("quoteID")))
-            note.quoteID = id(QStringLiteral("quoteID"));
+        Note note{of.uuid(u"id"_s), of.text(u"text"_s), of.optionalText(u"quote"_s), {},
+            of.optionalText(u"link"_s), of.instant(u"createdAt"_s)};
+        if (of.has(u"quoteID"_s))
+            note.quoteID = of.uuid(u"quoteID"_s);
         if (!of.isGood())
-            fail(QStringLiteral("a note: ") + of.error());
+            fail(u"a note: "_s + of.error());
         notes.append(note);
     }
     return notes;
@@ -241,16 +238,15 @@ QList<Note> Arguments::notes()
 
 Instant Arguments::now()
 {
-    return has(QStringLiteral("now")) ? instant(QStringLiteral("now")) : SystemClock().now();
+    return has(u"now"_s) ? instant(u"now"_s) : SystemClock().now();
 }
 
 Calendar Arguments::calendar()
 {
-    return has(QStringLiteral("timeZone")) ? Calendar(text(QStringLiteral("timeZone")).toUtf8())
-                                           : Calendar::system();
+    return has(u"timeZone"_s) ? Calendar(text(u"timeZone"_s).toUtf8()) : Calendar::system();
 }
 
 QString Arguments::uiLanguage()
 {
-    return optionalText(QStringLiteral("uiLanguage")).value_or(L10n::currentLanguage());
+    return optionalText(u"uiLanguage"_s).value_or(L10n::currentLanguage());
 }

@@ -3,6 +3,8 @@
 #include "foundation/Calendar.h"
 #include "foundation/Instant.h"
 #include "model/Note.h"
+#include "model/Reminder.h"
+#include "reminders/ParsedReminder.h"
 #include "reminders/ReminderLanguage.h"
 #include "search/SemanticSearch.h"
 
@@ -34,13 +36,13 @@ public:
     std::optional<QString> optionalText(const QString &key); ///< nothing when absent or null
     qsizetype integer(const QString &key);
     bool flag(const QString &key); ///< false when absent
+    QUuid uuid(const QString &key);
     QByteArray base64(const QString &key);
     QJsonArray array(const QString &key);
     QJsonObject object(const QString &key);
     [[nodiscard]] bool has(const QString &key) const;
     Instant instant(const QString &key);
     ReminderLanguage language();
-    [[nodiscard]] bool hasLanguage() const { return has(QStringLiteral("language")); }
     QList<Note> notes();
     QStringList texts(const QString &key);
     QList<double> numbers(const QString &key);
@@ -51,6 +53,8 @@ public:
     QString uiLanguage();
 
 private:
+    /// Fails unless the argument is what it must be: "a string".
+    void expect(bool isGood, const QString &key, const QString &what);
     [[nodiscard]] QJsonValue value(const QString &key) const { return m_object.value(key); }
 
     QJsonObject m_object;
@@ -59,14 +63,40 @@ private:
 
 /// The JSON form of values in answers.
 namespace Answer {
-[[nodiscard]] QString instant(Instant instant); ///< whole seconds unless there is a fraction
-[[nodiscard]] QString day(Calendar::Day day);
-[[nodiscard]] QString uuid(QUuid id);
-[[nodiscard]] QJsonObject note(const Note &note);
-[[nodiscard]] QJsonArray notes(const QList<Note> &notes);
-[[nodiscard]] QJsonValue orNull(const std::optional<QString> &text);
-[[nodiscard]] QString languageName(ReminderLanguage language);
-[[nodiscard]] QString kindName(SemanticHitKind kind);
+[[nodiscard]] inline QJsonValue of(const QString &text)
+{
+    return text;
+}
+[[nodiscard]] inline QJsonValue of(qsizetype number)
+{
+    return number;
+}
+[[nodiscard]] inline QJsonValue of(double number)
+{
+    return number;
+}
+[[nodiscard]] QJsonValue of(Instant instant); ///< whole seconds unless there is a fraction
+[[nodiscard]] QJsonValue of(Calendar::Day day);
+[[nodiscard]] QJsonValue of(QUuid id);
+[[nodiscard]] QJsonValue of(const Note &note);
+[[nodiscard]] QJsonValue of(const Reminder &reminder);
+[[nodiscard]] QJsonValue of(const ParsedReminder &reminder);
+[[nodiscard]] QJsonValue of(ReminderLanguage language);
+[[nodiscard]] QJsonValue of(SemanticHitKind kind);
+template <typename Value>
+[[nodiscard]] QJsonValue of(const QList<Value> &values)
+{
+    QJsonArray array;
+    for (const Value &value : values)
+        array.append(of(value));
+    return array;
+}
+/// Null when there is none.
+template <typename Value>
+[[nodiscard]] QJsonValue of(const std::optional<Value> &value)
+{
+    return value ? of(*value) : QJsonValue();
+}
 } // namespace Answer
 
 /// "2026-03-02T02:00:00Z", also with a fraction of a second.

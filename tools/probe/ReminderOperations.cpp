@@ -1,4 +1,3 @@
-#include "probe/Arguments.h"
 #include "probe/Operations.h"
 
 #include "reminders/LanguageDetection.h"
@@ -9,30 +8,18 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QJsonValue answer(const std::optional<ParsedReminder> &parsed)
-{
-    if (!parsed)
-        return {};
-    return QJsonObject{{u"fireAt"_s, Answer::instant(parsed->fireAt)}, {u"content"_s, parsed->content}};
-}
-
-QJsonValue detectLanguage(Arguments &arguments)
-{
-    return Answer::languageName(LanguageDetection::detect(arguments.text(u"text"_s)));
-}
-
 QJsonValue parse(Arguments &arguments)
 {
     const QString text = arguments.text(u"text"_s);
     const ReminderLanguage language =
-        arguments.hasLanguage() ? arguments.language() : LanguageDetection::detect(text.trimmed());
-    return answer(ReminderParser::parse(text, arguments.now(), arguments.calendar(), language));
+        arguments.has(u"language"_s) ? arguments.language() : LanguageDetection::detect(text.trimmed());
+    return Answer::of(ReminderParser::parse(text, arguments.now(), arguments.calendar(), language));
 }
 
 QJsonValue detect(Arguments &arguments)
 {
     const FixedClock clock(arguments.now(), arguments.calendar());
-    return answer(ReminderDetector::detect(
+    return Answer::of(ReminderDetector::detect(
         arguments.text(u"text"_s), clock.now(), clock.calendar(), DateDetector(clock)));
 }
 
@@ -43,9 +30,9 @@ QJsonValue detectDates(Arguments &arguments)
     const QString text = arguments.text(u"text"_s);
     for (const DateDetection &detection :
         DateDetector(clock).detectDates(text, LanguageDetection::detect(text))) {
-        answers.append(QJsonObject{{u"fireAt"_s, Answer::instant(detection.fireAt)},
-            {u"location"_s, detection.range.start}, {u"length"_s, detection.range.length()},
-            {u"text"_s, detection.text}});
+        answers.append(
+            QJsonObject{{u"fireAt"_s, Answer::of(detection.fireAt)}, {u"location"_s, detection.range.start},
+                {u"length"_s, detection.range.length()}, {u"text"_s, detection.text}});
     }
     return answers;
 }
@@ -55,7 +42,7 @@ QJsonValue resolveDay(Arguments &arguments)
     const std::optional<QString> token = arguments.optionalText(u"dateToken"_s);
     const auto day = ReminderParser::resolveDay(token ? std::optional<QStringView>(*token) : std::nullopt,
         arguments.now(), arguments.calendar(), arguments.language());
-    return day ? QJsonValue(Answer::day(*day)) : QJsonValue();
+    return Answer::of(day);
 }
 
 QJsonValue resolveTime(Arguments &arguments)
@@ -96,7 +83,7 @@ QJsonValue mergedContent(Arguments &arguments)
 QHash<QString, Operation> reminderOperations()
 {
     return {
-        {u"detectLanguage"_s, detectLanguage},
+        {u"detectLanguage"_s, onTexts(LanguageDetection::detect, u"text"_s)},
         {u"parse"_s, parse},
         {u"detect"_s, detect},
         {u"detectDates"_s, detectDates},

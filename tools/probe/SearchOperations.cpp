@@ -1,4 +1,3 @@
-#include "probe/Arguments.h"
 #include "probe/Operations.h"
 
 #include "search/ConceptEmbeddingProvider.h"
@@ -9,31 +8,15 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-QJsonArray sorted(const QSet<QString> &texts)
+/// By code point.
+template <QSet<QString> (*function)(const QString &)>
+QStringList sorted(const QString &text)
 {
-    QStringList list(texts.begin(), texts.end());
-    std::sort(list.begin(), list.end(), [](const QString &a, const QString &b) {
+    QStringList list = function(text).values();
+    std::ranges::sort(list, [](const QString &a, const QString &b) {
         return std::ranges::lexicographical_compare(a.toUcs4(), b.toUcs4());
     });
-    return QJsonArray::fromStringList(list);
-}
-
-QJsonArray answer(const QList<double> &numbers)
-{
-    QJsonArray answers;
-    for (const double number : numbers)
-        answers.append(number);
-    return answers;
-}
-
-QJsonValue wordTokens(Arguments &arguments)
-{
-    return sorted(SemanticSearch::wordTokens(arguments.text(u"text"_s)));
-}
-
-QJsonValue characterBigrams(Arguments &arguments)
-{
-    return sorted(SemanticSearch::characterBigrams(arguments.text(u"text"_s)));
+    return list;
 }
 
 QUuid numbered(qsizetype number)
@@ -56,8 +39,7 @@ QJsonValue cosineSimilarity(Arguments &arguments)
 {
     VectorCache cache;
     const auto other = sparse({arguments.numbers(u"b"_s)}, cache).front();
-    const auto cosine = VectorQuery(arguments.numbers(u"a"_s)).cosine(other);
-    return cosine ? QJsonValue(*cosine) : QJsonValue();
+    return Answer::of(VectorQuery(arguments.numbers(u"a"_s)).cosine(other));
 }
 
 QJsonValue baseline(Arguments &arguments)
@@ -112,29 +94,27 @@ QJsonValue rankMatches(Arguments &arguments)
     QJsonArray answers;
     for (const ScoredMatch &match : search.matches()) {
         answers.append(
-            QJsonObject{{u"id"_s, Answer::uuid(ids[match.index])}, {u"lexicalScore"_s, match.lexicalScore},
-                {u"relativeScore"_s, match.relativeScore ? QJsonValue(*match.relativeScore) : QJsonValue()},
-                {u"kind"_s, Answer::kindName(match.kind)}});
+            QJsonObject{{u"id"_s, Answer::of(ids[match.index])}, {u"lexicalScore"_s, match.lexicalScore},
+                {u"relativeScore"_s, Answer::of(match.relativeScore)}, {u"kind"_s, Answer::of(match.kind)}});
     }
     return answers;
 }
 
-QJsonValue sentenceVector(Arguments &arguments)
+std::optional<QList<double>> sentenceVector(const QString &text)
 {
     static ConceptEmbeddingProvider provider;
-    const auto vector = provider.sentenceVector(arguments.text(u"text"_s));
-    return vector ? QJsonValue(answer(*vector)) : QJsonValue();
+    return provider.sentenceVector(text);
 }
 } // namespace
 
 QHash<QString, Operation> searchOperations()
 {
     return {
-        {u"wordTokens"_s, wordTokens},
-        {u"characterBigrams"_s, characterBigrams},
+        {u"wordTokens"_s, onTexts(sorted<SemanticSearch::wordTokens>, u"text"_s)},
+        {u"characterBigrams"_s, onTexts(sorted<SemanticSearch::characterBigrams>, u"text"_s)},
         {u"cosineSimilarity"_s, cosineSimilarity},
         {u"baseline"_s, baseline},
         {u"rankMatches"_s, rankMatches},
-        {u"sentenceVector"_s, sentenceVector},
+        {u"sentenceVector"_s, onTexts(sentenceVector, u"text"_s)},
     };
 }

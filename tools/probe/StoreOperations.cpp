@@ -1,4 +1,3 @@
-#include "probe/Arguments.h"
 #include "probe/Operations.h"
 
 #include "foundation/Clock.h"
@@ -32,7 +31,7 @@ public:
         const Calendar::TimeOfDay time = m_clock.calendar().timeOfDay(request.minute);
         calls.append(QJsonObject{{u"call"_s, u"add"_s}, {u"id"_s, request.identifier},
             {u"title"_s, request.title}, {u"body"_s, request.body}, {u"noteID"_s, request.noteID},
-            {u"date"_s, Answer::day(m_clock.calendar().day(request.minute))
+            {u"date"_s, Answer::of(m_clock.calendar().day(request.minute)).toString()
                             + QString::asprintf("T%02d:%02d", time.hour, time.minute)}});
     }
     void removePendingNotificationRequests(const QStringList &identifiers) override
@@ -65,14 +64,6 @@ public:
     QHash<QString, QList<double>> vectors;
 };
 
-QJsonObject answer(const Reminder &reminder)
-{
-    return {{u"id"_s, Answer::uuid(reminder.id)}, {u"noteID"_s, Answer::uuid(reminder.noteID)},
-        {u"text"_s, reminder.text}, {u"fullText"_s, reminder.fullText},
-        {u"fireAt"_s, Answer::instant(reminder.fireAt)},
-        {u"createdAt"_s, Answer::instant(reminder.createdAt)}};
-}
-
 QJsonValue daySections(Arguments &arguments)
 {
     const QList<Note> notes = arguments.notes();
@@ -90,8 +81,8 @@ QJsonValue daySections(Arguments &arguments)
     for (const DaySection &section : Days::group(notes, indexes, calendar)) {
         QJsonArray ids;
         for (const qsizetype note : section.notes)
-            ids.append(Answer::uuid(notes[note].id));
-        answers.append(QJsonObject{{u"day"_s, Answer::day(calendar.day(section.day))}, {u"ids"_s, ids}});
+            ids.append(Answer::of(notes[note].id));
+        answers.append(QJsonObject{{u"day"_s, Answer::of(calendar.day(section.day))}, {u"ids"_s, ids}});
     }
     return answers;
 }
@@ -112,51 +103,51 @@ public:
     QJsonValue run(Arguments &step)
     {
         m_clock.set(step.now());
-        static const QHash<QString, QJsonValue (StoreSession::*)(Arguments &)> steps{
-            {u"add"_s, &StoreSession::add},
+        static const QHash<QString, void (StoreSession::*)(Arguments &)> changes{
             {u"update"_s, &StoreSession::update},
             {u"applyLinkTitle"_s, &StoreSession::applyLinkTitle},
             {u"remove"_s, &StoreSession::remove},
             {u"restore"_s, &StoreSession::restore},
             {u"emptyTrash"_s, &StoreSession::emptyTrash},
-            {u"latestReply"_s, &StoreSession::latestReply},
-            {u"importNotes"_s, &StoreSession::importNotes},
-            {u"tagSummaries"_s, &StoreSession::tagSummaries},
-            {u"noteCount"_s, &StoreSession::noteCount},
             {u"renameTag"_s, &StoreSession::renameTag},
             {u"removeTag"_s, &StoreSession::removeTag},
-            {u"semanticMatches"_s, &StoreSession::semanticMatches},
-            {u"relatedNotes"_s, &StoreSession::relatedNotes},
             {u"setVectors"_s, &StoreSession::setVectors},
-            {u"cachedVectors"_s, &StoreSession::cachedVectors},
-            {u"schedule"_s, &StoreSession::schedule},
             {u"cancel"_s, &StoreSession::cancel},
             {u"cancelNote"_s, &StoreSession::cancelNote},
             {u"pruneExpired"_s, &StoreSession::pruneExpired},
             {u"setAuthorization"_s, &StoreSession::setAuthorization},
-            {u"hasReminder"_s, &StoreSession::hasReminder},
-            {u"reminder"_s, &StoreSession::reminder},
             {u"reopen"_s, &StoreSession::reopen},
             {u"detachReminders"_s, &StoreSession::detachReminders},
         };
+        static const QHash<QString, QJsonValue (StoreSession::*)(Arguments &)> questions{
+            {u"add"_s, &StoreSession::add},
+            {u"latestReply"_s, &StoreSession::latestReply},
+            {u"importNotes"_s, &StoreSession::importNotes},
+            {u"tagSummaries"_s, &StoreSession::tagSummaries},
+            {u"noteCount"_s, &StoreSession::noteCount},
+            {u"semanticMatches"_s, &StoreSession::semanticMatches},
+            {u"relatedNotes"_s, &StoreSession::relatedNotes},
+            {u"cachedVectors"_s, &StoreSession::cachedVectors},
+            {u"schedule"_s, &StoreSession::schedule},
+            {u"hasReminder"_s, &StoreSession::hasReminder},
+            {u"reminder"_s, &StoreSession::reminder},
+        };
         const QString name = step.text(u"do"_s);
-        const auto found = steps.constFind(name);
-        if (found == steps.cend()) {
+        if (const auto question = questions.value(name))
+            return (this->*question)(step);
+        if (const auto change = changes.value(name))
+            (this->*change)(step);
+        else
             step.fail(u"no such step: "_s + name);
-            return {};
-        }
-        return (this->**found)(step);
+        return {};
     }
 
-    void describe(QJsonObject &answers) const
+    /// What there is after the last step, beside the results of the steps.
+    QJsonObject answer(const QJsonArray &results) const
     {
-        QJsonArray reminders;
-        for (const Reminder &reminder : m_reminders->reminders())
-            reminders.append(answer(reminder));
-        answers.insert(u"notes"_s, Answer::notes(m_notes->notes()));
-        answers.insert(u"trash"_s, Answer::notes(m_notes->trash()));
-        answers.insert(u"reminders"_s, reminders);
-        answers.insert(u"scheduler"_s, m_scheduler.calls);
+        return {{u"steps"_s, results}, {u"notes"_s, Answer::of(m_notes->notes())},
+            {u"trash"_s, Answer::of(m_notes->trash())},
+            {u"reminders"_s, Answer::of(m_reminders->reminders())}, {u"scheduler"_s, m_scheduler.calls}};
     }
 
 private:
@@ -219,38 +210,17 @@ private:
         name(step, note->id);
         if (const auto made = m_reminders->reminder(note->id))
             name(step, made->id, u"reminderAs"_s);
-        return Answer::note(*note);
+        return Answer::of(*note);
     }
-    QJsonValue update(Arguments &step)
-    {
-        m_notes->update(id(step), step.text(u"text"_s));
-        return {};
-    }
-    QJsonValue applyLinkTitle(Arguments &step)
+    void update(Arguments &step) { m_notes->update(id(step), step.text(u"text"_s)); }
+    void applyLinkTitle(Arguments &step)
     {
         m_notes->applyLinkTitle(step.text(u"title"_s), id(step), step.text(u"replacing"_s));
-        return {};
     }
-    QJsonValue remove(Arguments &step)
-    {
-        m_notes->remove(id(step));
-        return {};
-    }
-    QJsonValue restore(Arguments &step)
-    {
-        m_notes->restore(id(step));
-        return {};
-    }
-    QJsonValue emptyTrash(Arguments &)
-    {
-        m_notes->emptyTrash();
-        return {};
-    }
-    QJsonValue latestReply(Arguments &step)
-    {
-        const auto reply = m_notes->latestReply(id(step));
-        return reply ? QJsonValue(Answer::note(*reply)) : QJsonValue();
-    }
+    void remove(Arguments &step) { m_notes->remove(id(step)); }
+    void restore(Arguments &step) { m_notes->restore(id(step)); }
+    void emptyTrash(Arguments &) { m_notes->emptyTrash(); }
+    QJsonValue latestReply(Arguments &step) { return Answer::of(m_notes->latestReply(id(step))); }
     QJsonValue importNotes(Arguments &step)
     {
         const QList<Note> notes = step.notes();
@@ -264,20 +234,18 @@ private:
         return answers;
     }
     QJsonValue noteCount(Arguments &step) { return m_notes->noteCount(step.text(u"tag"_s)); }
-    QJsonValue renameTag(Arguments &step)
+    void renameTag(Arguments &step)
     {
         const QString from = step.text(u"from"_s);
         const QString to = step.text(u"to"_s);
         if (step.isGood())
             m_notes->renameTag(from, to);
-        return {};
     }
-    QJsonValue removeTag(Arguments &step)
+    void removeTag(Arguments &step)
     {
         const QString tag = step.text(u"tag"_s);
         if (step.isGood())
             m_notes->removeTag(tag);
-        return {};
     }
     QJsonValue semanticMatches(Arguments &step)
     {
@@ -289,8 +257,8 @@ private:
         SemanticMatches matches = m_search->semanticMatches(query, limit);
         matches.advance();
         for (const SemanticHit &hit : matches.hits()) {
-            answers.append(QJsonObject{{u"id"_s, Answer::uuid(m_notes->notes()[hit.note].id)},
-                {u"kind"_s, Answer::kindName(hit.kind)}});
+            answers.append(QJsonObject{
+                {u"id"_s, Answer::of(m_notes->notes()[hit.note].id)}, {u"kind"_s, Answer::of(hit.kind)}});
         }
         return answers;
     }
@@ -304,25 +272,24 @@ private:
             return {};
         QJsonArray answers;
         for (const Note &related : m_search->relatedNotes(*note, limit))
-            answers.append(Answer::uuid(related.id));
+            answers.append(Answer::of(related.id));
         return answers;
     }
-    QJsonValue setVectors(Arguments &step)
+    void setVectors(Arguments &step)
     {
         const auto vectors = step.numbersByName(u"vectors"_s);
         if (!step.isGood())
-            return {};
+            return;
         m_embeddings.vectors = vectors;
         m_search->setEmbeddingProvider(&m_embeddings);
-        return {};
     }
     QJsonValue cachedVectors(Arguments &)
     {
         QStringList ids;
         for (const QUuid id : m_search->cachedVectors())
-            ids.append(Answer::uuid(id));
+            ids.append(Answer::of(id).toString());
         ids.sort();
-        return QJsonArray::fromStringList(ids);
+        return Answer::of(ids);
     }
     QJsonValue schedule(Arguments &step)
     {
@@ -333,27 +300,14 @@ private:
         if (!step.isGood())
             return {};
         const auto made = m_reminders->schedule(noteID, fireAt, text, fullText);
-        if (!made)
-            return {};
-        name(step, made->id);
-        return answer(*made);
+        if (made)
+            name(step, made->id);
+        return Answer::of(made);
     }
-    QJsonValue cancel(Arguments &step)
-    {
-        m_reminders->cancel(id(step));
-        return {};
-    }
-    QJsonValue cancelNote(Arguments &step)
-    {
-        m_reminders->cancelForNote(id(step, u"noteID"_s));
-        return {};
-    }
-    QJsonValue pruneExpired(Arguments &)
-    {
-        m_reminders->pruneExpired();
-        return {};
-    }
-    QJsonValue setAuthorization(Arguments &step)
+    void cancel(Arguments &step) { m_reminders->cancel(id(step)); }
+    void cancelNote(Arguments &step) { m_reminders->cancelForNote(id(step, u"noteID"_s)); }
+    void pruneExpired(Arguments &) { m_reminders->pruneExpired(); }
+    void setAuthorization(Arguments &step)
     {
         const qsizetype status = step.integer(u"status"_s);
         if (status < 0 || status > 4)
@@ -362,24 +316,11 @@ private:
             m_scheduler.status = AuthorizationStatus(status);
             m_reminders->refreshAuthorizationStatus();
         }
-        return {};
     }
     QJsonValue hasReminder(Arguments &step) { return m_reminders->hasReminder(id(step, u"noteID"_s)); }
-    QJsonValue reminder(Arguments &step)
-    {
-        const auto found = m_reminders->reminder(id(step, u"noteID"_s));
-        return found ? QJsonValue(answer(*found)) : QJsonValue();
-    }
-    QJsonValue reopen(Arguments &)
-    {
-        open();
-        return {};
-    }
-    QJsonValue detachReminders(Arguments &)
-    {
-        m_notes->setReminderStore(nullptr);
-        return {};
-    }
+    QJsonValue reminder(Arguments &step) { return Answer::of(m_reminders->reminder(id(step, u"noteID"_s))); }
+    void reopen(Arguments &) { open(); }
+    void detachReminders(Arguments &) { m_notes->setReminderStore(nullptr); }
 
     QString m_folder;
     FixedClock m_clock;
@@ -406,9 +347,7 @@ QJsonValue store(Arguments &arguments)
             return {};
         }
     }
-    QJsonObject answers{{u"steps"_s, results}};
-    session.describe(answers);
-    return answers;
+    return session.answer(results);
 }
 } // namespace
 

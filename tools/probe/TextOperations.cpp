@@ -1,4 +1,3 @@
-#include "probe/Arguments.h"
 #include "probe/Operations.h"
 
 #include "model/NoteCoding.h"
@@ -28,11 +27,6 @@ QJsonValue segments(Arguments &arguments)
     return answers;
 }
 
-QJsonValue tags(Arguments &arguments)
-{
-    return QJsonArray::fromStringList(NoteHighlighting::tags(arguments.text(u"text"_s)));
-}
-
 QJsonValue tokens(Arguments &arguments)
 {
     QJsonArray answers;
@@ -41,22 +35,6 @@ QJsonValue tokens(Arguments &arguments)
             {u"text"_s, token.text}});
     }
     return answers;
-}
-
-QJsonValue occurrences(Arguments &arguments)
-{
-    return TagEditing::occurrences(arguments.text(u"tag"_s), arguments.text(u"text"_s));
-}
-
-QJsonValue replacingTag(Arguments &arguments)
-{
-    return TagEditing::replacingTag(
-        arguments.text(u"text"_s), arguments.text(u"from"_s), arguments.text(u"to"_s));
-}
-
-QJsonValue removingTag(Arguments &arguments)
-{
-    return TagEditing::removingTag(arguments.text(u"text"_s), arguments.text(u"tag"_s));
 }
 
 qsizetype caret(Arguments &arguments, const QString &text)
@@ -99,9 +77,9 @@ QJsonValue completionStep(TagCompletionState &state, Arguments &step)
     } else {
         step.fail(u"no such step: "_s + name);
     }
-    return QJsonObject{{u"candidates"_s, QJsonArray::fromStringList(state.candidates())},
-        {u"selection"_s, state.selection()}, {u"isActive"_s, state.isActive()},
-        {u"selectedCandidate"_s, Answer::orNull(state.selectedCandidate())}, {u"result"_s, result}};
+    return QJsonObject{{u"candidates"_s, Answer::of(state.candidates())}, {u"selection"_s, state.selection()},
+        {u"isActive"_s, state.isActive()}, {u"selectedCandidate"_s, Answer::of(state.selectedCandidate())},
+        {u"result"_s, result}};
 }
 
 QJsonValue completion(Arguments &arguments)
@@ -119,30 +97,10 @@ QJsonValue completion(Arguments &arguments)
     return answers;
 }
 
-QJsonValue webLink(Arguments &arguments)
-{
-    return Answer::orNull(WebLink::detect(arguments.text(u"text"_s)));
-}
-
-QJsonValue localFile(Arguments &arguments)
-{
-    return Answer::orNull(LocalFile::detect(arguments.text(u"text"_s)));
-}
-
 QJsonValue decodeHTML(Arguments &arguments)
 {
     const QByteArray bytes = arguments.base64(u"base64"_s);
-    return Answer::orNull(WebLink::decodeHTML(bytes, arguments.optionalText(u"contentType"_s)));
-}
-
-QJsonValue parseTitle(Arguments &arguments)
-{
-    return Answer::orNull(WebLink::parseTitle(arguments.text(u"html"_s)));
-}
-
-QJsonValue decodeEntities(Arguments &arguments)
-{
-    return WebLink::decodeEntities(arguments.text(u"text"_s));
+    return Answer::of(WebLink::decodeHTML(bytes, arguments.optionalText(u"contentType"_s)));
 }
 
 QJsonValue markdownExport(Arguments &arguments)
@@ -153,8 +111,7 @@ QJsonValue markdownExport(Arguments &arguments)
 QJsonValue markdownParse(Arguments &arguments)
 {
     const QString text = arguments.text(u"text"_s);
-    return Answer::notes(
-        NoteMarkdown::parse(text, arguments.instant(u"fallbackDay"_s), arguments.calendar()));
+    return Answer::of(NoteMarkdown::parse(text, arguments.instant(u"fallbackDay"_s), arguments.calendar()));
 }
 
 QJsonValue encodeNotes(Arguments &arguments)
@@ -165,7 +122,7 @@ QJsonValue encodeNotes(Arguments &arguments)
 QJsonValue answerOrFail(const Result<QList<Note>> &notes, Arguments &arguments)
 {
     if (notes)
-        return Answer::notes(notes.value());
+        return Answer::of(notes.value());
     arguments.fail(notes.message());
     return {};
 }
@@ -181,9 +138,9 @@ QJsonValue decodeImport(Arguments &arguments)
     return answerOrFail(NoteFileCodec::decode(bytes, arguments.now(), arguments.calendar()), arguments);
 }
 
-QJsonValue locale(Arguments &arguments)
+QString locale(const QString &code)
 {
-    return QString::fromLatin1(L10n::locale(arguments.text(u"code"_s)));
+    return QString::fromLatin1(L10n::locale(code));
 }
 
 QJsonValue dayTitle(Arguments &arguments)
@@ -209,24 +166,24 @@ QHash<QString, Operation> textOperations()
 {
     return {
         {u"segments"_s, segments},
-        {u"tags"_s, tags},
+        {u"tags"_s, onTexts(NoteHighlighting::tags, u"text"_s)},
         {u"tokens"_s, tokens},
-        {u"occurrences"_s, occurrences},
-        {u"replacingTag"_s, replacingTag},
-        {u"removingTag"_s, removingTag},
+        {u"occurrences"_s, onTexts(TagEditing::occurrences, u"tag"_s, u"text"_s)},
+        {u"replacingTag"_s, onTexts(TagEditing::replacingTag, u"text"_s, u"from"_s, u"to"_s)},
+        {u"removingTag"_s, onTexts(TagEditing::removingTag, u"text"_s, u"tag"_s)},
         {u"activeToken"_s, activeToken},
         {u"completion"_s, completion},
-        {u"webLink"_s, webLink},
-        {u"localFile"_s, localFile},
+        {u"webLink"_s, onTexts(WebLink::detect, u"text"_s)},
+        {u"localFile"_s, onTexts(LocalFile::detect, u"text"_s)},
         {u"decodeHTML"_s, decodeHTML},
-        {u"parseTitle"_s, parseTitle},
-        {u"decodeEntities"_s, decodeEntities},
+        {u"parseTitle"_s, onTexts(WebLink::parseTitle, u"html"_s)},
+        {u"decodeEntities"_s, onTexts(WebLink::decodeEntities, u"text"_s)},
         {u"markdownExport"_s, markdownExport},
         {u"markdownParse"_s, markdownParse},
         {u"encodeNotes"_s, encodeNotes},
         {u"decodeNotes"_s, decodeNotes},
         {u"decodeImport"_s, decodeImport},
-        {u"locale"_s, locale},
+        {u"locale"_s, onTexts(locale, u"code"_s)},
         {u"dayTitle"_s, dayTitle},
         {u"timeString"_s, timeString},
         {u"reminderTimeString"_s, reminderTimeString},

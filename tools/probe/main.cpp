@@ -1,6 +1,5 @@
 // Answers questions about the engine: one JSON object per line in, one per line out. Needs neither display
 // nor bus.
-#include "probe/Arguments.h"
 #include "probe/Operations.h"
 
 #include <QCoreApplication>
@@ -10,10 +9,12 @@
 #include <iostream>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 QJsonObject error(const QString &message)
 {
-    return {{QStringLiteral("error"), message.simplified()}};
+    return {{u"error"_s, message.simplified()}};
 }
 
 QJsonObject answer(const QByteArray &line, const QHash<QString, Operation> &operations)
@@ -21,14 +22,14 @@ QJsonObject answer(const QByteArray &line, const QHash<QString, Operation> &oper
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(line, &problem);
     if (!document.isObject())
-        return error(QStringLiteral("not a JSON object: ") + problem.errorString());
+        return error(u"not a JSON object: "_s + problem.errorString());
     Arguments arguments(document.object());
-    const QString name = arguments.text(QStringLiteral("op"));
+    const QString name = arguments.text(u"op"_s);
     const auto operation = operations.constFind(name);
     if (operation == operations.cend())
-        return error(QStringLiteral("no such operation: ") + name);
+        return error(u"no such operation: "_s + name);
     const QJsonValue value = (*operation)(arguments);
-    return arguments.isGood() ? QJsonObject{{QStringLiteral("ok"), value}} : error(arguments.error());
+    return arguments.isGood() ? QJsonObject{{u"ok"_s, value}} : error(arguments.error());
 }
 } // namespace
 
