@@ -1,8 +1,5 @@
 // The built program while parts of the desktop, or all of it, go away.
-#include "model/NoteCoding.h"
-#include "stage/NotificationRecorder.h"
-#include "stage/Road.h"
-#include "support/TestFiles.h"
+#include "desktop/RunningProgram.h"
 
 #include <QTest>
 
@@ -14,23 +11,6 @@ class LossesTest final : public QObject
 {
     Q_OBJECT
 
-    const QString m_program = QStringLiteral(PROGRAM);
-
-    /// Writes a note by hot key and keyboard, and waits until it is on the disk. The program must have been
-    /// started hidden: the panel of the very first start would interfere.
-    static bool write(PrivateDesktop &desktop, Road &road, const QString &text)
-    {
-        const qsizetype before = road.savedNotes().size();
-        road.pressHotKey();
-        if (!road.waitForPanel(true))
-            return false;
-        desktop.screen().type(text);
-        desktop.screen().press({Keysym::enter});
-        const bool isSaved =
-            PrivateDesktop::waitUntil([&] { return road.savedNotes().size() == before + 1; });
-        desktop.screen().press({Keysym::escape});
-        return isSaved && road.savedNotes().first().text == text && road.waitForPanel(false);
-    }
     static bool endsSoon(QProcess &process)
     {
         QElapsedTimer timer;
@@ -41,65 +21,52 @@ class LossesTest final : public QObject
 private Q_SLOTS:
     void a_signal_ends_it_at_once_with_the_files_whole()
     {
-        PrivateDesktop desktop({});
-        Road road(desktop, m_program);
-        for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-            road.start({u"--hidden"_s});
-            QVERIFY(road.waitForTrayIcon());
-            QVERIFY(write(desktop, road, u"note %1"_s.arg(signal)));
-            ::kill(pid_t(road.process().processId()), signal);
-            QVERIFY(endsSoon(road.process()));
+        RunningProgram program;
+        for (const int signal : {SIGKILL, SIGTERM, SIGHUP, SIGINT}) {
+            QVERIFY(program.write(u"note %1"_s.arg(signal)));
+            ::kill(pid_t(program.road.process().processId()), signal);
+            QVERIFY(endsSoon(program.road.process()));
+            program.start(); // the lock was released with the process
         }
-        QCOMPARE(road.savedNotes().size(), 3);
+        QCOMPARE(program.road.savedNotes().size(), 4);
     }
 
     void a_lost_screen_ends_it_with_the_files_whole()
     {
-        PrivateDesktop desktop({});
-        Road road(desktop, m_program);
-        road.start({u"--hidden"_s});
-        QVERIFY(road.waitForTrayIcon());
-        QVERIFY(write(desktop, road, u"one"_s));
-        desktop.stopScreen();
-        QVERIFY(endsSoon(road.process()));
-        QCOMPARE(road.savedNotes().size(), 1);
+        RunningProgram program;
+        QVERIFY(program.write(u"one"_s));
+        program.desktop.stopScreen();
+        QVERIFY(endsSoon(program.road.process()));
+        QCOMPARE(program.road.savedNotes().size(), 1);
     }
 
     void a_lost_session_bus_does_not_prevent_writing()
     {
-        PrivateDesktop desktop({});
-        Road road(desktop, m_program);
-        road.start({u"--hidden"_s});
-        QVERIFY(road.waitForTrayIcon());
-        QVERIFY(write(desktop, road, u"one"_s));
-        desktop.stopBus();
+        RunningProgram program;
+        QVERIFY(program.write(u"one"_s));
+        program.desktop.stopBus();
         QTest::qWait(300);
-        QVERIFY(write(desktop, road, u"two"_s));
-        QCOMPARE(road.process().state(), QProcess::Running);
-        road.stop();
+        QVERIFY(program.write(u"two"_s));
+        QCOMPARE(program.road.process().state(), QProcess::Running);
     }
 
     void a_tray_that_crashes_gets_the_icon_back()
     {
-        PrivateDesktop desktop({});
-        Road road(desktop, m_program);
-        road.start({u"--hidden"_s});
-        QVERIFY(road.waitForTrayIcon());
-        QVERIFY(write(desktop, road, u"one"_s));
-        desktop.stopTray();
+        RunningProgram program;
+        QVERIFY(program.write(u"one"_s));
+        program.desktop.stopTray();
         QTest::qWait(300);
-        QVERIFY(write(desktop, road, u"two"_s));
-        desktop.startTray();
-        QVERIFY(road.waitForTrayIcon());
-        desktop.screen().click(road.trayIcon()->center());
-        QVERIFY(road.waitForPanel(true));
-        road.stop();
+        QVERIFY(program.write(u"two"_s));
+        program.desktop.startTray();
+        QVERIFY(program.road.waitForTrayIcon());
+        program.screen().click(program.road.trayIcon()->center());
+        QVERIFY(program.road.waitForPanel(true));
     }
 
     void a_tray_that_comes_late_gets_the_icon()
     {
         PrivateDesktop desktop({.hasTray = false});
-        Road road(desktop, m_program);
+        Road road(desktop, QStringLiteral(PROGRAM));
         road.start({u"--hidden"_s});
         QTest::qWait(2500); // until it no longer waits for a tray
         QVERIFY(!road.panel());
@@ -107,22 +74,16 @@ private Q_SLOTS:
         QVERIFY(road.waitForPanel(true));
         desktop.startTray();
         QVERIFY(road.waitForTrayIcon());
-        road.stop();
     }
 
     void a_notification_server_that_crashes_is_waited_for()
     {
-        PrivateDesktop desktop({});
-        auto server = std::make_unique<NotificationRecorder>(desktop.busAddress());
-        Road road(desktop, m_program);
-        road.start({u"--hidden"_s});
-        QVERIFY(road.waitForTrayIcon());
-        server.reset();
-        QVERIFY(write(desktop, road, u"one"_s));
-        server = std::make_unique<NotificationRecorder>(desktop.busAddress());
-        QVERIFY(write(desktop, road, u"two"_s));
-        QCOMPARE(road.process().state(), QProcess::Running);
-        road.stop();
+        RunningProgram program;
+        program.notifications.reset();
+        QVERIFY(program.write(u"one"_s));
+        program.notifications = std::make_unique<NotificationRecorder>(program.desktop.busAddress());
+        QVERIFY(program.write(u"two"_s));
+        QCOMPARE(program.road.process().state(), QProcess::Running);
     }
 };
 

@@ -57,14 +57,11 @@ private Q_SLOTS:
             "日本");
         row("of another type", response("200 OK\r\nContent-Type: application/json", body), "(none)");
         row("not found", response("404 Not Found\r\nContent-Type: text/html", body), "(none)");
-        row("broken", response("500 Broken\r\nContent-Type: text/html", body), "(none)");
         row("shorter than promised", page("").replace("\r\n\r\n", "\r\nContent-Length: 99\r\n\r\n") + body,
             "(none)");
         row("untitled", page("<p>"), "(none)");
         row("a redirect to nowhere", response("302 Found", body), "(none)");
         row("a redirect to a file", response("302 Found\r\nLocation: file:///etc/hostname", body), "(none)");
-        row("a redirect to another protocol", response("301 Moved\r\nLocation: ftp://127.0.0.1/", body),
-            "(none)");
         row("a redirect to data", response("301 Moved\r\nLocation: data:text/html,<title>x</title>", body),
             "(none)");
         row("a redirect round and round", response("302 Found\r\nLocation: /page", body), "(none)", 21);
@@ -80,21 +77,16 @@ private Q_SLOTS:
         QCOMPARE(server.requests.size(), requests);
     }
 
-    void a_server_that_sends_no_page_is_not_asked_again_data()
-    {
-        QTest::addColumn<QByteArray>("response");
-        QTest::newRow("closes the connection") << QByteArray();
-        QTest::newRow("speaks another protocol") << QByteArray("220 mail.example ESMTP\r\n");
-    }
     void a_server_that_sends_no_page_is_not_asked_again()
     {
-        WebServer server;
-        QFETCH(QByteArray, response);
-        server.answer(u"/page"_s, response);
-        PageTitleFetcher fetcher(4s);
-        QCOMPARE(fetched(fetcher, server.address(u"/page"_s)), u"(none)"_s);
-        QTRY_VERIFY(!server.isAnybodyListening());
-        QCOMPARE_LE(server.requests.size(), 2); // the second is on its way before Qt reports the first
+        for (const QByteArray &response : {QByteArray(), QByteArray("220 mail.example ESMTP\r\n")}) {
+            WebServer server;
+            server.answer(u"/page"_s, response);
+            PageTitleFetcher fetcher(4s);
+            QCOMPARE(fetched(fetcher, server.address(u"/page"_s)), u"(none)"_s);
+            QTRY_VERIFY(!server.hasConnections());
+            QCOMPARE_LE(server.requests.size(), 2); // the second is on its way before Qt reports the first
+        }
     }
 
     void a_page_is_asked_for_once_and_as_a_browser_does()
@@ -121,23 +113,23 @@ private Q_SLOTS:
         WebServer server;
         // 1 MiB ends within a character.
         const QByteArray filling = QByteArray("日").repeated((1 << 20) / 3);
-        server.answer(u"/early"_s, page("<title>早</title>" + filling + filling), WebServer::Then::GoOn);
-        server.answer(u"/late"_s, page(filling + "<title>晚</title>"), WebServer::Then::GoOn);
+        server.answer(u"/early"_s, page("<title>早</title>" + filling + filling), WebServer::Then::SendMore);
+        server.answer(u"/late"_s, page(filling + "<title>晚</title>"), WebServer::Then::SendMore);
         PageTitleFetcher fetcher(4s);
         QCOMPARE(fetched(fetcher, server.address(u"/early"_s)), u"早"_s);
         QCOMPARE(fetched(fetcher, server.address(u"/late"_s)), u"(none)"_s);
-        QTRY_VERIFY(!server.isAnybodyListening());
+        QTRY_VERIFY(!server.hasConnections());
     }
 
     void a_page_that_does_not_come_is_given_up_data()
     {
         QTest::addColumn<QByteArray>("response");
         QTest::addColumn<WebServer::Then>("then");
-        QTest::newRow("no word") << QByteArray() << WebServer::Then::SayNoMore;
-        QTest::newRow("a head only") << page("") << WebServer::Then::SayNoMore;
-        QTest::newRow("a title, but no end") << page("<title>x</title>") << WebServer::Then::SayNoMore;
+        QTest::newRow("no word") << QByteArray() << WebServer::Then::Wait;
+        QTest::newRow("a head only") << page("") << WebServer::Then::Wait;
+        QTest::newRow("a title, but no end") << page("<title>x</title>") << WebServer::Then::Wait;
         QTest::newRow("a head that does not end")
-            << QByteArray("HTTP/1.1 200 OK\r\nX-Long: ") << WebServer::Then::GoOn;
+            << QByteArray("HTTP/1.1 200 OK\r\nX-Long: ") << WebServer::Then::SendMore;
     }
     void a_page_that_does_not_come_is_given_up()
     {
@@ -147,14 +139,14 @@ private Q_SLOTS:
         server.answer(u"/slow"_s, response, then);
         PageTitleFetcher fetcher(300ms);
         QCOMPARE(fetched(fetcher, server.address(u"/slow"_s)), u"(none)"_s);
-        QTRY_VERIFY(!server.isAnybodyListening());
+        QTRY_VERIFY(!server.hasConnections());
     }
 
     void a_title_is_not_reported_to_an_object_that_is_gone()
     {
         WebServer server;
         server.answer(u"/page"_s, page("<title>x</title>"));
-        server.answer(u"/slow"_s, {}, WebServer::Then::SayNoMore);
+        server.answer(u"/slow"_s, {}, WebServer::Then::Wait);
         QStringList titles;
         const auto report = [&](const auto &title) { titles.append(title.value_or(u"(none)"_s)); };
         QObject stays;
@@ -168,7 +160,7 @@ private Q_SLOTS:
             fetcher.fetchTitle(server.address(u"/slow"_s), &stays, report);
             QTRY_VERIFY(server.requests.last().contains(u"/slow"_s));
         }
-        QTRY_VERIFY(!server.isAnybodyListening());
+        QTRY_VERIFY(!server.hasConnections());
         QCOMPARE(titles, QStringList{u"x"_s});
     }
 };

@@ -1,14 +1,12 @@
 // The hot key through the real xdg-desktop-portal, with a backend in the test.
 #include "desktop/PortalHotKey.h"
-#include "support/TestFiles.h"
+#include "stage/BusService.h"
+#include "stage/PrivateSession.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
-#include <QDir>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -74,37 +72,25 @@ class PortalHotKeyTest final : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_folder;
-    QProcess m_bus;
-    QString m_address;
-    std::unique_ptr<QProcess> m_portal;
+    std::unique_ptr<PrivateSession> m_session;
     std::unique_ptr<Backend> m_backend;
+    std::unique_ptr<BusService> m_backendService;
+    std::unique_ptr<QProcess> m_portal;
 
-    QProcessEnvironment environment() const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_address);
-        environment.insert(u"XDG_DESKTOP_PORTAL_DIR"_s, m_folder.path());
-        environment.insert(u"XDG_CURRENT_DESKTOP"_s, u"Quillet"_s);
-        environment.insert(u"XDG_RUNTIME_DIR"_s, m_folder.path());
-        environment.insert(u"HOME"_s, m_folder.path());
-        return environment;
-    }
+    const QString &address() const { return m_session->busAddress(); }
     void startPortal()
     {
-        m_portal = std::make_unique<QProcess>();
-        m_portal->setProcessEnvironment(environment());
-        m_portal->setProcessChannelMode(QProcess::MergedChannels);
-        m_portal->start(portal, {});
-        // A call before that would make the bus start another one.
-        const QDBusConnection bus(u"backend"_s);
+        const QString file = m_session->writeFile(u"portals/quillet.portal"_s,
+            "[portal]\n"
+            "DBusName=org.freedesktop.impl.portal.desktop.quillet\n"
+            "Interfaces=org.freedesktop.impl.portal.GlobalShortcuts\n"
+            "UseIn=Quillet\n");
+        m_portal = m_session->start(u"env"_s, {},
+            {u"XDG_CURRENT_DESKTOP=Quillet"_s, u"XDG_DESKTOP_PORTAL_DIR="_s + QFileInfo(file).path(),
+                portal});
         QTRY_VERIFY_WITH_TIMEOUT(
-            bus.interface()->isServiceRegistered(u"org.freedesktop.portal.Desktop"_s), 15'000);
-    }
-    void stopPortal()
-    {
-        m_portal->kill();
-        m_portal->waitForFinished();
+            m_backendService->bus().interface()->isServiceRegistered(u"org.freedesktop.portal.Desktop"_s),
+            15'000);
     }
 
 private Q_SLOTS:
@@ -115,41 +101,26 @@ private Q_SLOTS:
         qDBusRegisterMetaType<QPair<QString, QVariantMap>>();
         qDBusRegisterMetaType<Shortcuts>();
         qRegisterMetaType<Shortcuts>("Shortcuts"); // the name in the slots of the backend
-        writeFile(m_folder.filePath(u"quillet.portal"_s),
-            "[portal]\n"
-            "DBusName=org.freedesktop.impl.portal.desktop.quillet\n"
-            "Interfaces=org.freedesktop.impl.portal.GlobalShortcuts\n"
-            "UseIn=Quillet\n");
     }
-
     void init()
     {
-        m_address = u"unix:path="_s + m_folder.filePath(u"bus"_s);
-        m_bus.setProcessEnvironment(environment());
-        m_bus.start(u"dbus-daemon"_s,
-            {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + m_address});
-        QVERIFY(m_bus.waitForReadyRead(10'000));
+        m_session = std::make_unique<PrivateSession>();
         m_backend = std::make_unique<Backend>();
-        QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"backend"_s);
-        QVERIFY(bus.registerObject(u"/org/freedesktop/portal/desktop"_s, m_backend.get(),
-            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals
-                | QDBusConnection::ExportAllProperties));
-        QVERIFY(bus.registerService(u"org.freedesktop.impl.portal.desktop.quillet"_s));
+        m_backendService =
+            std::make_unique<BusService>(address(), u"org.freedesktop.impl.portal.desktop.quillet"_s,
+                u"/org/freedesktop/portal/desktop"_s, m_backend.get());
     }
     void cleanup()
     {
         if (m_portal)
-            stopPortal();
-        QDBusConnection::disconnectFromBus(u"backend"_s);
-        m_bus.kill();
-        m_bus.waitForFinished();
-        QFile::remove(m_folder.filePath(u"bus"_s));
+            PrivateSession::kill(*m_portal);
+        m_backendService.reset();
     }
 
     void the_key_is_bound_pressed_and_survives_the_portal()
     {
         startPortal();
-        PortalHotKey key(m_address);
+        PortalHotKey key(address());
         QSignalSpy pressed(&key, &PortalHotKey::pressed);
         QSignalSpy failed(&key, &PortalHotKey::failed);
         key.request();
@@ -166,7 +137,7 @@ private Q_SLOTS:
         QTest::qWait(100);
         QCOMPARE(pressed.count(), 1);
 
-        stopPortal();
+        PrivateSession::kill(*m_portal);
         startPortal();
         QTRY_VERIFY_WITH_TIMEOUT(m_backend->calls == steps + steps || !failed.isEmpty(), 15'000);
         QCOMPARE(failed, QList<QVariantList>());
@@ -178,7 +149,7 @@ private Q_SLOTS:
     {
         m_backend->knowsShortcuts = true;
         startPortal();
-        PortalHotKey key(m_address);
+        PortalHotKey key(address());
         QSignalSpy pressed(&key, &PortalHotKey::pressed);
         key.request();
         const QStringList steps{u"CreateSession"_s, u"ListShortcuts"_s};
@@ -193,7 +164,7 @@ private Q_SLOTS:
     {
         m_backend->answer = 1;
         startPortal();
-        PortalHotKey key(m_address);
+        PortalHotKey key(address());
         QSignalSpy failed(&key, &PortalHotKey::failed);
         key.request();
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 15'000);

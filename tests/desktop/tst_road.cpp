@@ -2,13 +2,9 @@
 // the test.
 //
 // The program's clock is shifted so that the minute of a reminder begins a few seconds after the start.
+#include "desktop/RunningProgram.h"
 #include "foundation/Clock.h"
-#include "model/NoteCoding.h"
-#include "stage/NotificationRecorder.h"
-#include "stage/Road.h"
-#include "support/TestFiles.h"
 
-#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -18,20 +14,11 @@ class RoadTest final : public QObject
 {
     Q_OBJECT
 
-    const QString m_program = QStringLiteral(PROGRAM);
-
-    static void writeReminders(const PrivateDesktop &desktop, const QList<Reminder> &reminders)
-    {
-        QDir().mkpath(QFileInfo(desktop.dataFile({})).path());
-        writeFile(desktop.dataFile(u"reminders.json"_s), noteEncoder::encode(reminders));
-        writeFile(desktop.dataFile(u".lock"_s), {}); // not the very first start
-    }
-
 private Q_SLOTS:
     void the_road_of_one_note()
     {
         PrivateDesktop desktop({});
-        Road road(desktop, m_program);
+        Road road(desktop, QStringLiteral(PROGRAM));
         const QString draft = u"明天下午3点 交房租 #家"_s;
         NotificationRecorder server(desktop.busAddress());
 
@@ -73,30 +60,23 @@ private Q_SLOTS:
         QVERIFY(PrivateDesktop::waitUntil([&road] { return road.isFlashing(); }, 3s));
         QVERIFY(PrivateDesktop::waitUntil([&road] { return !road.isFlashing(); }, 3s));
         QCOMPARE(road.savedNotes(), QList<Note>{note});
-        road.stop();
     }
 
     void a_second_start_opens_the_panel_of_the_first()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
+        RunningProgram program;
+        Road &road = program.road;
         QVERIFY(!road.panel());
-        const auto second = desktop.start(m_program);
+        const auto second = program.desktop.start(QStringLiteral(PROGRAM));
         QVERIFY(second->waitForFinished());
         QCOMPARE(second->exitStatus(), QProcess::NormalExit);
         QCOMPARE(second->exitCode(), 0);
         QVERIFY(road.waitForPanel(true));
         QCOMPARE(road.process().state(), QProcess::Running);
-        road.stop();
     }
 
     void reminders_missed_while_not_running_are_shown_once()
     {
-        PrivateDesktop desktop({});
-        NotificationRecorder server(desktop.busAddress());
         const Instant now = std::chrono::floor<std::chrono::minutes>(SystemClock().now());
         QList<Reminder> reminders;
         for (int i = 1; i <= 7; ++i) {
@@ -105,35 +85,29 @@ private Q_SLOTS:
         }
         reminders.append(
             {QUuid::createUuid(), QUuid::createUuid(), u"将来"_s, u"x"_s, now + std::chrono::hours(1), now});
-        writeReminders(desktop, reminders);
-
-        Road road(desktop, m_program);
+        RunningProgram program(reminders);
+        const QList<NotificationRecorder::Shown> &shown = program.notifications->shown();
         for (int start = 0; start < 2; ++start) {
-            road.start();
-            QVERIFY(road.waitForTrayIcon());
-            QTRY_COMPARE(server.shown().size(), 6);
-            QTRY_COMPARE(road.savedReminders(), QList<Reminder>{reminders.last()});
+            QTRY_COMPARE(shown.size(), 6);
+            QTRY_COMPARE(program.road.savedReminders(), QList<Reminder>{reminders.last()});
             QTest::qWait(300);
-            road.stop();
+            program.road.stop();
+            program.start();
         }
-        QCOMPARE(server.shown().first().body, u"第1\n第2"_s);
-        QCOMPARE(server.shown().last().body, u"第7"_s);
+        QCOMPARE(shown.first().body, u"第1\n第2"_s);
+        QCOMPARE(shown.last().body, u"第7"_s);
     }
 
     void a_reminder_can_be_snoozed_from_its_notification()
     {
-        PrivateDesktop desktop({});
-        NotificationRecorder server(desktop.busAddress());
         const Instant now = std::chrono::floor<std::chrono::minutes>(SystemClock().now());
         const Note note{QUuid::createUuid(), u"8点 倒垃圾，改过"_s, {}, {}, {}, now - 1h};
-        writeReminders(
-            desktop, {{QUuid::createUuid(), note.id, u"倒垃圾"_s, u"8点 倒垃圾"_s, now - 1min, now - 1h}});
-        writeFile(desktop.dataFile(u"notes.json"_s), noteEncoder::encode(QList<Note>{note}));
-        Road road(desktop, m_program);
-        road.start();
-        QTRY_COMPARE(server.shown().size(), 1);
+        RunningProgram program(
+            {{QUuid::createUuid(), note.id, u"倒垃圾"_s, u"8点 倒垃圾"_s, now - 1min, now - 1h}}, {note});
+        Road &road = program.road;
+        QTRY_COMPARE(program.notifications->shown().size(), 1);
         QTRY_VERIFY(road.savedReminders().isEmpty());
-        server.click(server.shown().first().id, u"snooze"_s);
+        program.notifications->click(program.notifications->shown().first().id, u"snooze"_s);
         QTRY_COMPARE(road.savedReminders().size(), 1);
         const Reminder later = road.savedReminders().first();
         QCOMPARE(later.noteID, note.id);
@@ -141,79 +115,48 @@ private Q_SLOTS:
         QCOMPARE(later.fullText, note.text);
         QVERIFY(later.fireAt >= now + 10min && later.fireAt <= SystemClock().now() + 11min);
         QVERIFY(!road.panel());
-        road.stop();
     }
 
     void the_hot_key_works_under_num_lock_and_toggles_once_a_press()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
-        desktop.screen().press({Keysym::numLock});
-        for (const bool opens : {true, false, true, false}) {
-            road.pressHotKey();
-            QVERIFY(road.waitForPanel(opens));
-        }
-        desktop.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms); // repeats meanwhile
+        RunningProgram program;
+        Road &road = program.road;
+        program.screen().press({Keysym::numLock});
+        for (const bool opens : {true, false, true, false})
+            QVERIFY(program.toggle(opens));
+        program.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms); // repeats meanwhile
         QVERIFY(road.waitForPanel(true));
         QTest::qWait(300);
         QVERIFY(road.panel());
-        desktop.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms);
+        program.screen().hold({Keysym::control, Keysym::alt, Keysym::space}, 1500ms);
         QVERIFY(road.waitForPanel(false));
         QTest::qWait(300);
         QVERIFY(!road.panel());
-        road.stop();
     }
 
     void the_hot_key_follows_the_keyboard_map()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
-        desktop.screen().moveToAnotherKey(Keysym::space);
+        RunningProgram program;
+        program.screen().moveToAnotherKey(Keysym::space);
         QTest::qWait(500); // nobody types right after changing the keyboard map
-        for (const bool opens : {true, false}) {
-            road.pressHotKey();
-            QVERIFY(road.waitForPanel(opens));
-        }
-        road.stop();
+        for (const bool opens : {true, false})
+            QVERIFY(program.toggle(opens));
     }
 
     void nothing_typed_right_after_the_hot_key_is_lost()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
-        QStringList expected;
+        RunningProgram program;
         for (int round = 0; round < 12; ++round) {
-            const QString text = u"%1 the quick brown fox"_s.arg(QChar(u'a' + round));
-            road.pressHotKey();
-            desktop.screen().type(text); // a key each 10 ms, right from the press
-            desktop.screen().press({Keysym::enter});
-            desktop.screen().press({Keysym::escape});
-            expected.prepend(text);
-            QTRY_COMPARE(road.savedNotes().size(), expected.size());
-            QCOMPARE(road.savedNotes().first().text, text);
-            QVERIFY(road.waitForPanel(false));
+            QVERIFY(program.write(u"%1 the quick brown fox"_s.arg(QChar(u'a' + round))));
             QTest::qWait(round % 3 * 150);
         }
-        road.stop();
     }
 
     void the_panel_opens_at_the_icon_above_other_windows_and_on_the_current_workspace()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        XServer &screen = desktop.screen();
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
+        RunningProgram program;
+        Road &road = program.road;
+        XServer &screen = program.screen();
         const QPoint icon = road.trayIcon()->center();
         screen.click(icon);
         QVERIFY(road.waitForPanel(true));
@@ -227,8 +170,7 @@ private Q_SLOTS:
         screen.openFullScreenWindow();
         QTRY_COMPARE(screen.screenshot(QRect(icon, QSize(1, 1))).pixel(0, 0), qRgb(0, 0, 0));
         QTRY_VERIFY(screen.isFullScreenWindowFocused());
-        road.pressHotKey();
-        QVERIFY(road.waitForPanel(true));
+        QVERIFY(program.toggle(true));
         const QRect middle(road.panel()->center(), QSize(1, 1));
         QTRY_VERIFY(qGray(screen.screenshot(middle).pixel(0, 0)) > 200);
         screen.focusFullScreenWindow();
@@ -237,14 +179,12 @@ private Q_SLOTS:
         // On another workspace.
         screen.goToDesktop(1);
         QTest::qWait(200);
-        road.pressHotKey();
-        QVERIFY(road.waitForPanel(true));
+        QVERIFY(program.toggle(true));
         QTest::qWait(200); // until it has the focus
         screen.goToDesktop(0);
         QTest::qWait(500);
         QVERIFY(!road.panel());
-        road.pressHotKey();
-        QVERIFY(road.waitForPanel(true));
+        QVERIFY(program.toggle(true));
 
         // Some window managers minimize what is on another workspace.
         for (const XServer::Window &window : screen.windowsOfClass(u"Quillet"_s)) {
@@ -253,55 +193,48 @@ private Q_SLOTS:
         }
         QVERIFY(road.waitForPanel(false));
         QTest::qWait(500);
-        road.pressHotKey();
-        QVERIFY(road.waitForPanel(true));
-        road.stop();
+        QVERIFY(program.toggle(true));
     }
 
     void the_click_that_has_closed_the_panel_does_not_open_it_again()
     {
-        PrivateDesktop desktop({});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForTrayIcon());
-        desktop.screen().openFullScreenWindow();
-        QTRY_VERIFY(desktop.screen().isFullScreenWindowFocused());
-        desktop.screen().goToDesktop(1); // away from that window, which can still take the focus
+        RunningProgram program;
+        Road &road = program.road;
+        XServer &screen = program.screen();
+        screen.openFullScreenWindow();
+        QTRY_VERIFY(screen.isFullScreenWindowFocused());
+        screen.goToDesktop(1); // away from that window, which can still take the focus
         QTest::qWait(200);
-        desktop.screen().click(road.trayIcon()->center());
+        screen.click(road.trayIcon()->center());
         QVERIFY(road.waitForPanel(true));
         QTest::qWait(500);
-        desktop.screen().goToDesktop(0);
+        screen.goToDesktop(0);
         QTest::qWait(100);
-        desktop.screen().goToDesktop(1);
-        desktop.screen().click(road.trayIcon()->center());
+        screen.goToDesktop(1);
+        screen.click(road.trayIcon()->center());
         QTest::qWait(500);
         QVERIFY(!road.panel());
-        desktop.screen().click(road.trayIcon()->center());
+        screen.click(road.trayIcon()->center());
         QVERIFY(road.waitForPanel(true));
-        road.stop();
     }
 
     void a_taken_hot_key_is_one_line_in_the_log()
     {
         PrivateDesktop desktop({});
-        writeReminders(desktop, {});
         desktop.screen().grabHotKey();
-        Road road(desktop, m_program);
-        road.start();
+        Road road(desktop, QStringLiteral(PROGRAM));
+        road.start({u"--hidden"_s});
         QVERIFY(road.waitForTrayIcon());
         QByteArray log;
         QTRY_VERIFY(
             (log += road.process().readAll()).contains("Quillet: failed to register global hotkey: 10\n"));
-        road.stop();
     }
 
     void without_a_tray_the_panel_opens()
     {
         PrivateDesktop desktop({.hasTray = false});
-        writeReminders(desktop, {});
-        Road road(desktop, m_program);
+        desktop.writeFile(desktop.dataFile(u".lock"_s), {}); // not the very first start
+        Road road(desktop, QStringLiteral(PROGRAM));
         road.start();
         QVERIFY(road.waitForPanel(true));
         QTest::qWait(200);
@@ -309,26 +242,6 @@ private Q_SLOTS:
         QTest::qWait(200);
         desktop.screen().press({Keysym::enter});
         QTRY_COMPARE(road.savedNotes().size(), 1);
-        road.stop();
-    }
-
-    void a_program_killed_right_after_return_has_saved_the_note()
-    {
-        PrivateDesktop desktop({});
-        Road road(desktop, m_program);
-        road.start();
-        QVERIFY(road.waitForPanel(true));
-        QTest::qWait(300);
-        desktop.screen().type(u"买牛奶"_s);
-        QTest::qWait(200);
-        desktop.screen().press({Keysym::enter});
-        QVERIFY(PrivateDesktop::waitUntil([&road] { return road.savedNotes().size() == 1; }));
-        road.process().kill();
-        QVERIFY(road.process().waitForFinished());
-        QCOMPARE(road.savedNotes().first().text, u"买牛奶"_s);
-        road.start();
-        QVERIFY(road.waitForTrayIcon()); // the lock was released with the process
-        road.stop();
     }
 };
 

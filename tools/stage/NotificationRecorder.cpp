@@ -2,29 +2,20 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-const QString service = QStringLiteral("org.freedesktop.Notifications");
-const QString connectionName = QStringLiteral("notification-recorder");
+const QString serviceName = u"org.freedesktop.Notifications"_s;
 } // namespace
 
 NotificationRecorder::NotificationRecorder(const QString &busAddress)
-    : m_bus(QDBusConnection::connectToBus(busAddress, connectionName))
+    : m_service(busAddress, serviceName, u"/org/freedesktop/Notifications"_s, this)
 {
-    if (!m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
-            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals)
-        || !m_bus.registerService(service))
-        qFatal("cannot be the notification server of %s", qPrintable(busAddress));
-}
-
-NotificationRecorder::~NotificationRecorder()
-{
-    m_bus.unregisterService(service);
-    QDBusConnection::disconnectFromBus(connectionName);
 }
 
 void NotificationRecorder::click(uint id, const QString &action)
 {
-    Q_EMIT ActivationToken(id, QStringLiteral("token %1").arg(id));
+    Q_EMIT ActivationToken(id, u"token %1"_s.arg(id));
     Q_EMIT ActionInvoked(id, action);
     Q_EMIT NotificationClosed(id, 2);
 }
@@ -38,8 +29,8 @@ uint NotificationRecorder::Notify(const QString &, uint, const QString &, const 
     });
     if (m_refusesIdentical && isIdentical) {
         ++m_refused;
-        sendErrorReply(service + QStringLiteral(".Error.ExcessNotificationGeneration"),
-            QStringLiteral("Created too many similar notifications in quick succession"));
+        sendErrorReply(serviceName + u".Error.ExcessNotificationGeneration"_s,
+            u"Created too many similar notifications in quick succession"_s);
         return 0;
     }
     const uint id = uint(m_shown.size()) + 1;
@@ -55,14 +46,14 @@ void NotificationRecorder::CloseNotification(uint id)
 
 QStringList NotificationRecorder::GetCapabilities() const
 {
-    return {QStringLiteral("actions"), QStringLiteral("body"), QStringLiteral("body-markup")};
+    return {u"actions"_s, u"body"_s, u"body-markup"_s};
 }
 
 QString NotificationRecorder::GetServerInformation(
     QString &vendor, QString &version, QString &specification) const
 {
-    vendor = QStringLiteral("Quillet");
-    version = QStringLiteral("1");
-    specification = QStringLiteral("1.2");
-    return QStringLiteral("recorder");
+    vendor = u"Quillet"_s;
+    version = u"1"_s;
+    specification = u"1.2"_s;
+    return u"recorder"_s;
 }

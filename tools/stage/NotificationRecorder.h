@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "stage/BusService.h"
+
 #include <QDBusContext>
 #include <QElapsedTimer>
 #include <QList>
@@ -26,8 +27,6 @@ public:
     };
 
     explicit NotificationRecorder(const QString &busAddress);
-    ~NotificationRecorder() override;
-    Q_DISABLE_COPY_MOVE(NotificationRecorder)
 
     [[nodiscard]] const QList<Shown> &shown() const { return m_shown; }
     /// A click on the body, or on a button by its key.
@@ -49,7 +48,7 @@ Q_SIGNALS:
     void NotificationClosed(uint id, uint reason);
 
 private:
-    QDBusConnection m_bus;
+    BusService m_service;
     QList<Shown> m_shown;
     bool m_refusesIdentical = false;
     int m_refused = 0;

@@ -1,22 +1,22 @@
 #include "stage/PrivateDesktop.h"
 
-#include <QFile>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 PrivateDesktop::PrivateDesktop(Options options)
     : m_scale(options.scale)
 {
-    m_server = &launch(QStringLiteral("Xvfb"),
-        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-            QStringLiteral("%1x%2x24").arg(1024 * m_scale).arg(720 * m_scale), QStringLiteral("-nolisten"),
-            QStringLiteral("tcp")});
+    m_server = &launch(
+        u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
+                       u"%1x%2x24"_s.arg(1024 * m_scale).arg(720 * m_scale), u"-nolisten"_s, u"tcp"_s});
     m_display = u':' + QString::fromLatin1(firstLine(*m_server));
     m_screen = std::make_unique<XServer>(m_display);
 
-    launch(QStringLiteral("openbox"), {});
+    launch(u"openbox"_s, {});
     paintWallpaper();
     if (options.hasCompositor)
-        launch(QStringLiteral("picom"), {QStringLiteral("--backend"), QStringLiteral("xrender")});
+        launch(u"picom"_s, {u"--backend"_s, u"xrender"_s});
     if (options.hasTray)
         startTray();
     if (options.hasDunst)
@@ -32,48 +32,37 @@ PrivateDesktop::~PrivateDesktop()
 void PrivateDesktop::stopScreen()
 {
     m_screen.reset();
-    m_server->kill();
-    m_server->waitForFinished();
+    kill(*m_server);
 }
 
 QProcessEnvironment PrivateDesktop::environment() const
 {
     QProcessEnvironment environment = PrivateSession::environment();
     if (m_scale != 1)
-        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(m_scale));
+        environment.insert(u"QT_SCALE_FACTOR"_s, QString::number(m_scale));
     if (!m_display.isEmpty())
-        environment.insert(QStringLiteral("DISPLAY"), m_display);
+        environment.insert(u"DISPLAY"_s, m_display);
     return environment;
 }
 
 void PrivateDesktop::startTray()
 {
-    m_tray = &launch(QStringLiteral("tint2"), {});
-    if (!waitUntil([this] { return !m_screen->windowsOfClass(QStringLiteral("tint2")).isEmpty(); }))
+    m_tray = &launch(u"tint2"_s, {});
+    if (!waitUntil([this] { return !m_screen->windowsOfClass(u"tint2"_s).isEmpty(); }))
         qFatal("tint2 does not come up");
-}
-
-void PrivateDesktop::stopTray()
-{
-    m_tray->kill();
-    m_tray->waitForFinished();
 }
 
 void PrivateDesktop::startDunst()
 {
-    const QString path = this->file(QStringLiteral("dunstrc"));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write %s", qPrintable(path));
-    file.write("[global]\n"
-               "    width = 300\n"
-               "    origin = top-right\n"
-               "    offset = 16x16\n"
-               "    font = Noto Sans CJK SC 11\n"
-               "    frame_width = 1\n"
-               "    mouse_left_click = do_action, close_current\n");
-    file.close();
-    launch(QStringLiteral("dunst"), {QStringLiteral("-conf"), path});
+    const QString configuration =
+        writeFile(u"dunstrc"_s, "[global]\n"
+                                "    width = 300\n"
+                                "    origin = top-right\n"
+                                "    offset = 16x16\n"
+                                "    font = Noto Sans CJK SC 11\n"
+                                "    frame_width = 1\n"
+                                "    mouse_left_click = do_action, close_current\n");
+    launch(u"dunst"_s, {u"-conf"_s, configuration});
 }
 
 void PrivateDesktop::paintWallpaper()

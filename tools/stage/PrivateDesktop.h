@@ -25,7 +25,7 @@ public:
     /// Kills the X server.
     void stopScreen();
     void startTray();
-    void stopTray();
+    void stopTray() { kill(*m_tray); }
     [[nodiscard]] QProcessEnvironment environment() const override;
 
 private:

@@ -5,24 +5,29 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+void begin(QProcess &process, const QString &program, const QStringList &arguments)
+{
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        qFatal("cannot start %s: %s", qPrintable(program), qPrintable(process.errorString()));
+}
+} // namespace
 
 PrivateSession::PrivateSession()
 {
-    QDir(m_home.path()).mkpath(QStringLiteral("run"));
-    QFile::setPermissions(
-        m_home.filePath(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QDir(m_home.path()).mkpath(u"run"_s);
+    QFile::setPermissions(file(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     // Without the system's service files, so that only this desktop's own servers are started.
-    QFile configuration(file(QStringLiteral("bus.conf")));
-    if (!configuration.open(QIODevice::WriteOnly))
-        qFatal("cannot write %s", qPrintable(configuration.fileName()));
-    configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-                        "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
-    configuration.close();
-    m_bus = &launch(
-        QStringLiteral("dbus-daemon"), {QStringLiteral("--config-file=") + configuration.fileName(),
-                                           QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+    const QString configuration = writeFile(u"bus.conf"_s,
+        "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
+        "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
+    m_bus =
+        &launch(u"dbus-daemon"_s, {u"--config-file="_s + configuration, u"--nofork"_s, u"--print-address"_s});
     m_busAddress = QString::fromLatin1(firstLine(*m_bus));
 }
 
@@ -39,10 +44,13 @@ void PrivateSession::stopAll()
     }
 }
 
-void PrivateSession::stopBus()
+QString PrivateSession::writeFile(const QString &name, const QByteArray &bytes) const
 {
-    m_bus->kill();
-    m_bus->waitForFinished();
+    QFile file(QDir(m_home.path()).filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
 }
 
 QByteArray PrivateSession::firstLine(QProcess &process)
@@ -58,11 +66,8 @@ QProcess &PrivateSession::launch(const QString &program, const QStringList &argu
 {
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment());
-    process->setProcessChannelMode(QProcess::SeparateChannels);
     process->setStandardErrorFile(QProcess::nullDevice());
-    process->start(program, arguments);
-    if (!process->waitForStarted())
-        qFatal("cannot start %s: %s", qPrintable(program), qPrintable(process->errorString()));
+    begin(*process, program, arguments);
     m_processes.push_back(std::move(process));
     return *m_processes.back();
 }
@@ -74,22 +79,17 @@ QProcessEnvironment PrivateSession::environment() const
              "DESKTOP_STARTUP_ID", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS", "XDG_CURRENT_DESKTOP",
              "QT_IM_MODULE", "LD_PRELOAD"})
         environment.remove(QString::fromLatin1(name));
-    environment.insert(QStringLiteral("HOME"), m_home.path());
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.filePath(QStringLiteral("config")));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_home.filePath(QStringLiteral("run")));
-    environment.insert(QStringLiteral("TZ"), QStringLiteral("Asia/Shanghai"));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("QT_LOGGING_TO_CONSOLE"), QStringLiteral("1"));
+    environment.insert(u"HOME"_s, m_home.path());
+    environment.insert(u"XDG_DATA_HOME"_s, file(u"data"_s));
+    environment.insert(u"XDG_CONFIG_HOME"_s, file(u"config"_s));
+    environment.insert(u"XDG_CACHE_HOME"_s, file(u"cache"_s));
+    environment.insert(u"XDG_RUNTIME_DIR"_s, file(u"run"_s));
+    environment.insert(u"TZ"_s, u"Asia/Shanghai"_s);
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    environment.insert(u"QT_LOGGING_TO_CONSOLE"_s, u"1"_s);
     if (!m_busAddress.isEmpty())
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), m_busAddress);
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_busAddress);
     return environment;
-}
-
-QString PrivateSession::dataFile(const QString &name) const
-{
-    return m_home.filePath(QStringLiteral("data/Quillet/") + name);
 }
 
 std::unique_ptr<QProcess> PrivateSession::start(
@@ -98,26 +98,28 @@ std::unique_ptr<QProcess> PrivateSession::start(
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment environment = this->environment();
     if (clockShift != 0ms) {
-        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(SHIFTED_CLOCK));
-        environment.insert(QStringLiteral("STAGE_CLOCK_SHIFT_MS"), QString::number(clockShift.count()));
+        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(SHIFTED_CLOCK));
+        environment.insert(u"STAGE_CLOCK_SHIFT_MS"_s, QString::number(clockShift.count()));
         // AddressSanitizer insists on being the first library, although it works when it is not.
-        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
+        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
     }
     process->setProcessEnvironment(environment);
     process->setProcessChannelMode(QProcess::MergedChannels);
-    process->start(program, arguments);
-    if (!process->waitForStarted())
-        qFatal("cannot start %s: %s", qPrintable(program), qPrintable(process->errorString()));
+    begin(*process, program, arguments);
     return process;
 }
 
 void PrivateSession::stop(QProcess &process)
 {
     process.terminate();
-    if (!process.waitForFinished(5000)) {
-        process.kill();
-        process.waitForFinished();
-    }
+    if (!process.waitForFinished(5000))
+        kill(process);
+}
+
+void PrivateSession::kill(QProcess &process)
+{
+    process.kill();
+    process.waitForFinished();
 }
 
 bool PrivateSession::waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeLimit)

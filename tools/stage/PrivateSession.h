@@ -20,15 +20,22 @@ public:
 
     [[nodiscard]] const QString &busAddress() const { return m_busAddress; }
     /// Kills the session bus.
-    void stopBus();
+    void stopBus() { kill(*m_bus); }
     /// For the programs on this desktop: its buses and folders, time zone Asia/Shanghai.
     [[nodiscard]] virtual QProcessEnvironment environment() const;
-    [[nodiscard]] QString dataFile(const QString &name) const;
+    /// A file of the program's data folder.
+    [[nodiscard]] QString dataFile(const QString &name) const
+    {
+        return file(QStringLiteral("data/Quillet/") + name);
+    }
+    /// Writes a file, given with its path or relative to the home folder, and returns its path.
+    QString writeFile(const QString &name, const QByteArray &bytes) const;
 
     /// Starts a program whose clock is @p clockShift ahead of the system's.
     std::unique_ptr<QProcess> start(const QString &program, std::chrono::milliseconds clockShift = {},
         const QStringList &arguments = {}) const;
     static void stop(QProcess &process);
+    static void kill(QProcess &process);
 
     /// Handles events until @p condition holds; false when it does not within the time limit.
     static bool waitUntil(const std::function<bool()> &condition,

@@ -7,9 +7,11 @@
 #include <QDebug>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 /// The title of the panel, and the class of panel and tray icon.
-const QString name = QStringLiteral("Quillet");
+const QString name = u"Quillet"_s;
 constexpr int smallestPanel = 100;
 
 QByteArray bytes(const QString &path)
@@ -26,7 +28,8 @@ void Road::start(std::chrono::milliseconds clockShift, const QStringList &argume
 
 void Road::stop()
 {
-    PrivateDesktop::stop(*m_process);
+    if (m_process)
+        PrivateDesktop::stop(*m_process);
 }
 
 std::optional<QRect> Road::trayIcon() const
@@ -88,8 +91,7 @@ QList<Note> Road::savedNotes(const QString &file) const
 
 QList<Reminder> Road::savedReminders() const
 {
-    const auto reminders =
-        noteDecoder::decodeReminders(bytes(m_desktop.dataFile(QStringLiteral("reminders.json"))));
+    const auto reminders = noteDecoder::decodeReminders(bytes(m_desktop.dataFile(u"reminders.json"_s)));
     return reminders ? reminders.value() : QList<Reminder>();
 }
 

@@ -17,6 +17,8 @@ public:
         , m_program(std::move(program))
     {
     }
+    ~Road() { stop(); }
+    Q_DISABLE_COPY_MOVE(Road)
 
     void start(std::chrono::milliseconds clockShift = {}, const QStringList &arguments = {});
     void start(const QStringList &arguments) { start({}, arguments); }

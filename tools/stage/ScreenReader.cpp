@@ -20,15 +20,7 @@ const QString accessibleInterface = u"org.a11y.atspi.Accessible"_s;
 const QString actionInterface = u"org.a11y.atspi.Action"_s;
 const QString properties = u"org.freedesktop.DBus.Properties"_s;
 
-QDBusMessage call(const ScreenReader::Object &object, const QString &interface, const QString &method,
-    const QVariantList &arguments)
-{
-    QDBusMessage call = QDBusMessage::createMethodCall(object.service, object.path.path(), interface, method);
-    call.setArguments(arguments);
-    return call;
-}
-
-/// The address of the accessibility bus, once the launcher is on the session bus.
+/// The address of the accessibility bus, as soon as the launcher is on the session bus.
 QString accessibilityBus(const QString &sessionBus)
 {
     QDBusConnection session = QDBusConnection::connectToBus(sessionBus, sessionConnection);
@@ -63,27 +55,11 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, ScreenReader::Obj
 QList<ScreenReader::Node> ScreenReader::Node::all(const QString &wanted) const
 {
     QList<Node> found;
-    if (wanted.isEmpty() || role == wanted)
+    if (role == wanted)
         found.append(*this);
     for (const Node &child : children)
         found += child.all(wanted);
     return found;
-}
-
-QString ScreenReader::Node::outline(int depth) const
-{
-    QString text = QString(2 * depth, u' ') + spoken();
-    if (!description.isEmpty())
-        text += u" (%1)"_s.arg(description);
-    for (const auto &[state, word] : {std::pair(State::Showing, "showing"),
-             std::pair(State::Focused, "focused"), std::pair(State::Active, "active")}) {
-        if (is(state))
-            text += u' ' + QLatin1StringView(word);
-    }
-    text += u'\n';
-    for (const Node &child : children)
-        text += child.outline(depth + 1);
-    return text;
 }
 
 bool ScreenReader::isPossible()
@@ -114,16 +90,6 @@ ScreenReader::~ScreenReader()
     PrivateSession::stop(*m_launcher);
 }
 
-QStringList ScreenReader::focused() const
-{
-    QStringList said;
-    for (const Event &event : m_heard) {
-        if (event.kind == u"StateChanged:focused"_s && event.detail == 1)
-            said.append(event.source.spoken());
-    }
-    return said;
-}
-
 ScreenReader::Node ScreenReader::application(const QString &name) const
 {
     for (const Object &object :
@@ -134,52 +100,33 @@ ScreenReader::Node ScreenReader::application(const QString &name) const
     return {};
 }
 
-ScreenReader::Node ScreenReader::read(const Object &object) const
-{
-    Node node = describe(object);
-    addChildren(node);
-    return node;
-}
-
-QList<ScreenReader::Action> ScreenReader::actions(const Object &object) const
-{
-    QList<Action> actions;
-    const QDBusMessage reply = ask(object, actionInterface, u"GetActions"_s);
-    const auto list = reply.arguments().value(0).value<QDBusArgument>();
-    list.beginArray();
-    while (!list.atEnd()) {
-        Action action;
-        QString description;
-        list.beginStructure();
-        list >> action.name >> description >> action.key;
-        list.endStructure();
-        actions.append(action);
-    }
-    list.endArray();
-    return actions;
-}
-
 void ScreenReader::act(const Object &object, const QString &actionName) const
 {
-    const QList<Action> actions = this->actions(object);
-    for (int number = 0; number < actions.size(); ++number) {
-        if (actions[number].name == actionName)
-            m_bus.send(call(object, actionInterface, u"DoAction"_s, {number}));
+    for (int action = 0;; ++action) {
+        const QDBusReply<QString> name = ask(object, actionInterface, u"GetName"_s, {action});
+        if (!name.isValid())
+            qFatal("there is no action %s", qPrintable(actionName));
+        if (name.value() == actionName) {
+            (void)ask(object, actionInterface, u"DoAction"_s, {action}, QDBus::NoBlock);
+            return;
+        }
     }
 }
 
 void ScreenReader::hear(const QDBusMessage &event)
 {
-    // Asked at once, as a screen reader does: what is gone by then cannot be said.
-    const QString kind = event.arguments().value(0).toString();
-    m_heard.append({kind.isEmpty() ? event.member() : event.member() + u':' + kind,
+    // Read at once, as a screen reader does: the object may soon be gone.
+    const QString detail = event.arguments().value(0).toString();
+    m_heard.append({detail.isEmpty() ? event.member() : event.member() + u':' + detail,
         event.arguments().value(1).toInt(), describe({event.service(), QDBusObjectPath(event.path())})});
 }
 
 QDBusMessage ScreenReader::ask(const Object &object, const QString &interface, const QString &method,
-    const QVariantList &arguments) const
+    const QVariantList &arguments, QDBus::CallMode mode) const
 {
-    return m_bus.call(call(object, interface, method, arguments));
+    QDBusMessage call = QDBusMessage::createMethodCall(object.service, object.path.path(), interface, method);
+    call.setArguments(arguments);
+    return m_bus.call(call, mode);
 }
 
 QList<ScreenReader::Object> ScreenReader::childrenOf(const Object &object) const
@@ -189,28 +136,21 @@ QList<ScreenReader::Object> ScreenReader::childrenOf(const Object &object) const
 
 ScreenReader::Node ScreenReader::describe(const Object &object) const
 {
-    const auto property = [&](const QString &name) {
-        return QDBusReply<QDBusVariant>(ask(object, properties, u"Get"_s, {accessibleInterface, name}))
-            .value()
-            .variant()
-            .toString();
-    };
     Node node;
     node.object = object;
     node.role = QDBusReply<QString>(ask(object, accessibleInterface, u"GetRoleName"_s)).value();
-    node.name = property(u"Name"_s);
-    node.description = property(u"Description"_s);
-    const QList<uint> states =
-        QDBusReply<QList<uint>>(ask(object, accessibleInterface, u"GetState"_s)).value();
-    if (states.size() == 2)
-        node.states = quint64(states[1]) << 32 | states[0];
+    const QDBusReply<QDBusVariant> name = ask(object, properties, u"Get"_s, {accessibleInterface, u"Name"_s});
+    node.name = name.value().variant().toString();
+    const QDBusReply<QList<uint>> states = ask(object, accessibleInterface, u"GetState"_s);
+    if (states.value().size() == 2)
+        node.states = quint64(states.value()[1]) << 32 | states.value()[0];
     return node;
 }
 
-void ScreenReader::addChildren(Node &node) const
+ScreenReader::Node ScreenReader::read(const Object &object) const
 {
-    for (const Object &object : childrenOf(node.object)) {
-        node.children.append(describe(object));
-        addChildren(node.children.last());
-    }
+    Node node = describe(object);
+    for (const Object &child : childrenOf(object))
+        node.children.append(read(child));
+    return node;
 }

@@ -12,39 +12,32 @@
 
 class PrivateSession;
 
-/// A screen reader that records instead of speaking. It starts the session's accessibility bus, switches
-/// accessibility on, records what programs announce over AT-SPI, and asks what they show.
+/// A client of AT-SPI, the protocol of screen readers. It starts the session's accessibility bus, switches
+/// accessibility on, records what programs announce, and reads their trees of accessible objects.
 class ScreenReader final : public QObject
 {
     Q_OBJECT
 
 public:
     /// The numbers of AtspiStateType.
-    enum class State { Active = 1, Focused = 12, Showing = 25 };
+    enum class State { Focused = 12, Showing = 25 };
 
     /// An accessible object as AT-SPI addresses it.
     struct Object {
         QString service;
         QDBusObjectPath path;
     };
-    /// An object as it was when it was asked; empty when it was gone.
+    /// An object as it was when it was read; empty when it was gone by then.
     struct Node {
         QString role; ///< as AT-SPI spells it: "list item"
         QString name;
-        QString description;
         quint64 states = 0;
         Object object;
         QList<Node> children;
 
         [[nodiscard]] bool is(State state) const { return states >> int(state) & 1; }
-        [[nodiscard]] QString spoken() const { return role + QStringLiteral(": ") + name; }
-        /// This node and what is below it, parents first; all of them, or those of a role.
-        [[nodiscard]] QList<Node> all(const QString &role = {}) const;
-        [[nodiscard]] QString outline(int depth = 0) const; ///< a line for each node, for messages
-    };
-    struct Action {
-        QString name; ///< "Press", "ShowMenu"
-        QString key;  ///< empty when the program does not report one
+        /// The nodes of a role among this one and its descendants, parents first.
+        [[nodiscard]] QList<Node> all(const QString &role) const;
     };
     struct Event {
         QString kind;   ///< "StateChanged:focused", "ChildrenChanged:add", "Activate"
@@ -60,15 +53,11 @@ public:
 
     [[nodiscard]] const QList<Event> &heard() const { return m_heard; }
     void forget() { m_heard.clear(); }
-    /// What was said when the focus moved, oldest first: "list item: buy milk".
-    [[nodiscard]] QStringList focused() const;
 
-    /// Everything that the application of this name has, shown or not; empty when there is none.
+    /// The tree of the application of this name, including what does not show; empty when there is none.
+    /// Menus are in no tree: they are known only from events.
     [[nodiscard]] Node application(const QString &name) const;
-    /// The object with everything in it; for popups too, which are in no application's tree.
-    [[nodiscard]] Node read(const Object &object) const;
-    [[nodiscard]] QList<Action> actions(const Object &object) const;
-    /// Asks the object to do what its action of this name does; does not wait until it is done.
+    /// Triggers the object's action of this name ("Press", "ShowMenu") without waiting for the result.
     void act(const Object &object, const QString &actionName) const;
 
 private Q_SLOTS:
@@ -76,10 +65,11 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QDBusMessage ask(const Object &object, const QString &interface, const QString &method,
-        const QVariantList &arguments = {}) const;
+        const QVariantList &arguments = {}, QDBus::CallMode mode = QDBus::Block) const;
     [[nodiscard]] QList<Object> childrenOf(const Object &object) const;
-    [[nodiscard]] Node describe(const Object &object) const;
-    void addChildren(Node &node) const;
+    [[nodiscard]] Node describe(const Object &object) const; ///< without children
+    /// The object with its descendants.
+    [[nodiscard]] Node read(const Object &object) const;
 
     std::unique_ptr<QProcess> m_launcher;
     QDBusConnection m_bus{QString()};

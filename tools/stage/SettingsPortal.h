@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "stage/BusService.h"
+
 #include <QDBusVariant>
 #include <QObject>
 
@@ -14,8 +15,6 @@ public:
     enum class Scheme : unsigned { NoPreference = 0, Dark = 1, Light = 2 };
 
     SettingsPortal(const QString &busAddress, Scheme scheme);
-    ~SettingsPortal() override;
-    Q_DISABLE_COPY_MOVE(SettingsPortal)
 
     void setScheme(Scheme scheme);
     /// A change of a setting that the portal does not have.
@@ -29,6 +28,6 @@ Q_SIGNALS:
     void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
-    QDBusConnection m_bus;
+    BusService m_service;
     Scheme m_scheme;
 };

@@ -5,27 +5,16 @@
 #include <QDBusReply>
 #include <QDBusVariant>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString connectionName = QStringLiteral("status-notifier-watcher");
-const QString itemPath = QStringLiteral("/StatusNotifierItem");
-const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
+const QString itemPath = u"/StatusNotifierItem"_s;
+const QString itemInterface = u"org.kde.StatusNotifierItem"_s;
 } // namespace
 
 StatusNotifierWatcher::StatusNotifierWatcher(const QString &busAddress)
-    : m_bus(QDBusConnection::connectToBus(busAddress, connectionName))
+    : m_service(busAddress, u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s, this)
 {
-    if (!m_bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals
-                | QDBusConnection::ExportAllProperties)
-        || !m_bus.registerService(service))
-        qFatal("cannot be the tray of %s", qPrintable(busAddress));
-}
-
-StatusNotifierWatcher::~StatusNotifierWatcher()
-{
-    m_bus.unregisterService(service);
-    QDBusConnection::disconnectFromBus(connectionName);
 }
 
 void StatusNotifierWatcher::registerHost()
@@ -34,35 +23,23 @@ void StatusNotifierWatcher::registerHost()
     Q_EMIT StatusNotifierHostRegistered();
 }
 
-void StatusNotifierWatcher::RegisterStatusNotifierItem(const QString &item)
-{
-    m_items.append(item);
-    Q_EMIT StatusNotifierItemRegistered(item);
-}
-
-void StatusNotifierWatcher::RegisterStatusNotifierHost(const QString &)
-{
-    registerHost();
-}
-
 void StatusNotifierWatcher::click(const QString &item)
 {
-    QDBusMessage activate =
-        QDBusMessage::createMethodCall(item, itemPath, itemInterface, QStringLiteral("Activate"));
+    QDBusMessage activate = QDBusMessage::createMethodCall(item, itemPath, itemInterface, u"Activate"_s);
     activate << 10 << 10;
-    m_bus.asyncCall(activate);
+    m_service.bus().asyncCall(activate);
 }
 
 QStringList StatusNotifierWatcher::menuOf(const QString &item)
 {
-    QDBusMessage where = QDBusMessage::createMethodCall(
-        item, itemPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    where << itemInterface << QStringLiteral("Menu");
-    const QVariant path = QDBusReply<QDBusVariant>(m_bus.call(where)).value().variant();
-    QDBusMessage get = QDBusMessage::createMethodCall(item, path.value<QDBusObjectPath>().path(),
-        QStringLiteral("com.canonical.dbusmenu"), QStringLiteral("GetLayout"));
+    QDBusMessage where =
+        QDBusMessage::createMethodCall(item, itemPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    where << itemInterface << u"Menu"_s;
+    const QVariant path = QDBusReply<QDBusVariant>(m_service.bus().call(where)).value().variant();
+    QDBusMessage get = QDBusMessage::createMethodCall(
+        item, path.value<QDBusObjectPath>().path(), u"com.canonical.dbusmenu"_s, u"GetLayout"_s);
     get << 0 << -1 << QStringList();
-    const QVariantList answer = m_bus.call(get).arguments();
+    const QVariantList answer = m_service.bus().call(get).arguments();
     // (id, properties, children), and each child is a variant of the same.
     QStringList entries;
     int id = 0;
@@ -78,7 +55,7 @@ QStringList StatusNotifierWatcher::menuOf(const QString &item)
         entry.beginStructure();
         entry >> id >> properties;
         entry.endStructure();
-        entries.append(properties.value(QStringLiteral("label")).toString());
+        entries.append(properties.value(u"label"_s).toString());
     }
     root.endArray();
     root.endStructure();

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "stage/BusService.h"
+
 #include <QObject>
 #include <QStringList>
 
@@ -10,17 +11,12 @@ class StatusNotifierWatcher final : public QObject
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
     Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
-    Q_PROPERTY(int ProtocolVersion READ protocolVersion)
-    Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ items)
 
 public:
     explicit StatusNotifierWatcher(const QString &busAddress);
-    ~StatusNotifierWatcher() override;
-    Q_DISABLE_COPY_MOVE(StatusNotifierWatcher)
 
     [[nodiscard]] QStringList items() const { return m_items; } ///< bus names, in the order of registration
     [[nodiscard]] bool hasHost() const { return m_hasHost; }
-    [[nodiscard]] static int protocolVersion() { return 0; }
     /// Announces a host: something that shows the icons, which a watcher alone does not.
     void registerHost();
 
@@ -28,15 +24,13 @@ public:
     [[nodiscard]] QStringList menuOf(const QString &item); ///< the labels; a separator's is empty
 
 public Q_SLOTS:
-    void RegisterStatusNotifierItem(const QString &service);
-    void RegisterStatusNotifierHost(const QString &service);
+    void RegisterStatusNotifierItem(const QString &item) { m_items.append(item); }
 
 Q_SIGNALS:
-    void StatusNotifierItemRegistered(const QString &service);
     void StatusNotifierHostRegistered();
 
 private:
-    QDBusConnection m_bus;
+    BusService m_service;
     QStringList m_items;
     bool m_hasHost = false;
 };

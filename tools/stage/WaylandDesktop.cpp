@@ -8,49 +8,47 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 WaylandDesktop::WaylandDesktop()
 {
-    const QString configuration = file(QStringLiteral("sway"));
-    QFile write(configuration);
-    if (!write.open(QIODevice::WriteOnly) || write.write("output HEADLESS-1 resolution 1024x720\n") < 0)
-        qFatal("cannot write %s", qPrintable(configuration));
-    write.close();
-    QStringList command{QStringLiteral("env"), QStringLiteral("WLR_BACKENDS=headless"),
-        QStringLiteral("WLR_RENDERER=pixman"), QStringLiteral("WLR_LIBINPUT_NO_DEVICES=1"),
-        QStringLiteral("sway"), QStringLiteral("-c"), configuration};
-    const QString run = file(QStringLiteral("run"));
-    if (::geteuid() == 0) { // sway refuses to run as root
-        const passwd *nobody = ::getpwnam("nobody");
-        if (!nobody || ::chown(QFile::encodeName(run).constData(), nobody->pw_uid, nobody->pw_gid) != 0)
-            qFatal("cannot give %s away", qPrintable(run));
-        QFile::setPermissions(QFileInfo(run).path(),
-            QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
-        command = QStringList{QStringLiteral("setpriv"), QStringLiteral("--reuid=nobody"),
-                      QStringLiteral("--regid=nogroup"), QStringLiteral("--clear-groups")}
-                  + command;
-    }
-    launch(command.first(), command.sliced(1));
-    const auto find = [&run](const QString &pattern) {
-        const QStringList found = QDir(run).entryList({pattern}, QDir::System | QDir::Files);
-        return found.isEmpty() ? QString() : run + u'/' + found.first();
+    const QString configuration = writeFile(u"sway"_s, "output HEADLESS-1 resolution 1024x720\n");
+    QStringList sway{u"env"_s, u"WLR_BACKENDS=headless"_s, u"WLR_RENDERER=pixman"_s,
+        u"WLR_LIBINPUT_NO_DEVICES=1"_s, u"sway"_s, u"-c"_s, configuration};
+    if (::geteuid() == 0) // as which sway refuses to run
+        sway = asNobody() + sway;
+    launch(sway.first(), sway.sliced(1));
+    const auto socket = [this](const QString &pattern) {
+        const QDir run(file(u"run"_s));
+        const QStringList found = run.entryList({pattern}, QDir::System | QDir::Files);
+        return found.isEmpty() ? QString() : run.filePath(found.first());
     };
-    const auto isUp = [&] {
-        m_display = find(QStringLiteral("wayland-?"));
-        m_socket = find(QStringLiteral("sway-ipc*"));
+    const bool isUp = waitUntil([&] {
+        m_display = socket(u"wayland-?"_s);
+        m_socket = socket(u"sway-ipc*"_s);
         return !m_display.isEmpty() && !m_socket.isEmpty();
-    };
-    if (!waitUntil(isUp))
+    });
+    if (!isUp)
         qFatal("sway does not come up");
     // A keyboard that stays: otherwise the focus is lost with the keyboard of each wtype that ends.
-    launch(QStringLiteral("wtype"), {QStringLiteral("-s"), QStringLiteral("600000")});
+    launch(u"wtype"_s, {u"-s"_s, u"600000"_s});
+}
+
+/// Gives the folder of the sockets to the user nobody, and returns the command that becomes this user.
+QStringList WaylandDesktop::asNobody() const
+{
+    const QString run = file(u"run"_s);
+    const passwd *nobody = ::getpwnam("nobody");
+    if (!nobody || ::chown(QFile::encodeName(run).constData(), nobody->pw_uid, nobody->pw_gid) != 0)
+        qFatal("cannot give %s away", qPrintable(run));
+    QFile::setPermissions(file({}),
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    return {u"setpriv"_s, u"--reuid=nobody"_s, u"--regid=nogroup"_s, u"--clear-groups"_s};
 }
 
 bool WaylandDesktop::isPossible()
 {
-    for (const QString &program :
-        {QStringLiteral("sway"), QStringLiteral("wtype"), QStringLiteral("setpriv")}) {
+    for (const QString &program : {u"sway"_s, u"wtype"_s, u"setpriv"_s}) {
         if (QStandardPaths::findExecutable(program).isEmpty())
             return false;
     }
@@ -63,11 +61,11 @@ bool WaylandDesktop::isPossible()
 QProcessEnvironment WaylandDesktop::environment() const
 {
     QProcessEnvironment environment = PrivateSession::environment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
     if (!m_display.isEmpty())
-        environment.insert(QStringLiteral("WAYLAND_DISPLAY"), m_display);
+        environment.insert(u"WAYLAND_DISPLAY"_s, m_display);
     if (!m_socket.isEmpty())
-        environment.insert(QStringLiteral("SWAYSOCK"), m_socket);
+        environment.insert(u"SWAYSOCK"_s, m_socket);
     return environment;
 }
 
@@ -82,13 +80,11 @@ QByteArray WaylandDesktop::output(const QString &program, const QStringList &arg
 void WaylandDesktop::type(const QStringList &arguments) const
 {
     // The program must first be told of the new keyboard.
-    (void)output(QStringLiteral("wtype"), QStringList{QStringLiteral("-s"), QStringLiteral("200")} + arguments
-                                              + QStringList{QStringLiteral("-s"), QStringLiteral("100")});
+    (void)output(u"wtype"_s, QStringList{u"-s"_s, u"200"_s} + arguments + QStringList{u"-s"_s, u"100"_s});
 }
 
 bool WaylandDesktop::hasWindow(const QString &applicationID) const
 {
-    return output(
-        QStringLiteral("swaymsg"), {QStringLiteral("-t"), QStringLiteral("get_tree"), QStringLiteral("-r")})
+    return output(u"swaymsg"_s, {u"-t"_s, u"get_tree"_s, u"-r"_s})
         .contains("\"app_id\": \"" + applicationID.toUtf8() + '"');
 }

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] QProcessEnvironment environment() const override;
 
 private:
+    [[nodiscard]] QStringList asNobody() const;
     [[nodiscard]] QByteArray output(const QString &program, const QStringList &arguments) const;
 
     QString m_display;

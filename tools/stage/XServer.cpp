@@ -16,11 +16,6 @@ using X11::owned;
 /// Time for a program to read a new keyboard map, in milliseconds.
 constexpr unsigned long keyboardMapDelay = 150;
 
-std::uint32_t keysym(char32_t character)
-{
-    return character < 0x100 ? character : 0x01000000 + character;
-}
-
 QString text(const xcb_get_property_reply_t *property)
 {
     return QString::fromUtf8(
@@ -57,50 +52,48 @@ void XServer::readKeyboardMap()
     m_keysyms = QList<std::uint32_t>(keysyms, keysyms + xcb_get_keyboard_mapping_keysyms_length(reply.get()));
 }
 
-std::uint8_t XServer::keycode(std::uint32_t wanted, bool &needsShift)
+XServer::Key XServer::key(std::uint32_t keysym) const
 {
     for (int level = 0; level < 2; ++level) {
-        for (qsizetype key = 0; key < m_keysyms.size() / m_keysymsPerKeycode; ++key) {
-            if (m_keysyms[key * m_keysymsPerKeycode + level] == wanted) {
-                needsShift = level == 1;
-                return std::uint8_t(m_firstKeycode + key);
-            }
+        for (qsizetype number = 0; number < m_keysyms.size() / m_keysymsPerKeycode; ++number) {
+            if (m_keysyms[number * m_keysymsPerKeycode + level] == keysym)
+                return {std::uint8_t(m_firstKeycode + number), level == 1};
         }
     }
-    return 0;
+    return {};
 }
 
-void XServer::assignKeys(const QList<std::uint32_t> &wanted)
+bool XServer::isFree(qsizetype number) const
 {
-    bool hasAssigned = false;
-    qsizetype key = 0;
-    for (const std::uint32_t keysym : wanted) {
-        bool needsShift = false;
-        if (keycode(keysym, needsShift) != 0)
+    const auto keysyms = m_keysyms.cbegin() + number * m_keysymsPerKeycode;
+    // Keys assigned for an earlier text may be reassigned.
+    return std::none_of(keysyms, keysyms + m_keysymsPerKeycode,
+        [](std::uint32_t keysym) { return keysym != 0 && keysym < 0x01000000; });
+}
+
+void XServer::assign(qsizetype number, std::uint32_t keysym)
+{
+    QList<std::uint32_t> keysyms(m_keysymsPerKeycode, 0);
+    keysyms[0] = keysym;
+    keysyms[1] = keysym;
+    xcb_change_keyboard_mapping(m_connection, 1, std::uint8_t(m_firstKeycode + number),
+        std::uint8_t(m_keysymsPerKeycode), keysyms.constData());
+    std::copy(keysyms.cbegin(), keysyms.cend(), m_keysyms.begin() + number * m_keysymsPerKeycode);
+}
+
+void XServer::assignKeys(const QList<std::uint32_t> &keysyms)
+{
+    qsizetype number = 0;
+    for (const std::uint32_t keysym : keysyms) {
+        if (key(keysym).code != 0)
             continue;
-        const auto isTaken = [this](qsizetype number) {
-            for (int level = 0; level < m_keysymsPerKeycode; ++level) {
-                const std::uint32_t taken = m_keysyms[number * m_keysymsPerKeycode + level];
-                // Keys assigned for an earlier text may be reassigned.
-                if (taken != 0 && taken < 0x01000000)
-                    return true;
-            }
-            return false;
-        };
-        while (key < m_keysyms.size() / m_keysymsPerKeycode && isTaken(key))
-            ++key;
-        if (key == m_keysyms.size() / m_keysymsPerKeycode)
+        while (number < m_keysyms.size() / m_keysymsPerKeycode && !isFree(number))
+            ++number;
+        if (number == m_keysyms.size() / m_keysymsPerKeycode)
             qFatal("the text has more characters than the keyboard has keys");
-        QList<std::uint32_t> row(m_keysymsPerKeycode, 0);
-        row[0] = keysym;
-        row[1] = keysym;
-        xcb_change_keyboard_mapping(m_connection, 1, std::uint8_t(m_firstKeycode + key),
-            std::uint8_t(m_keysymsPerKeycode), row.constData());
-        std::copy(row.cbegin(), row.cend(), m_keysyms.begin() + key * m_keysymsPerKeycode);
-        ++key;
-        hasAssigned = true;
+        assign(number++, keysym);
     }
-    if (hasAssigned) {
+    if (number > 0) {
         xcb_flush(m_connection);
         QThread::msleep(keyboardMapDelay);
         readKeyboardMap();
@@ -109,34 +102,25 @@ void XServer::assignKeys(const QList<std::uint32_t> &wanted)
 
 void XServer::moveToAnotherKey(std::uint32_t keysym)
 {
-    bool needsShift = false;
-    const std::uint8_t old = keycode(keysym, needsShift);
-    const QList<std::uint32_t> nothing(m_keysymsPerKeycode, 0);
-    xcb_change_keyboard_mapping(m_connection, 1, old, std::uint8_t(m_keysymsPerKeycode), nothing.constData());
-    std::fill_n(m_keysyms.begin() + (old - m_firstKeycode) * m_keysymsPerKeycode, m_keysymsPerKeycode,
-        1); // so that this key is not chosen again
+    constexpr std::uint32_t otherSymbol = 1; // so that the key is not free
+    assign(key(keysym).code - m_firstKeycode, otherSymbol);
     assignKeys({keysym});
 }
 
-void XServer::fakeKey(std::uint8_t keycode, bool isPress)
+void XServer::fakeInput(std::uint8_t type, int detail, QPoint position)
 {
-    xcb_test_fake_input(m_connection, isPress ? XCB_KEY_PRESS : XCB_KEY_RELEASE, keycode, XCB_CURRENT_TIME,
-        XCB_NONE, 0, 0, 0);
+    xcb_test_fake_input(m_connection, type, std::uint8_t(detail), XCB_CURRENT_TIME, m_root,
+        std::int16_t(position.x()), std::int16_t(position.y()), 0);
     xcb_flush(m_connection);
 }
 
 void XServer::hold(const QList<std::uint32_t> &keysyms, std::chrono::milliseconds time)
 {
-    QList<std::uint8_t> keys;
-    for (const std::uint32_t wanted : keysyms) {
-        bool needsShift = false;
-        keys.append(keycode(wanted, needsShift));
-    }
-    for (const std::uint8_t key : std::as_const(keys))
-        fakeKey(key, true);
+    for (const std::uint32_t keysym : keysyms)
+        fakeInput(XCB_KEY_PRESS, key(keysym).code);
     QThread::msleep(static_cast<unsigned long>(time.count()));
-    for (auto key = keys.crbegin(); key != keys.crend(); ++key)
-        fakeKey(*key, false);
+    for (auto keysym = keysyms.crbegin(); keysym != keysyms.crend(); ++keysym)
+        fakeInput(XCB_KEY_RELEASE, key(*keysym).code);
 }
 
 void XServer::type(const QString &text)
@@ -144,39 +128,29 @@ void XServer::type(const QString &text)
     QList<std::uint32_t> keysyms;
     const QList<uint> characters = text.toUcs4();
     for (const char32_t character : characters)
-        keysyms.append(keysym(character));
+        keysyms.append(character < 0x100 ? character : 0x01000000 + character);
     assignKeys(keysyms);
     constexpr unsigned long keyInterval = 10;
-    for (const std::uint32_t wanted : std::as_const(keysyms)) {
-        bool needsShift = false;
-        const std::uint8_t key = keycode(wanted, needsShift);
-        bool unused = false;
-        const std::uint8_t shift = needsShift ? keycode(Keysym::shift, unused) : std::uint8_t(0);
-        if (shift != 0)
-            fakeKey(shift, true);
-        fakeKey(key, true);
-        fakeKey(key, false);
-        if (shift != 0)
-            fakeKey(shift, false);
+    for (const std::uint32_t keysym : std::as_const(keysyms)) {
+        if (key(keysym).needsShift)
+            press({Keysym::shift, keysym});
+        else
+            press({keysym});
         QThread::msleep(keyInterval);
     }
 }
 
 void XServer::point(QPoint position)
 {
-    xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root,
-        std::int16_t(position.x()), std::int16_t(position.y()), 0);
-    xcb_flush(m_connection);
+    fakeInput(XCB_MOTION_NOTIFY, 0, position);
     QThread::msleep(50);
 }
 
 void XServer::click(QPoint position, int button)
 {
     point(position);
-    for (const int event : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
-        xcb_test_fake_input(
-            m_connection, std::uint8_t(event), std::uint8_t(button), XCB_CURRENT_TIME, m_root, 0, 0, 0);
-    xcb_flush(m_connection);
+    fakeInput(XCB_BUTTON_PRESS, button);
+    fakeInput(XCB_BUTTON_RELEASE, button);
 }
 
 std::uint32_t XServer::atom(std::string_view name) const
@@ -262,14 +236,10 @@ void XServer::setWallpaper(const QImage &image)
     xcb_flush(m_connection);
 }
 
-QImage XServer::screenshot() const
+QImage XServer::screenshot(std::optional<QRect> rect) const
 {
-    return screenshot(QRect({0, 0}, m_size));
-}
-
-QImage XServer::screenshot(QRect wanted) const
-{
-    const QRect part = wanted.intersected(QRect({0, 0}, m_size));
+    const QRect screen({0, 0}, m_size);
+    const QRect part = screen.intersected(rect.value_or(screen));
     const auto reply = owned(xcb_get_image_reply(m_connection,
         xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_root, std::int16_t(part.x()),
             std::int16_t(part.y()), std::uint16_t(part.width()), std::uint16_t(part.height()), ~0U),
@@ -279,13 +249,13 @@ QImage XServer::screenshot(QRect wanted) const
     return QImage(xcb_get_image_data(reply.get()), part.width(), part.height(), QImage::Format_RGB32).copy();
 }
 
-void XServer::find(std::uint32_t parent, std::uint32_t property, const QString &value, bool isInner,
-    QList<Window> &out) const
+QList<XServer::Window> XServer::find(std::uint32_t parent, std::uint32_t property, const QString &value) const
 {
     const auto tree =
         owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, parent), nullptr));
     if (!tree)
-        return;
+        return {};
+    QList<Window> found;
     const xcb_window_t *children = xcb_query_tree_children(tree.get());
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
         const xcb_window_t child = children[i];
@@ -302,10 +272,11 @@ void XServer::find(std::uint32_t parent, std::uint32_t property, const QString &
         // A class consists of two strings, each terminated by a zero.
         if (attributes->map_state == XCB_MAP_STATE_VIEWABLE
             && text(named.get()).split(QChar(u'\0')).contains(value))
-            out.append(
-                {child, {position->dst_x, position->dst_y, geometry->width, geometry->height}, isInner});
-        find(child, property, value, true, out);
+            found.append({child, {position->dst_x, position->dst_y, geometry->width, geometry->height},
+                parent != m_root});
+        found += find(child, property, value);
     }
+    return found;
 }
 
 int XServer::childCount(std::uint32_t window) const
@@ -317,23 +288,18 @@ int XServer::childCount(std::uint32_t window) const
 
 QList<XServer::Window> XServer::windowsTitled(const QString &title) const
 {
-    QList<Window> found;
-    find(m_root, XCB_ATOM_WM_NAME, title, false, found);
-    return found;
+    return find(m_root, XCB_ATOM_WM_NAME, title);
 }
 
 QList<XServer::Window> XServer::windowsOfClass(const QString &name) const
 {
-    QList<Window> found;
-    find(m_root, XCB_ATOM_WM_CLASS, name, false, found);
-    return found;
+    return find(m_root, XCB_ATOM_WM_CLASS, name);
 }
 
 void XServer::grabHotKey()
 {
-    bool needsShift = false;
-    xcb_grab_key(m_connection, true, m_root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1,
-        keycode(Keysym::space, needsShift), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    xcb_grab_key(m_connection, true, m_root, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1, key(Keysym::space).code,
+        XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     // A round trip, so that the grab is active when this returns.
     (void)owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
 }

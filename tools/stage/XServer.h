@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 struct xcb_connection_t;
@@ -31,8 +32,8 @@ public:
     /// Sets the background of the root window; @p image has the size of the screen.
     void setWallpaper(const QImage &image);
 
-    [[nodiscard]] QImage screenshot() const;
-    [[nodiscard]] QImage screenshot(QRect rect) const;
+    /// Of the whole screen unless a part is given.
+    [[nodiscard]] QImage screenshot(std::optional<QRect> rect = {}) const;
 
     struct Window {
         std::uint32_t id = 0;
@@ -57,14 +58,21 @@ public:
     void grabHotKey();
 
 private:
-    void fakeKey(std::uint8_t keycode, bool isPress);
+    struct Key {
+        std::uint8_t code = 0; ///< 0: no key has the symbol
+        bool needsShift = false;
+    };
+
+    void fakeInput(std::uint8_t type, int detail, QPoint position = {});
     [[nodiscard]] std::uint32_t atom(std::string_view name) const;
     void sendToWindowManager(std::uint32_t window, std::string_view message, std::uint32_t value);
-    [[nodiscard]] std::uint8_t keycode(std::uint32_t keysym, bool &needsShift);
+    [[nodiscard]] Key key(std::uint32_t keysym) const;
+    [[nodiscard]] bool isFree(qsizetype number) const; ///< whether the key may get another symbol
     void readKeyboardMap();
-    void assignKeys(const QList<std::uint32_t> &keysyms);
-    void find(std::uint32_t parent, std::uint32_t property, const QString &value, bool isInner,
-        QList<Window> &out) const;
+    void assign(qsizetype number, std::uint32_t keysym);
+    void assignKeys(const QList<std::uint32_t> &keysyms); ///< to free keys where no key has them
+    [[nodiscard]] QList<Window> find(
+        std::uint32_t parent, std::uint32_t property, const QString &value) const;
 
     xcb_connection_t *m_connection = nullptr;
     std::uint32_t m_root = 0;
@@ -79,7 +87,6 @@ namespace Keysym {
 constexpr std::uint32_t space = 0x20;
 constexpr std::uint32_t escape = 0xff1b;
 constexpr std::uint32_t enter = 0xff0d;
-constexpr std::uint32_t tab = 0xff09;
 constexpr std::uint32_t up = 0xff52;
 constexpr std::uint32_t down = 0xff54;
 constexpr std::uint32_t menu = 0xff67;

@@ -8,11 +8,10 @@
 #include "ui/looks/Design.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -32,14 +31,6 @@ constexpr Look looks[] = {
     {"light-plain", Scheme::Light, 1, false},
 };
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
 /// Some notes of a week, with everything that a row can show.
 QList<Note> someNotes(Instant now)
 {
@@ -48,24 +39,24 @@ QList<Note> someNotes(Instant now)
         notes.append({QUuid::createUuid(), text, {}, {}, {}, now - ago});
         return notes.last();
     };
-    note(5min, QStringLiteral("口腔科补洞，约了李医生 #健康"));
-    const Note dinner = note(40min, QStringLiteral("周末聚餐 ¥320，六个人 #朋友"));
-    Note &reply = note(30min, QStringLiteral("订了 18:30 的包间"));
+    note(5min, u"口腔科补洞，约了李医生 #健康"_s);
+    const Note dinner = note(40min, u"周末聚餐 ¥320，六个人 #朋友"_s);
+    Note &reply = note(30min, u"订了 18:30 的包间"_s);
     reply.quote = dinner.text;
     reply.quoteID = dinner.id;
-    note(55min, QStringLiteral("下周三 10:00 组会，准备 3 张图 #工作"));
-    note(26h, QStringLiteral("The Qt Company documentation: Graphics View")).link =
-        QStringLiteral("https://doc.qt.io/qt-6/graphicsview.html");
-    note(27h, QStringLiteral("合同.pdf")).link = QStringLiteral("file:///usr/share/doc");
+    note(55min, u"下周三 10:00 组会，准备 3 张图 #工作"_s);
+    note(26h, u"The Qt Company documentation: Graphics View"_s).link =
+        u"https://doc.qt.io/qt-6/graphicsview.html"_s;
+    note(27h, u"合同.pdf"_s).link = u"file:///usr/share/doc"_s;
     note(28h, QStringLiteral(
                   "看完《活着》，想写一段读后感：人是为了活着本身而活着，而不是为了活着之外的任何事物所活着。"
                   "先列三个要点，再找一处原文 #读书 #写作"));
-    note(29h, QStringLiteral("牛奶 面包 鸡蛋 #购物"));
-    note(50h, QStringLiteral("约了周四洗牙，牙科在三楼 #健康"));
-    note(70h, QStringLiteral("补洞的医生说下个月复查"));
+    note(29h, u"牛奶 面包 鸡蛋 #购物"_s);
+    note(50h, u"约了周四洗牙，牙科在三楼 #健康"_s);
+    note(70h, u"补洞的医生说下个月复查"_s);
     for (int day = 3; day < 9; ++day) {
-        note(day * 24h, QStringLiteral("晨跑 %1 公里 #运动").arg(3 + day % 4));
-        note(day * 24h + 3h, QStringLiteral("给妈妈打电话 #家"));
+        note(day * 24h, u"晨跑 %1 公里 #运动"_s.arg(3 + day % 4));
+        note(day * 24h + 3h, u"给妈妈打电话 #家"_s);
     }
     return notes;
 }
@@ -94,13 +85,12 @@ public:
         QList<Note> notes = someNotes(now);
         const QList<Note> trash{notes.takeLast(), notes.takeLast()};
         const QList<Reminder> reminders{
-            {QUuid::createUuid(), notes[3].id, QStringLiteral("组会，准备 3 张图 #工作"), notes[3].text,
-                now + 26h, now},
-            {QUuid::createUuid(), notes[0].id, QStringLiteral("口腔科补洞，约了李医生 #健康"), notes[0].text,
-                now + 3h, now}};
-        write(m_desktop.dataFile(QStringLiteral("notes.json")), noteEncoder::encode(notes));
-        write(m_desktop.dataFile(QStringLiteral("trash.json")), noteEncoder::encode(trash));
-        write(m_desktop.dataFile(QStringLiteral("reminders.json")), noteEncoder::encode(reminders));
+            {QUuid::createUuid(), notes[3].id, u"组会，准备 3 张图 #工作"_s, notes[3].text, now + 26h, now},
+            {QUuid::createUuid(), notes[0].id, u"口腔科补洞，约了李医生 #健康"_s, notes[0].text, now + 3h,
+                now}};
+        m_desktop.writeFile(m_desktop.dataFile(u"notes.json"_s), noteEncoder::encode(notes));
+        m_desktop.writeFile(m_desktop.dataFile(u"trash.json"_s), noteEncoder::encode(trash));
+        m_desktop.writeFile(m_desktop.dataFile(u"reminders.json"_s), noteEncoder::encode(reminders));
         open();
         showTimeline();
         showComposer();
@@ -115,12 +105,9 @@ private:
     {
         open();
         picture("empty timeline");
-        mode(Keysym::digit2);
-        picture("empty tags");
-        mode(Keysym::digit3);
-        picture("empty reminders");
-        mode(Keysym::digit4);
-        picture("empty trash");
+        showMode(Keysym::digit2, "empty tags");
+        showMode(Keysym::digit3, "empty reminders");
+        showMode(Keysym::digit4, "empty trash");
         m_road.stop();
     }
 
@@ -129,86 +116,73 @@ private:
         picture("timeline");
         m_screen.point(inPanel(120, 84));
         picture("pointer on a row");
-        m_screen.click(inPanel(120, 84), 3);
+        openMenu(inPanel(120, 84));
         picture("menu of a row");
         choose(5);
         picture("related notes");
         escape();
-        m_screen.press({Keysym::down});
-        m_screen.press({Keysym::down});
+        pressEach({Keysym::down, Keysym::down});
         picture("row with the focus");
-        for (int i = 0; i < 5; ++i)
-            m_screen.press({Keysym::down});
+        pressEach({Keysym::down, Keysym::down, Keysym::down, Keysym::down, Keysym::down});
         picture("scrolled under a pinned day");
         escape();
-        m_screen.press({Keysym::down});
-        m_screen.press({Keysym::enter});
+        pressEach({Keysym::down, Keysym::enter});
         picture("editing");
         escape();
-        m_screen.press({Keysym::down});
-        m_screen.press({Keysym::menu});
+        pressEach({Keysym::down, Keysym::menu});
         PrivateDesktop::settle();
         choose(1);
         picture("quoting");
-        m_screen.type(QStringLiteral("x"));
+        m_screen.type(u"x"_s);
         escape();
     }
 
     void showComposer()
     {
-        m_screen.type(QStringLiteral("组会"));
-        picture("filtered");
-        escape();
-        m_screen.type(QStringLiteral("牙医"));
-        picture("found by meaning");
-        escape();
-        m_screen.type(QStringLiteral("qqqqqq"));
-        picture("nothing found");
-        escape();
-        m_screen.type(QStringLiteral("买花 #"));
-        picture("tags offered");
-        escape();
-        escape();
-        m_screen.type(QStringLiteral("明天下午3点 交房租 #家 "));
-        picture("reminder bar");
-        escape();
-        m_screen.type(QStringLiteral("1970年1月1日 旧事"));
-        picture("reminder bar of the past");
-        escape();
-        m_screen.click(inPanel(150, 456), 3);
+        constexpr std::pair<const char *, const char *> drafts[] = {
+            {"组会", "filtered"},
+            {"牙医", "found by meaning"},
+            {"qqqqqq", "nothing found"},
+            {"明天下午3点 交房租 #家 ", "reminder bar"},
+            {"1970年1月1日 旧事", "reminder bar of the past"},
+            {"买花 #", "tags offered"},
+        };
+        for (const auto &[draft, name] : drafts) {
+            m_screen.type(QString::fromUtf8(draft));
+            picture(name);
+            escape();
+        }
+        escape(); // the draft, after the tags
+        openMenu(inPanel(150, 456));
         picture("menu of the field");
         escape();
     }
 
     void showSideLists()
     {
-        mode(Keysym::digit2);
-        picture("tags");
-        m_screen.click(inPanel(100, 52), 3);
-        PrivateDesktop::settle();
+        showMode(Keysym::digit2, "tags");
+        openMenu(inPanel(100, 52));
         choose(1);
         picture("renaming a tag");
         escape();
-        m_screen.click(inPanel(100, 52), 3);
-        PrivateDesktop::settle();
+        openMenu(inPanel(100, 52));
         choose(2);
         picture("deleting a tag");
         escape();
-        mode(Keysym::digit3);
-        picture("reminders");
-        mode(Keysym::digit4);
-        picture("trash");
-        mode(Keysym::digit1);
+        showMode(Keysym::digit3, "reminders");
+        showMode(Keysym::digit4, "trash");
+        m_screen.press({Keysym::control, Keysym::digit1});
+        PrivateDesktop::settle();
     }
 
     void showDialogs(const QList<Note> &notes)
     {
-        const QString file = m_desktop.dataFile(QStringLiteral("import.json"));
-        write(file, noteEncoder::encode(notes.first(1)));
+        const QString file =
+            m_desktop.writeFile(m_desktop.dataFile(u"import.json"_s), noteEncoder::encode(notes.first(1)));
         escape();
         escape();
         const QPoint icon = m_road.trayIcon().value_or(QRect()).center();
-        m_screen.click(icon, 3);
+        openMenu(icon);
         picture("menu of the icon");
         choose(1);
         picture("import");
@@ -217,8 +191,7 @@ private:
         picture("nothing to import");
         m_screen.press({Keysym::enter});
         PrivateDesktop::settle();
-        m_screen.click(icon, 3);
-        PrivateDesktop::settle();
+        openMenu(icon);
         choose(2);
         picture("export");
         escape();
@@ -238,9 +211,19 @@ private:
             m_road.panel().value_or(QRect()).topLeft()
             + (isShadowed ? QPoint(Design::shadowMargin, Design::shadowMargin) * m_look.scale : QPoint());
     }
-    void mode(std::uint32_t digit)
+    void showMode(std::uint32_t digit, const char *name)
     {
         m_screen.press({Keysym::control, digit});
+        picture(name);
+    }
+    void pressEach(std::initializer_list<std::uint32_t> keysyms)
+    {
+        for (const std::uint32_t keysym : keysyms)
+            m_screen.press({keysym});
+    }
+    void openMenu(QPoint position)
+    {
+        m_screen.click(position, 3);
         PrivateDesktop::settle();
     }
     void escape()
@@ -266,8 +249,7 @@ private:
     void picture(const char *what)
     {
         PrivateDesktop::settle();
-        m_screen.screenshot().save(QStringLiteral("%1/%2 %3.png")
-                                       .arg(m_folder)
+        m_screen.screenshot().save(u"%1/%2 %3.png"_s.arg(m_folder)
                                        .arg(++m_number, 2, 10, QChar(u'0'))
                                        .arg(QString::fromLatin1(what)));
     }

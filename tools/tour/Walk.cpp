@@ -5,142 +5,146 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-/// Reports the steps and records whether all of them succeeded.
+/// Drives the program, reports the steps and records whether all of them succeeded.
 class Tour final
 {
 public:
-    Tour(PrivateDesktop &desktop, const QString &folder)
-        : m_desktop(desktop)
-        , m_folder(folder)
+    Tour(const QString &program, const QString &folder)
+        : m_folder(folder)
+        , m_road(m_desktop, program)
     {
     }
 
+    bool take()
+    {
+        const Calendar shanghai("Asia/Shanghai");
+        const Instant tomorrow = shanghai.addingDays(SystemClock().now(), 1);
+        const Instant three = *shanghai.instant(shanghai.day(tomorrow), {15, 0});
+        writeReminder(three);
+        lookAround();
+        awaitReminder(three);
+        return !m_hasFailed;
+    }
+
+private:
+    void writeReminder(Instant three)
+    {
+        const QString draft = u"明天下午3点 交房租 #家"_s;
+        m_road.start();
+        step(u"Quillet starts, and its icon is in the tray"_s, m_road.waitForTrayIcon());
+        const bool opened = m_road.waitForPanel(true);
+        PrivateDesktop::settle();
+        step(u"the very first start opens the panel"_s, opened);
+        press(Keysym::escape);
+        step(u"Escape closes it"_s, m_road.waitForPanel(false));
+
+        m_road.pressHotKey();
+        step(u"Control+Alt+Space opens it again"_s, m_road.waitForPanel(true));
+        PrivateDesktop::settle();
+        type(draft);
+        look(u"typed: "_s + draft);
+        press(Keysym::enter);
+        const bool saved = PrivateDesktop::waitUntil([this] { return !m_road.savedReminders().isEmpty(); });
+        PrivateDesktop::settle();
+        step(u"Return writes it to notes.json"_s,
+            m_road.savedNotes().size() == 1 && m_road.savedNotes().first().text == draft);
+        step(u"and a reminder for tomorrow at three to reminders.json"_s,
+            saved && m_road.savedReminders().first().fireAt == three);
+        type(u"房租"_s);
+        look(u"what is typed filters the timeline"_s);
+        press(Keysym::escape);
+        PrivateDesktop::settle();
+        press(Keysym::escape);
+        step(u"Escape empties the field, and again closes the panel"_s, m_road.waitForPanel(false));
+    }
+
+    /// The modes and bars, with a few notes.
+    void lookAround()
+    {
+        m_road.pressHotKey();
+        step(u"opened to look around"_s, m_road.waitForPanel(true));
+        for (const QString &text : {u"口腔科补洞，约了李医生 #健康"_s,
+                 u"看完《活着》，想写一段读后感 #读书"_s, u"周末聚餐 ¥320 #朋友"_s}) {
+            type(text);
+            press(Keysym::enter);
+        }
+        const bool areSaved = PrivateDesktop::waitUntil([this] { return m_road.savedNotes().size() == 4; });
+        PrivateDesktop::settle();
+        step(u"four notes"_s, areSaved);
+        type(u"买牛奶 #"_s);
+        look(u"tags are offered while one is typed"_s);
+        press(Keysym::escape);
+        press(Keysym::escape);
+        type(u"牙医"_s);
+        look(u"no note contains it, but one has a similar meaning"_s);
+        press(Keysym::escape);
+        PrivateDesktop::settle();
+        press(Keysym::down);
+        look(u"the arrow keys walk the list"_s);
+        press(Keysym::escape);
+        for (const auto &[digit, what] : {std::pair(Keysym::digit2, u"the tags"_s),
+                 std::pair(Keysym::digit3, u"the reminders"_s), std::pair(Keysym::digit4, u"the trash"_s)}) {
+            m_desktop.screen().press({Keysym::control, digit});
+            look(what);
+        }
+        m_desktop.screen().press({Keysym::control, Keysym::digit1});
+        PrivateDesktop::settle();
+        press(Keysym::escape);
+        step(u"and closed again"_s, m_road.waitForPanel(false));
+    }
+
+    void awaitReminder(Instant three)
+    {
+        m_road.stop();
+        m_road.start(Road::shiftTo(three, 5s));
+        step(u"started anew, five seconds before three o'clock tomorrow"_s,
+            m_road.waitForTrayIcon() && !m_road.panel());
+        const auto bubbles = [this] { return m_desktop.screen().windowsOfClass(u"Dunst"_s); };
+        const bool shown = PrivateDesktop::waitUntil([&] { return !bubbles().isEmpty(); }, 15s);
+        PrivateDesktop::settle();
+        step(u"at three the notification is there"_s, shown);
+        if (shown)
+            m_desktop.screen().click(bubbles().first().frame.center());
+        step(u"a click on it opens the panel, and the note lights up"_s,
+            PrivateDesktop::waitUntil([this] { return m_road.isFlashing(); }, 3s));
+        step(u"and the reminder is removed"_s,
+            PrivateDesktop::waitUntil([this] { return m_road.savedReminders().isEmpty(); }));
+    }
+
+    void type(const QString &text) { m_desktop.screen().type(text); }
+    void press(std::uint32_t keysym) { m_desktop.screen().press({keysym}); }
+    /// A step that fails only if the panel is not open.
+    void look(const QString &what)
+    {
+        PrivateDesktop::settle();
+        step(what, m_road.panel().has_value());
+    }
     void step(const QString &what, bool hasSucceeded)
     {
         ++m_number;
-        const QString picture = QStringLiteral("%1/%2.png").arg(m_folder).arg(m_number, 2, 10, QChar(u'0'));
+        const QString picture = u"%1/%2.png"_s.arg(m_folder).arg(m_number, 2, 10, QChar(u'0'));
         m_desktop.screen().screenshot().save(picture);
         std::printf("  %-6s %2d. %s\n", hasSucceeded ? "ok" : "FAILED", m_number, qPrintable(what));
         std::fflush(stdout);
         m_hasFailed = m_hasFailed || !hasSucceeded;
     }
-    [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
-private:
-    PrivateDesktop &m_desktop;
     QString m_folder;
+    PrivateDesktop m_desktop{{.hasDunst = true}};
+    Road m_road;
     int m_number = 0;
     bool m_hasFailed = false;
 };
-
-/// The modes and bars, with a few notes.
-void lookAround(PrivateDesktop &desktop, Road &road, Tour &tour)
-{
-    XServer &screen = desktop.screen();
-    road.pressHotKey();
-    tour.step(QStringLiteral("opened to look around"), road.waitForPanel(true));
-    for (const QString &text : {QStringLiteral("口腔科补洞，约了李医生 #健康"),
-             QStringLiteral("看完《活着》，想写一段读后感 #读书"), QStringLiteral("周末聚餐 ¥320 #朋友")}) {
-        screen.type(text);
-        screen.press({Keysym::enter});
-    }
-    const bool areSaved = PrivateDesktop::waitUntil([&road] { return road.savedNotes().size() == 4; });
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("four notes"), areSaved);
-    const auto look = [&](const QString &what) {
-        PrivateDesktop::settle();
-        tour.step(what, road.panel().has_value());
-    };
-    screen.type(QStringLiteral("买牛奶 #"));
-    look(QStringLiteral("tags are offered while one is typed"));
-    screen.press({Keysym::escape});
-    screen.press({Keysym::escape});
-    screen.type(QStringLiteral("牙医"));
-    look(QStringLiteral("no note contains it, but one has a similar meaning"));
-    screen.press({Keysym::escape});
-    PrivateDesktop::settle();
-    screen.press({Keysym::down});
-    look(QStringLiteral("the arrow keys walk the list"));
-    screen.press({Keysym::escape});
-    screen.press({Keysym::control, Keysym::digit2});
-    look(QStringLiteral("the tags"));
-    screen.press({Keysym::control, Keysym::digit3});
-    look(QStringLiteral("the reminders"));
-    screen.press({Keysym::control, Keysym::digit4});
-    look(QStringLiteral("the trash"));
-    screen.press({Keysym::control, Keysym::digit1});
-    PrivateDesktop::settle();
-    screen.press({Keysym::escape});
-    tour.step(QStringLiteral("and closed again"), road.waitForPanel(false));
-}
-
-void takeTheRoad(PrivateDesktop &desktop, Road &road, Tour &tour)
-{
-    const QString draft = QStringLiteral("明天下午3点 交房租 #家");
-
-    road.start();
-    tour.step(QStringLiteral("Quillet starts, and its icon is in the tray"), road.waitForTrayIcon());
-    const bool opened = road.waitForPanel(true);
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("the very first start opens the panel"), opened);
-    desktop.screen().press({Keysym::escape});
-    tour.step(QStringLiteral("Escape closes it"), road.waitForPanel(false));
-
-    road.pressHotKey();
-    tour.step(QStringLiteral("Control+Alt+Space opens it again"), road.waitForPanel(true));
-    PrivateDesktop::settle();
-    desktop.screen().type(draft);
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("typed: %1").arg(draft), road.panel().has_value());
-    desktop.screen().press({Keysym::enter});
-    const bool saved = PrivateDesktop::waitUntil([&road] { return !road.savedReminders().isEmpty(); });
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("Return writes it to notes.json"),
-        road.savedNotes().size() == 1 && road.savedNotes().first().text == draft);
-    const Calendar shanghai("Asia/Shanghai");
-    const Instant now = SystemClock().now();
-    const Instant three = *shanghai.instant(shanghai.day(shanghai.addingDays(now, 1)), {15, 0});
-    tour.step(QStringLiteral("and a reminder for tomorrow at three to reminders.json"),
-        saved && road.savedReminders().first().fireAt == three);
-    desktop.screen().type(QStringLiteral("房租"));
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("what is typed filters the timeline"), road.panel().has_value());
-    desktop.screen().press({Keysym::escape});
-    PrivateDesktop::settle();
-    desktop.screen().press({Keysym::escape});
-    tour.step(
-        QStringLiteral("Escape empties the field, and again closes the panel"), road.waitForPanel(false));
-
-    lookAround(desktop, road, tour);
-
-    road.stop();
-    road.start(Road::shiftTo(three, 5s));
-    tour.step(QStringLiteral("started anew, five seconds before three o'clock tomorrow"),
-        road.waitForTrayIcon() && !road.panel());
-    const auto bubbles = [&desktop] { return desktop.screen().windowsOfClass(QStringLiteral("Dunst")); };
-    const bool shown = PrivateDesktop::waitUntil([&] { return !bubbles().isEmpty(); }, 15s);
-    PrivateDesktop::settle();
-    tour.step(QStringLiteral("at three the notification is there"), shown);
-    if (shown)
-        desktop.screen().click(bubbles().first().frame.center());
-    const bool lit = PrivateDesktop::waitUntil([&road] { return road.isFlashing(); }, 3s);
-    tour.step(QStringLiteral("a click on it opens the panel, and the note lights up"), lit);
-    tour.step(QStringLiteral("and the reminder is removed"),
-        PrivateDesktop::waitUntil([&road] { return road.savedReminders().isEmpty(); }));
-    road.stop();
-}
 } // namespace
 
 bool Walk::take(const QString &program, const QString &folder)
 {
-    PrivateDesktop desktop({.hasDunst = true});
-    Road road(desktop, program);
-    Tour tour(desktop, folder);
-    takeTheRoad(desktop, road, tour);
+    const bool hasSucceeded = Tour(program, folder).take();
     std::printf("%s; the screenshots are in %s\n",
-        tour.hasFailed() ? "steps have failed" : "all steps have succeeded", qPrintable(folder));
-    return !tour.hasFailed();
+        hasSucceeded ? "all steps have succeeded" : "steps have failed", qPrintable(folder));
+    return hasSucceeded;
 }
