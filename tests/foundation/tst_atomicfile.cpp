@@ -29,7 +29,7 @@ private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        m_notes = m_folder->filePath(QStringLiteral("notes.json"));
+        m_notes = m_folder->filePath(u"notes.json"_s);
     }
 
     void a_link_is_followed_and_stays_data()
@@ -55,12 +55,12 @@ private Q_SLOTS:
     void files_and_folders_are_their_owners_alone()
     {
         umask(0);
-        const QString folder = m_folder->filePath(QStringLiteral("a/b"));
+        const QString folder = m_folder->filePath(u"a/b"_s);
         QVERIFY(AtomicFile::createFolder(folder));
         QVERIFY(AtomicFile::createFolder(folder));
-        QVERIFY(AtomicFile::replace({content(folder + QStringLiteral("/notes.json"), "x")}));
+        QVERIFY(AtomicFile::replace({content(folder + u"/notes.json"_s, "x")}));
         const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-        QCOMPARE(QFile::permissions(folder + QStringLiteral("/notes.json")), owner);
+        QCOMPARE(QFile::permissions(folder + u"/notes.json"_s), owner);
         QCOMPARE(QFile::permissions(folder), owner | QFile::ExeOwner | QFile::ExeUser);
     }
 
@@ -82,12 +82,12 @@ private Q_SLOTS:
     {
         for (const char *bytes : {"one", "two", "three"}) {
             writeFile(m_notes, bytes);
-            QVERIFY(AtomicFile::keepAside(m_notes, QStringLiteral(".old")));
+            QVERIFY(AtomicFile::keepAside(m_notes, u".old"_s));
         }
-        QVERIFY(AtomicFile::keepAside(m_notes, QStringLiteral(".old"))); // which is gone
-        QCOMPARE(readFile(m_notes + QStringLiteral(".old")), "one");
-        QCOMPARE(readFile(m_notes + QStringLiteral(".old-2")), "two");
-        QCOMPARE(readFile(m_notes + QStringLiteral(".old-3")), "three");
+        QVERIFY(AtomicFile::keepAside(m_notes, u".old"_s)); // which is gone
+        QCOMPARE(readFile(m_notes + u".old"_s), "one");
+        QCOMPARE(readFile(m_notes + u".old-2"_s), "two");
+        QCOMPARE(readFile(m_notes + u".old-3"_s), "three");
     }
 };
 

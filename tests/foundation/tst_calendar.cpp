@@ -8,6 +8,9 @@
 #include <QTemporaryFile>
 #include <QTest>
 
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
 using namespace std::chrono;
 
 class CalendarTest final : public QObject
@@ -18,37 +21,33 @@ private Q_SLOTS:
     void wall_times_that_are_skipped_or_repeated_data()
     {
         QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<QString>("day");
-        QTest::addColumn<int>("hour");
-        QTest::addColumn<int>("minute");
+        QTest::addColumn<QByteArray>("wallTime");
         QTest::addColumn<QByteArray>("expected"); // empty: there is no such moment
-
-        const auto row = [](const char *name, const char *zone, const char *day, int hour, int minute,
-                             const char *expected) {
-            QTest::newRow(name) << QByteArray(zone) << QString::fromLatin1(day) << hour << minute
-                                << QByteArray(expected);
+        const auto row = [](const char *name, const char *zone, const char *wallTime, const char *expected) {
+            QTest::newRow(name) << QByteArray(zone) << QByteArray(wallTime) << QByteArray(expected);
         };
-        row("an ordinary time", "Asia/Shanghai", "2026-03-03", 15, 0, "2026-03-03T07:00:00Z");
-        row("02:30 is skipped in Berlin", "Europe/Berlin", "2026-03-29", 2, 30, "2026-03-29T01:00:00Z");
-        row("02:30 comes twice in Berlin", "Europe/Berlin", "2026-10-25", 2, 30, "2026-10-25T00:30:00Z");
-        row("a day that starts at 01:00", "Africa/Cairo", "2026-04-24", 0, 0, "2026-04-23T22:00:00Z");
-        row("half an hour skipped", "Australia/Lord_Howe", "2026-10-04", 2, 10, "2026-10-03T15:30:00Z");
-        row("30 February", "UTC", "2026-02-30", 9, 0, "");
-        row("24:00", "UTC", "2026-03-03", 24, 0, "");
-        row("09:60", "UTC", "2026-03-03", 9, 60, "");
-        row("an unknown zone is UTC", "Mars/Olympus", "2026-03-03", 9, 0, "2026-03-03T09:00:00Z");
+        row("an ordinary time", "Asia/Shanghai", "2026-03-03 15:00", "2026-03-03T07:00:00Z");
+        row("02:30 is skipped in Berlin", "Europe/Berlin", "2026-03-29 02:30", "2026-03-29T01:00:00Z");
+        row("02:30 comes twice in Berlin", "Europe/Berlin", "2026-10-25 02:30", "2026-10-25T00:30:00Z");
+        row("a day that starts at 01:00", "Africa/Cairo", "2026-04-24 00:00", "2026-04-23T22:00:00Z");
+        row("half an hour skipped", "Australia/Lord_Howe", "2026-10-04 02:10", "2026-10-03T15:30:00Z");
+        row("30 February", "UTC", "2026-02-30 09:00", "");
+        row("24:00", "UTC", "2026-03-03 24:00", "");
+        row("09:60", "UTC", "2026-03-03 09:60", "");
+        row("an unknown zone is UTC", "Mars/Olympus", "2026-03-03 09:00", "2026-03-03T09:00:00Z");
     }
     void wall_times_that_are_skipped_or_repeated()
     {
         QFETCH(QByteArray, zone);
-        QFETCH(QString, day);
-        QFETCH(int, hour);
-        QFETCH(int, minute);
+        QFETCH(QByteArray, wallTime);
         QFETCH(QByteArray, expected);
-        const QStringList parts = day.split(u'-');
-        const Calendar::Day date{
-            year(parts[0].toInt()), month(parts[1].toUInt()), std::chrono::day(parts[2].toUInt())};
-        const auto instant = Calendar(zone).instant(date, {hour, minute});
+        int y = 0;
+        unsigned m = 0;
+        unsigned d = 0;
+        Calendar::TimeOfDay time;
+        QCOMPARE(
+            std::sscanf(wallTime.constData(), "%d-%u-%u %d:%d", &y, &m, &d, &time.hour, &time.minute), 5);
+        const auto instant = Calendar(zone).instant(year(y) / month(m) / day(d), time);
         QCOMPARE(instant ? InternetDateTime::format(*instant) : QByteArray(), expected);
     }
 
@@ -76,9 +75,9 @@ private Q_SLOTS:
         const auto text = [](const char *locale, const char *zone) {
             return DateFormat::format(at("2026-03-02T02:00:00Z"), u"EEE H", locale, Calendar(zone));
         };
-        QCOMPARE(text("en", "UTC"), QStringLiteral("Mon 2"));
-        QCOMPARE(text("en", "Asia/Shanghai"), QStringLiteral("Mon 10"));
-        QCOMPARE(text("de", "UTC"), QStringLiteral("Mo. 2"));
+        QCOMPARE(text("en", "UTC"), u"Mon 2"_s);
+        QCOMPARE(text("en", "Asia/Shanghai"), u"Mon 10"_s);
+        QCOMPARE(text("de", "UTC"), u"Mo. 2"_s);
     }
 
     void a_new_time_zone_is_noticed_within_a_second()
@@ -108,7 +107,6 @@ private Q_SLOTS:
         row("2023-02-29T00:00:00Z", "");
         row("2024-05-01T08:30:00.5Z", "");
         row("2024-05-01T08:30:00", "");
-        row("2024-05-01", "");
         row("2024-05-01 08:30:00Z", "");
         row("2024-05-01t08:30:00z", "");
         row("2024-05-01T24:00:00Z", "");

@@ -27,7 +27,6 @@ private Q_SLOTS:
         row("behind an emoji", u"👩‍👩‍👧 Ǆ"_s, u"ǆ"_s, {u"Ǆ"_s});
         row("beyond the first plane", u"x𐐀y"_s, u"𐐨"_s, {u"𐐀"_s});
         row("final sigma", u"ΟΔΟΣ οδος"_s, u"οδοσ"_s, {u"ΟΔΟΣ"_s, u"οδος"_s});
-        row("Chinese as it is", u"交房租，房租"_s, u"房租"_s, {u"房租"_s, u"房租"_s});
         row("an empty query", u"abc"_s, u""_s, {});
     }
     void hits_are_the_original_characters()
@@ -87,7 +86,7 @@ private Q_SLOTS:
 
     void a_regex_that_exceeds_its_time_limit_matches_nothing()
     {
-        const Regex exponential(QStringLiteral("(x+x+)+y"));
+        const Regex exponential(u"(x+x+)+y"_s);
         QVERIFY(!exponential.matchesIn(QString(40, u'x')));
         QVERIFY(exponential.matchesIn(u"xxy")); // and stays usable
     }

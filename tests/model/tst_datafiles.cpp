@@ -160,7 +160,7 @@ private Q_SLOTS:
                 // A folder made by a killed process is not synced again.
                 const bool isKilled = failing == 0 && hasStopped && !disk.isSynced() && !files.isEmpty();
                 for (int next = 1; isKilled; ++next) {
-                    SimulatedDisk again = disk;
+                    SimulatedDisk again = disk.afterExit();
                     again.lastCall = next;
                     QByteArrayList savedAgain = saved;
                     runProcess(paths, again, {"six", "seven"}, savedAgain);

@@ -1,5 +1,5 @@
 // today is 2024-03-07 in Asia/Shanghai
-#include "foundation/InternetDateTime.h"
+#include "foundation/DateFormat.h"
 #include "model/NoteCoding.h"
 #include "model/NoteFileCodec.h"
 #include "model/NoteMarkdown.h"
@@ -23,18 +23,13 @@ class NoteMarkdownTest final : public QObject
             note.quote = QString::fromUtf8(quote);
         return note;
     }
-    /// "2024-03-07 09:30:00 text > quote", a line for each note.
+    /// "03-07 09:30:00 text > quote", a line for each note.
     QString described(const QList<Note> &notes) const
     {
         QStringList lines;
         for (const Note &note : notes) {
-            const auto day = m_calendar.day(note.createdAt);
-            const auto ofDay = note.createdAt - m_calendar.startOfDay(note.createdAt);
-            const auto seconds = std::chrono::floor<std::chrono::seconds>(ofDay).count();
-            lines.append(
-                QString::asprintf("%02u-%02u %02d:%02d:%02d ", unsigned(day.month()), unsigned(day.day()),
-                    int(seconds / 3600), int(seconds / 60 % 60), int(seconds % 60))
-                + note.text + (note.quote ? u" > "_s + *note.quote : QString()));
+            lines.append(DateFormat::format(note.createdAt, u"MM-dd HH:mm:ss ", "en_US_POSIX", m_calendar)
+                         + note.text + (note.quote ? u" > "_s + *note.quote : QString()));
         }
         return lines.join(u'\n');
     }

@@ -24,6 +24,10 @@ class ReminderStoreTest final : public QObject
     {
         return std::make_unique<ReminderStore>(file(), *m_scheduler, m_clock);
     }
+    static Reminder schedule(ReminderStore &store, const char *fireAt, QUuid note = QUuid::createUuid())
+    {
+        return *store.schedule(note, at(fireAt), u"x"_s, u"x"_s);
+    }
     QList<Reminder> saved() const { return noteDecoder::decodeReminders(readFile(file())).value(); }
     static QString text(QUuid id) { return id.toString(QUuid::WithoutBraces).toUpper(); }
 
@@ -63,11 +67,11 @@ private Q_SLOTS:
         m_scheduler->error = u"no\r\nway"_s;
         QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization error: no  way");
         QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=false");
-        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        schedule(*reminders, "2026-03-02T02:05:00Z");
         m_scheduler->error.clear();
         m_scheduler->status = AuthorizationStatus::Authorized;
         QTest::ignoreMessage(QtWarningMsg, "Quillet: notification authorization granted=true");
-        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        schedule(*reminders, "2026-03-02T02:05:00Z");
         QCOMPARE(reminders->authorizationStatus(), AuthorizationStatus::Authorized);
     }
 
@@ -94,7 +98,7 @@ private Q_SLOTS:
         connect(reminders.get(), &ReminderStore::remindersChanged, this,
             [&] { log += u"%1/%2 "_s.arg(reminders->reminders().size()).arg(saved().size()); });
         for (const char *time : {"2026-03-02T02:05:00Z", "2026-03-02T02:06:00Z"})
-            reminders->schedule({}, at(time), u"x"_s, u"x"_s);
+            schedule(*reminders, time);
         reminders->cancel(reminders->reminders().first().id);
         m_clock.set("2026-03-02T02:06:00Z");
         reminders->pruneExpired();
@@ -110,9 +114,9 @@ private Q_SLOTS:
         QVERIFY(QDir().mkdir(file()));
         QTest::ignoreMessage(QtWarningMsg,
             QRegularExpression(u"^Quillet: failed to save reminders: cannot replace .*: Is a directory$"_s));
-        reminders->schedule({}, at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        schedule(*reminders, "2026-03-02T02:05:00Z");
         QVERIFY(QDir().rmdir(file()));
-        reminders->schedule({}, at("2026-03-02T02:06:00Z"), u"x"_s, u"x"_s);
+        schedule(*reminders, "2026-03-02T02:06:00Z");
         QCOMPARE(saved(), reminders->reminders());
     }
 
@@ -120,10 +124,9 @@ private Q_SLOTS:
     {
         const auto reminders = store();
         const QUuid note = QUuid::createUuid();
-        const Reminder other =
-            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
-        const Reminder one = *reminders->schedule(note, at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
-        const Reminder two = *reminders->schedule(note, at("2026-03-02T02:06:00Z"), u"x"_s, u"x"_s);
+        const Reminder other = schedule(*reminders, "2026-03-02T02:05:00Z");
+        const Reminder one = schedule(*reminders, "2026-03-02T02:05:00Z", note);
+        const Reminder two = schedule(*reminders, "2026-03-02T02:06:00Z", note);
         QSignalSpy changed(reminders.get(), &ReminderStore::remindersChanged);
         reminders->cancel(QUuid::createUuid());
         QCOMPARE(changed.count(), 0);
@@ -135,10 +138,8 @@ private Q_SLOTS:
     void what_has_expired_is_pruned_only_while_notifications_are_allowed()
     {
         const auto reminders = store();
-        const Reminder due =
-            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
-        const Reminder ahead =
-            *reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:01Z"), u"x"_s, u"x"_s);
+        const Reminder due = schedule(*reminders, "2026-03-02T02:05:00Z");
+        const Reminder ahead = schedule(*reminders, "2026-03-02T02:05:01Z");
         m_clock.set("2026-03-02T02:05:00Z");
         for (const auto status : {AuthorizationStatus::NotDetermined, AuthorizationStatus::Denied}) {
             m_scheduler->status = status;
@@ -178,7 +179,7 @@ private Q_SLOTS:
         const auto reminders = store();
         QVERIFY(reminders->reminders().isEmpty());
         QCOMPARE(readFile(file()), "[{}]");
-        reminders->schedule(QUuid::createUuid(), at("2026-03-02T02:05:00Z"), u"x"_s, u"x"_s);
+        schedule(*reminders, "2026-03-02T02:05:00Z");
         QCOMPARE(readFile(file() + u".unreadable-20260302T020000Z"_s), "[{}]");
         QCOMPARE(saved().size(), 1);
     }

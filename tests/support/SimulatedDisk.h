@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <map>
-#include <memory>
 
 /// A file system in memory. Any call can be made to fail or to be the last, and the power can fail.
 ///
@@ -26,33 +25,13 @@ public:
     int lastCall = 0;    ///< from this call on nothing happens any more; 0: all happen
 
     SimulatedDisk() { putFolder("/"); }
-    SimulatedDisk(const SimulatedDisk &other) { *this = other; }
-    SimulatedDisk &operator=(const SimulatedDisk &other)
-    {
-        QHash<const Node *, NodePtr> copies{{nullptr, nullptr}};
-        const auto copied = [&copies](const NodePtr &node) {
-            NodePtr &copy = copies[node.get()];
-            if (node && !copy)
-                copy = std::make_shared<Node>(*node);
-            return copy;
-        };
-        m_names = other.m_names;
-        m_durableNames = other.m_durableNames;
-        m_changes = other.m_changes;
-        for (Names *names : {&m_names, &m_durableNames})
-            for (NodePtr &node : *names)
-                node = copied(node);
-        for (Change &change : m_changes)
-            change.node = copied(change.node);
-        return *this;
-    }
 
     [[nodiscard]] bool hasStopped() const { return lastCall != 0 && m_calls >= lastCall; }
     [[nodiscard]] bool hasFailed() const { return failingCall != 0 && m_calls >= failingCall; }
     [[nodiscard]] bool isSynced() const
     {
-        return m_changes.isEmpty() && std::all_of(m_names.begin(), m_names.end(), [](const NodePtr &node) {
-            return node->bytes == node->synced;
+        return m_changes.isEmpty() && std::all_of(m_names.begin(), m_names.end(), [this](int number) {
+            return m_nodes[number].bytes == m_nodes[number].synced;
         });
     }
     [[nodiscard]] bool hasOpenFiles() const { return !m_open.isEmpty(); }
@@ -63,11 +42,19 @@ public:
     {
         std::map<QByteArray, QByteArray> files;
         for (auto name = m_names.cbegin(); name != m_names.cend(); ++name)
-            if (!name.value()->isFolder)
-                files[name.key()] = name.value()->bytes;
+            if (!m_nodes[name.value()].isFolder)
+                files[name.key()] = m_nodes[name.value()].bytes;
         return files;
     }
 
+    /// This disk as the next process finds it.
+    [[nodiscard]] SimulatedDisk afterExit() const
+    {
+        SimulatedDisk disk = *this;
+        disk.failingCall = disk.lastCall = disk.m_calls = 0;
+        disk.m_open.clear();
+        return disk;
+    }
     /// Every disk that may be found if the power fails now, and this one, as found if only the process ends.
     [[nodiscard]] QList<SimulatedDisk> afterStop() const
     {
@@ -81,7 +68,7 @@ public:
             for (const int writtenHalves : {0, 1, 2}) { // of what was not synced
                 SimulatedDisk disk;
                 for (auto name = names.cbegin(); name != names.cend(); ++name) {
-                    const Node &node = *name.value();
+                    const Node &node = m_nodes[name.value()];
                     const bool isWhole = writtenHalves == 0 || node.bytes == node.synced;
                     const QByteArray bytes =
                         isWhole ? node.synced : node.bytes.first(node.bytes.size() * writtenHalves / 2);
@@ -91,7 +78,7 @@ public:
                 found.emplace(disk.files(), disk);
             }
         }
-        QList<SimulatedDisk> disks{*this};
+        QList<SimulatedDisk> disks{afterExit()};
         for (const auto &[files, disk] : found)
             disks.append(disk);
         return disks;
@@ -101,18 +88,16 @@ public:
     {
         if (!happens())
             return -1;
-        NodePtr node = m_names.value(path);
-        if (!node && (flags & O_CREAT) && m_names.contains(folderOf(path))) {
-            node = std::make_shared<Node>();
-            change({folderOf(path), {}, path, node});
-        }
-        if (!node)
+        if (!m_names.contains(path) && (flags & O_CREAT) && m_names.contains(folderOf(path)))
+            change({folderOf(path), {}, path, newNode({})});
+        if (!m_names.contains(path))
             return fail(ENOENT);
-        if ((flags & O_DIRECTORY) && !node->isFolder)
+        const int number = m_names[path];
+        if ((flags & O_DIRECTORY) && !m_nodes[number].isFolder)
             return fail(ENOTDIR);
         if (flags & O_TRUNC)
-            node->bytes.clear();
-        m_open.insert(++m_lastFd, {node, path, 0});
+            m_nodes[number].bytes.clear();
+        m_open.insert(++m_lastFd, {number, path, 0});
         return m_lastFd;
     }
     ssize_t read(int fd, char *bytes, size_t size) override
@@ -121,7 +106,7 @@ public:
             return -1;
         OpenFile &file = m_open[fd];
         const QByteArray piece =
-            file.node->bytes.mid(file.position, std::min(qsizetype(size), maxBytesPerCall));
+            m_nodes[file.node].bytes.mid(file.position, std::min(qsizetype(size), maxBytesPerCall));
         std::copy(piece.begin(), piece.end(), bytes);
         file.position += piece.size();
         return piece.size();
@@ -132,7 +117,7 @@ public:
             return -1;
         OpenFile &file = m_open[fd];
         const QByteArray piece(bytes, std::min(qsizetype(size), maxBytesPerCall));
-        file.node->bytes.replace(file.position, piece.size(), piece);
+        m_nodes[file.node].bytes.replace(file.position, piece.size(), piece);
         file.position += piece.size();
         return piece.size();
     }
@@ -141,9 +126,10 @@ public:
         if (!happens())
             return -1;
         const OpenFile &file = m_open[fd];
-        file.node->synced = file.node->bytes;
+        Node &node = m_nodes[file.node];
+        node.synced = node.bytes;
         for (qsizetype i = 0; i < m_changes.size();) {
-            if (file.node->isFolder && m_changes[i].folder == file.path)
+            if (node.isFolder && m_changes[i].folder == file.path)
                 m_changes.takeAt(i).applyTo(m_durableNames);
             else
                 ++i;
@@ -170,7 +156,7 @@ public:
             return -1;
         if (!m_names.contains(path))
             return fail(ENOENT);
-        change({folderOf(path), path, {}, nullptr});
+        change({folderOf(path), path, {}, -1});
         return 0;
     }
     int mkdir(const char *path, mode_t) override
@@ -179,7 +165,7 @@ public:
             return -1;
         if (m_names.contains(path))
             return fail(EEXIST);
-        change({folderOf(path), {}, path, std::make_shared<Node>(Node{true, {}, {}})});
+        change({folderOf(path), {}, path, newNode({true, {}, {}})});
         return 0;
     }
     ssize_t readlink(const char *path, char *, size_t) override
@@ -195,15 +181,14 @@ private:
         QByteArray bytes;
         QByteArray synced;
     };
-    using NodePtr = std::shared_ptr<Node>;
-    using Names = QMap<QByteArray, NodePtr>;
+    using Names = QMap<QByteArray, int>; ///< of nodes, by their indexes
 
     /// A change of a name; one that is not made or not removed is empty.
     struct Change {
         QByteArray folder;
         QByteArray removed;
         QByteArray made;
-        NodePtr node;
+        int node = -1;
 
         void applyTo(Names &names) const
         {
@@ -214,7 +199,7 @@ private:
         }
     };
     struct OpenFile {
-        NodePtr node;
+        int node = -1;
         QByteArray path;
         qsizetype position = 0;
     };
@@ -238,7 +223,12 @@ private:
     }
     void put(const QByteArray &path, const Node &node)
     {
-        m_names[path] = m_durableNames[path] = std::make_shared<Node>(node);
+        m_names[path] = m_durableNames[path] = newNode(node);
+    }
+    int newNode(const Node &node)
+    {
+        m_nodes.append(node);
+        return int(m_nodes.size()) - 1;
     }
     void change(const Change &change)
     {
@@ -246,6 +236,7 @@ private:
         m_changes.append(change);
     }
 
+    QList<Node> m_nodes;
     Names m_names;
     Names m_durableNames;
     QList<Change> m_changes; ///< not synced

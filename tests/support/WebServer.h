@@ -6,13 +6,13 @@
 
 #include <functional>
 
-/// A web server of this machine that answers each path with exactly the bytes that it was given for it.
+/// A local web server that answers each path with exactly the bytes given for it.
 class WebServer final : public QTcpServer
 {
 public:
-    enum class Then { Close, SayNoMore, GoOn }; ///< after the bytes; GoOn sends more of the page for ever
+    enum class Then { Close, Wait, SendMore }; ///< after the bytes; SendMore goes on for ever
 
-    QStringList requests; ///< each as it came, headers and all
+    QStringList requests; ///< with their headers
 
     WebServer()
     {
@@ -32,7 +32,7 @@ public:
     {
         m_answers[path] = {bytes, then};
     }
-    [[nodiscard]] bool isAnybodyListening() const { return !findChildren<QTcpSocket *>().isEmpty(); }
+    [[nodiscard]] bool hasConnections() const { return !findChildren<QTcpSocket *>().isEmpty(); }
 
 private:
     struct Answer {
@@ -51,7 +51,7 @@ private:
         socket->write(answer.bytes);
         if (answer.then == Then::Close)
             socket->disconnectFromHost();
-        else if (answer.then == Then::GoOn)
+        else if (answer.then == Then::SendMore)
             connect(socket, &QTcpSocket::bytesWritten, socket, [socket] { socket->write("and so on "); });
     }
 

@@ -5,7 +5,6 @@
 using namespace Qt::StringLiterals;
 
 using NoteHighlighting::Segment;
-using NoteHighlighting::SegmentKind;
 
 class NoteHighlightingTest final : public QObject
 {
@@ -14,23 +13,10 @@ class NoteHighlightingTest final : public QObject
     /// "plain" «number» [tag] {match}
     static QString marked(const QList<Segment> &segments)
     {
+        static const QStringList forms{u"%1"_s, u"«%1»"_s, u"[%1]"_s, u"{%1}"_s};
         QString result;
-        for (const Segment &segment : segments) {
-            switch (segment.kind) {
-            case SegmentKind::Plain:
-                result += segment.text;
-                break;
-            case SegmentKind::Number:
-                result += u'«' + segment.text + u'»';
-                break;
-            case SegmentKind::Tag:
-                result += u'[' + segment.text + u']';
-                break;
-            case SegmentKind::Match:
-                result += u'{' + segment.text + u'}';
-                break;
-            }
-        }
+        for (const Segment &segment : segments)
+            result += forms[int(segment.kind)].arg(segment.text);
         return result;
     }
 

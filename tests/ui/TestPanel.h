@@ -89,11 +89,6 @@ public:
         return rows;
     }
     QStringList rows() { return rowsOf(list()); }
-    void clickRow(RowListView &view, int row)
-    {
-        const QPoint where = view.rectOf(row).center();
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, where);
-    }
     /// Clicks the part, which is searched for point by point.
     void clickPart(int row, RowPart part)
     {
@@ -110,19 +105,21 @@ public:
     }
     void doubleClick(int row)
     {
-        const QPoint where = list().rectOf(row).center();
-        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, list().rectOf(row).center());
     }
-    /// An entry of the row's context menu.
+    /// Chooses an entry of the row's context menu.
     void choose(int row, const QString &entry) { choose(list(), row, entry); }
     static void choose(RowListView &view, int row, const QString &entry)
     {
-        const QPoint where = view.rectOf(row).center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, where, view.viewport()->mapToGlobal(where));
-        QCoreApplication::sendEvent(view.viewport(), &event);
-        QMenu *menu = view.findChildren<QMenu *>().last();
+        choose(*view.viewport(), view.rectOf(row).center(), entry);
+    }
+    static void choose(QWidget &widget, QPoint position, const QString &entry)
+    {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position, widget.mapToGlobal(position));
+        QCoreApplication::sendEvent(&widget, &event);
+        QMenu *menu = widget.window()->findChildren<QMenu *>().last();
         for (QAction *action : menu->actions()) {
-            if (action->text() == entry)
+            if (action->text().startsWith(entry))
                 action->trigger();
         }
         delete menu;

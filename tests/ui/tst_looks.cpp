@@ -1,10 +1,8 @@
-// The panel can be read on the screen and by a screen reader.
-#include "ui/TestPanel.h"
+// Texts can be read on the screen.
 #include "ui/looks/FloatingWindow.h"
 #include "ui/looks/NoteStyle.h"
 
-#include <QAccessible>
-#include <QMetaEnum>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -24,18 +22,6 @@ double contrast(QColor a, QColor b)
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-/// "role name" of all that is under it.
-QStringList described(QAccessibleInterface *interface)
-{
-    if (!interface)
-        return {};
-    static const QMetaEnum roles = QMetaEnum::fromType<QAccessible::Role>();
-    QStringList all{
-        QString::fromLatin1(roles.valueToKey(interface->role())) + u' ' + interface->text(QAccessible::Name)};
-    for (int i = 0; i < interface->childCount(); ++i)
-        all += described(interface->child(i));
-    return all;
-}
 } // namespace
 
 class LooksTest final : public QObject
@@ -73,8 +59,7 @@ private Q_SLOTS:
                     const QColor color = NoteStyle::color(palette, tint);
                     const double found = contrast(color, ground);
                     if (found < least) {
-                        faults.append(
-                            QStringLiteral("%1 on %2: %3").arg(color.name(), ground.name()).arg(found));
+                        faults.append(u"%1 on %2: %3"_s.arg(color.name(), ground.name()).arg(found));
                     }
                 };
                 for (const Design::Tint text : texts)
@@ -86,17 +71,6 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-    }
-
-    void screen_readers_find_the_field_the_buttons_and_the_rows()
-    {
-        TestPanel panel;
-        panel.notes.add(u"买牛奶 #家"_s);
-        const QStringList all = described(QAccessible::queryAccessibleInterface(&panel.window));
-        for (const QString &expected : {u"EditableText 输入即筛选，回车保存"_s, u"CheckBox 标签"_s,
-                 u"CheckBox 提醒"_s, u"CheckBox 回收站"_s, u"List 笔记"_s, u"ListItem 买牛奶 #家"_s,
-                 u"ListItem 今天 · 3月2日 星期一"_s})
-            QVERIFY2(all.contains(expected), qUtf8Printable(expected + u" is not in\n"_s + all.join(u'\n')));
     }
 };
 

@@ -154,33 +154,21 @@ private Q_SLOTS:
         TestPanel panel;
         const QString lines = u"一\r\n二\n\n三"_s;
         QGuiApplication::clipboard()->setText(lines);
-        const auto pastedBy = [&panel](const std::function<void()> &paste) {
+        const auto isOneLineAfter = [&panel](const std::function<void()> &paste) {
             panel.field()->clear();
             paste();
-            return panel.field()->text();
+            return panel.field()->text() == u"一 二 三";
         };
-        QCOMPARE(
-            pastedBy([&] { QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier); }), u"一 二 三"_s);
-        QCOMPARE(pastedBy([&] {
-            QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
-            QCoreApplication::sendEvent(panel.field(), &event);
-            QMenu *menu = panel.field()->findChild<QMenu *>();
-            for (QAction *action : menu->actions()) {
-                if (action->text().contains(u"aste"))
-                    action->trigger();
-            }
-            delete menu;
-        }),
-            u"一 二 三"_s);
-        QCOMPARE(pastedBy([&] {
+        QVERIFY(isOneLineAfter([&] { QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier); }));
+        QVERIFY(isOneLineAfter([&] { panel.choose(*panel.field(), {}, u"&Paste"_s); }));
+        QVERIFY(isOneLineAfter([&] {
             QMimeData dragged;
             dragged.setText(lines);
             QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
             QCoreApplication::sendEvent(panel.field(), &enter);
-            QDropEvent event({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(panel.field(), &event);
-        }),
-            u"一 二 三"_s);
+            QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(panel.field(), &drop);
+        }));
     }
 
     void the_extension_in_the_dialog_follows_the_format()
@@ -252,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(panel.rowsOf(*list), QStringList());
 
         panel.notes.add(u"丙 #d"_s);
-        panel.clickRow(*list, 0);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->rectOf(0).center());
         QCOMPARE(panel.state().mode(), PanelMode::Timeline);
         QCOMPARE(panel.field()->text(), u"#d"_s);
     }

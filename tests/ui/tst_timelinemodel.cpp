@@ -17,17 +17,34 @@
 
 using namespace Qt::StringLiterals;
 
-class TimelineModelTest final : public QObject
-{
-    Q_OBJECT
+namespace {
+/// A timeline of real stores in a temporary folder.
+struct Timeline {
+    const QTemporaryDir folder;
+    TestClock clock{"2026-03-02T02:00:00Z"};
+    RecordingScheduler scheduler;
+    ReminderStore reminders{folder.filePath(u"reminders.json"_s), scheduler, clock};
+    NoteStore notes{folder.filePath(u"notes.json"_s), clock};
+    ConceptEmbeddingProvider embeddings;
+    NoteSearch search{notes, &embeddings, clock};
+    TimelineModel model{notes, search, reminders, clock};
+    const QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
 
-    static QStringList rows(const TimelineModel &model)
+    Timeline() { notes.setReminderStore(&reminders); }
+    [[nodiscard]] QStringList rows() const
     {
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row)
             rows.append(model.index(row).data().toString());
         return rows;
     }
+};
+} // namespace
+
+class TimelineModelTest final : public QObject
+{
+    Q_OBJECT
+
     static QList<int> ranges(const QSignalSpy &spy)
     {
         QList<int> ranges;
@@ -39,104 +56,81 @@ class TimelineModelTest final : public QObject
 private Q_SLOTS:
     void rows_come_and_go_where_the_store_changes()
     {
-        const QTemporaryDir folder;
-        TestClock clock("2026-03-02T02:00:00Z");
-        RecordingScheduler scheduler;
-        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
-        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
-        NoteSearch search(notes, nullptr, clock);
-        notes.setReminderStore(&reminders);
-        TimelineModel model(notes, search, reminders, clock);
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        Timeline timeline;
 
-        const Note oldest = *notes.add(u"一"_s);
-        clock.advance(std::chrono::hours(24));
-        const Note middle = *notes.add(u"二"_s);
-        const Note newest = *notes.add(u"三"_s);
-        QCOMPARE(rows(model),
+        const Note oldest = *timeline.notes.add(u"一"_s);
+        timeline.clock.advance(std::chrono::hours(24));
+        const Note middle = *timeline.notes.add(u"二"_s);
+        const Note newest = *timeline.notes.add(u"三"_s);
+        QCOMPARE(timeline.rows(),
             (QStringList{u"今天 · 3月3日 星期二"_s, u"三"_s, u"二"_s, u"3月2日 星期一"_s, u"一"_s}));
 
-        QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
-        QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
-        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-        notes.update(middle.id, u"改"_s);
+        QSignalSpy inserted(&timeline.model, &QAbstractItemModel::rowsInserted);
+        QSignalSpy removed(&timeline.model, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy changed(&timeline.model, &QAbstractItemModel::dataChanged);
+        timeline.notes.update(middle.id, u"改"_s);
         QCOMPARE(changed.takeFirst()[0].toModelIndex().row(), 2);
-        notes.remove(newest.id);
+        timeline.notes.remove(newest.id);
         QCOMPARE(ranges(removed), (QList<int>{1, 1}));
         removed.clear();
-        notes.remove(oldest.id); // its day goes with it
+        timeline.notes.remove(oldest.id); // its day goes with it
         QCOMPARE(ranges(removed), (QList<int>{2, 3}));
-        notes.restore(oldest.id);
+        timeline.notes.restore(oldest.id);
         QCOMPARE(ranges(inserted), (QList<int>{2, 3}));
         QCOMPARE(changed.count(), 0);
 
-        reminders.schedule(middle.id, at("2026-03-04T01:00:00Z"), u"改"_s, u"改"_s);
+        timeline.reminders.schedule(middle.id, at("2026-03-04T01:00:00Z"), u"改"_s, u"改"_s);
         QCOMPARE(changed.count(), 1);
-        QVERIFY(model.row(1).hasReminder);
+        QVERIFY(timeline.model.row(1).hasReminder);
 
         removed.clear();
-        model.setQuery(u"一"_s);
-        QCOMPARE(rows(model), (QStringList{u"3月2日 星期一"_s, u"一"_s}));
+        timeline.model.setQuery(u"一"_s);
+        QCOMPARE(timeline.rows(), (QStringList{u"3月2日 星期一"_s, u"一"_s}));
         QCOMPARE(ranges(removed), (QList<int>{0, 1}));
-        QCOMPARE(model.indexOf(middle.id), QModelIndex());
-        QCOMPARE(model.indexOf(oldest.id).row(), 1);
+        QCOMPARE(timeline.model.indexOf(middle.id), QModelIndex());
+        QCOMPARE(timeline.model.indexOf(oldest.id).row(), 1);
     }
 
     void a_note_with_a_reminder_is_removed_while_a_filter_shows_the_oldest()
     {
-        const QTemporaryDir folder;
-        TestClock clock("2026-03-02T02:00:00Z");
-        RecordingScheduler scheduler;
-        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
-        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
-        NoteSearch search(notes, nullptr, clock);
-        notes.setReminderStore(&reminders);
-        TimelineModel model(notes, search, reminders, clock);
+        Timeline timeline;
         const ParsedReminder soon{at("2026-03-03T07:00:00Z"), u"茶"_s};
-        notes.add(u"茶 一"_s);
-        notes.add(u"#茶"_s, {}, {}, soon);
-        const Note newest = *notes.add(u"茶 二"_s, {}, {}, soon);
-        model.setQuery(u"茶"_s);
-        notes.remove(newest.id);
-        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"#茶"_s, u"茶 一"_s}));
-        notes.removeTag(u"茶"_s);
-        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"茶 一"_s}));
-        QVERIFY(reminders.reminders().isEmpty());
+        timeline.notes.add(u"茶 一"_s);
+        timeline.notes.add(u"#茶"_s, {}, {}, soon);
+        const Note newest = *timeline.notes.add(u"茶 二"_s, {}, {}, soon);
+        timeline.model.setQuery(u"茶"_s);
+        timeline.notes.remove(newest.id);
+        QCOMPARE(timeline.rows(), (QStringList{u"今天 · 3月2日 星期一"_s, u"#茶"_s, u"茶 一"_s}));
+        timeline.notes.removeTag(u"茶"_s);
+        QCOMPARE(timeline.rows(), (QStringList{u"今天 · 3月2日 星期一"_s, u"茶 一"_s}));
+        QVERIFY(timeline.reminders.reminders().isEmpty());
     }
 
     void what_resembles_the_query_is_shown_where_nothing_contains_it()
     {
-        const QTemporaryDir folder;
-        TestClock clock("2026-03-02T02:00:00Z");
-        RecordingScheduler scheduler;
-        ConceptEmbeddingProvider embeddings;
-        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
-        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
-        NoteSearch search(notes, &embeddings, clock);
-        TimelineModel model(notes, search, reminders, clock);
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        Timeline timeline;
         for (const QString &text :
             {u"口腔科补洞"_s, u"整理书架"_s, u"看电影"_s, u"买牛奶"_s, u"牙线买细的"_s})
-            notes.add(text);
+            timeline.notes.add(text);
 
-        model.setQuery(u"牙医"_s);
-        QCOMPARE(rows(model), QStringList()); // at first, since typing does not wait for it
+        timeline.model.setQuery(u"牙医"_s);
+        QCOMPARE(timeline.rows(), QStringList()); // at first, since typing does not wait for it
         const QStringList resembling{u"语义相关"_s, u"今天 · 3月2日 星期一"_s, u"口腔科补洞"_s};
-        QTRY_COMPARE(rows(model), resembling);
-        QVERIFY(model.row(2).isSemanticOnly);
+        QTRY_COMPARE(timeline.rows(), resembling);
+        QVERIFY(timeline.model.row(2).isSemanticOnly);
 
-        model.setQuery(u"牙医们"_s);
-        QCOMPARE(rows(model), resembling); // which stays until the next is known
-        notes.add(u"约了牙医们"_s);
-        QCOMPARE(rows(model), (QStringList{u"今天 · 3月2日 星期一"_s, u"约了牙医们"_s}));
+        timeline.model.setQuery(u"牙医们"_s);
+        QCOMPARE(timeline.rows(), resembling); // which stays until the next is known
+        timeline.notes.add(u"约了牙医们"_s);
+        QCOMPARE(timeline.rows(), (QStringList{u"今天 · 3月2日 星期一"_s, u"约了牙医们"_s}));
         QTest::qWait(100);
-        QCOMPARE(rows(model).size(), 2); // the search that was under way is over
+        QCOMPARE(timeline.rows().size(), 2); // the search that was under way is over
 
-        model.setQuery(u"qwzx"_s);
+        timeline.model.setQuery(u"qwzx"_s);
         QTest::qWait(100);
-        QCOMPARE(rows(model), QStringList());
-        model.setQuery(QString());
-        QCOMPARE(rows(model).size(), 7);
+        QCOMPARE(timeline.rows(), QStringList());
+        timeline.model.setQuery(QString());
+        QCOMPARE(timeline.rows().size(), 7);
     }
 
     void rows_are_spoken_with_all_that_they_show()
