@@ -103,6 +103,10 @@ public:
         }
         qFatal("no such part in row %d", row);
     }
+    static void clickRow(RowListView &view, int row)
+    {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.rectOf(row).center());
+    }
     void doubleClick(int row)
     {
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, list().rectOf(row).center());

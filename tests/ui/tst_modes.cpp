@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(panel.rowsOf(*list), QStringList());
 
         panel.notes.add(u"丙 #d"_s);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->rectOf(0).center());
+        panel.clickRow(*list, 0);
         QCOMPARE(panel.state().mode(), PanelMode::Timeline);
         QCOMPARE(panel.field()->text(), u"#d"_s);
     }

@@ -135,17 +135,11 @@ private Q_SLOTS:
 
     void rows_are_spoken_with_all_that_they_show()
     {
-        const QTemporaryDir folder;
-        const TestClock clock("2026-03-02T02:00:00Z");
-        RecordingScheduler scheduler;
-        ReminderStore reminders(folder.filePath(u"reminders.json"_s), scheduler, clock);
-        NoteStore notes(folder.filePath(u"notes.json"_s), clock);
-        NoteSearch search(notes, nullptr, clock);
-        notes.setReminderStore(&reminders);
-        const TimelineModel timeline(notes, search, reminders, clock);
-        const ReminderModel reminderList(notes, reminders, clock);
+        Timeline timeline;
+        NoteStore &notes = timeline.notes;
+        const ReminderModel reminders(notes, timeline.reminders, timeline.clock);
         const TagModel tags(notes);
-        const TrashModel trash(notes, clock);
+        const TrashModel trash(notes, timeline.clock);
         const auto spoken = [](const RowModel &model) {
             QStringList rows;
             for (int row = 0; row < model.rowCount(); ++row)
@@ -155,11 +149,11 @@ private Q_SLOTS:
         const Note quoted = *notes.add(u"买\n牛奶"_s);
         notes.add(u"#家 看"_s, quoted, u"https://example.org/"_s,
             ParsedReminder{at("2026-03-03T07:00:00Z"), u"看"_s});
-        QCOMPARE(
-            spoken(timeline), (QStringList{u"今天 · 2026年3月2日 星期一"_s,
-                                  u"10:00，#家 看，明天 15:00 提醒，引用 买 牛奶，https://example.org/"_s,
-                                  u"10:00，买\n牛奶"_s}));
-        QCOMPARE(spoken(reminderList), QStringList{u"明天 15:00，#家 看"_s});
+        QCOMPARE(spoken(timeline.model),
+            (QStringList{u"今天 · 2026年3月2日 星期一"_s,
+                u"10:00，#家 看，明天 15:00 提醒，引用 买 牛奶，https://example.org/"_s,
+                u"10:00，买\n牛奶"_s}));
+        QCOMPARE(spoken(reminders), QStringList{u"明天 15:00，#家 看"_s});
         QCOMPARE(spoken(tags), QStringList{u"#家，1 条笔记"_s});
         notes.remove(quoted.id);
         QCOMPARE(spoken(trash), (QStringList{u"今天 · 2026年3月2日 星期一"_s, u"10:00，买\n牛奶"_s}));
