@@ -152,7 +152,7 @@ private Q_SLOTS:
                     u"3月1日 星期日"_s, u"https://example.org/a read this #家"_s}},
         };
         Stage stage;
-        QCOMPARE(stage.names(u"text"_s, State::Focused), QStringList{u"输入即筛选，回车保存"_s});
+        QCOMPARE(stage.names(u"text"_s, State::Focused), QStringList{u"笔记"_s});
         QCOMPARE(
             stage.names(u"check box"_s, State::Showing), (QStringList{u"标签"_s, u"提醒"_s, u"回收站"_s}));
         for (const Mode &mode : modes) {
@@ -172,7 +172,7 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.press({Keysym::down});
-        QVERIFY(stage.waitUntilFocused(u"list"_s));
+        QVERIFY(stage.waitUntilFocused(u"list item"_s));
         for (const QString &text : {u"买牛奶"_s, u"read this"_s}) {
             stage.press({Keysym::down});
             QVERIFY2(stage.waitUntilFocused(u"list item"_s, text), qPrintable(text));
@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.press({Keysym::down});
-        QVERIFY(stage.waitUntilFocused(u"list"_s));
+        QVERIFY(stage.waitUntilFocused(u"list item"_s));
         stage.press({Keysym::menu});
         QVERIFY(stage.waitForMenu());
         for (const QString &entry : {u"引用"_s, u"复制"_s, u"删除"_s, u"相关笔记"_s}) {
@@ -196,7 +196,7 @@ private Q_SLOTS:
             QVERIFY2(stage.waitUntilFocused(u"menu item"_s, entry), qPrintable(entry));
         }
         stage.press({Keysym::escape});
-        QVERIFY(stage.waitUntilFocused(u"list"_s));
+        QVERIFY(stage.waitUntilFocused(u"list item"_s));
     }
 
     void a_row_does_what_it_is_asked_to()
