@@ -170,7 +170,7 @@ void ComposerView::updateQuoteBar()
     const auto &quoting = m_state.quoting();
     if (quoting) {
         m_quoteBar->setText(quoting->text);
-        m_quoteBar->setAccessibleName(L10n::text("引用：%@", QStringList{quoting->text}));
+        m_quoteBar->setAccessibleName(L10n::text("引用 %@", QStringList{quoting->text}));
     }
     m_quoteBar->setVisible(quoting && !isFilterOnly());
 }

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface *) const override { return -1; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? m_index.data(Qt::AccessibleTextRole).toString() : QString();
+        return kind == QAccessible::Name ? m_list.view()->model().spokenText(row()) : QString();
     }
     void setText(QAccessible::Text, const QString &) override {}
     [[nodiscard]] QRect rect() const override
@@ -98,20 +98,28 @@ void RowListAccessible::install()
 
 void RowListAccessible::announceCurrentRow(RowListView &view)
 {
-    if (QAccessible::isActive() && view.hasFocus() && view.currentRow() >= 0)
-        announce(view, view.currentRow(), QAccessible::Focus);
+    if (!QAccessible::isActive())
+        return;
+    if (auto *list = dynamic_cast<RowListAccessible *>(QAccessible::queryAccessibleInterface(&view)))
+        list->m_announcement.start();
 }
 
 RowListAccessible::RowListAccessible(RowListView *view)
     : QAccessibleWidget(view, QAccessible::List)
 {
     const RowModel *model = &view->model();
+    m_announcement.setSingleShot(true);
+    QObject::connect(&m_announcement, &QTimer::timeout, &m_listener, [this] { announceFocus(); });
     QObject::connect(
         model, &RowModel::rowsInserted, &m_listener, [this](const QModelIndex &, int first, int last) {
             announceRows(first, last, QAccessible::ObjectCreated);
         });
     QObject::connect(model, &RowModel::rowsAboutToBeRemoved, &m_listener,
         [this](const QModelIndex &, int first, int last) { forgetRows(first, last); });
+    QObject::connect(model, &RowModel::rowsRemoved, &m_listener, [this] {
+        if (this->view()->model().rowCount() == 0)
+            m_announcement.start();
+    });
     QObject::connect(model, &RowModel::dataChanged, &m_listener,
         [this](const QModelIndex &first, const QModelIndex &last) {
             announceRows(first.row(), last.row(), QAccessible::NameChanged);
@@ -127,6 +135,21 @@ RowListAccessible::~RowListAccessible()
 RowListView *RowListAccessible::view() const
 {
     return static_cast<RowListView *>(widget());
+}
+
+void RowListAccessible::announceFocus()
+{
+    if (!view()->hasFocus())
+        return;
+    const int row = view()->currentRow(); // without one it is the list that is announced
+    int header = row;
+    while (header >= 0 && !view()->model().isHeader(header))
+        --header;
+    const QPersistentModelIndex section = view()->model().index(header);
+    if (section.isValid() && section != m_section)
+        announce(*view(), header, QAccessible::Focus);
+    m_section = section;
+    announce(*view(), row, QAccessible::Focus);
 }
 
 void RowListAccessible::announceRows(int first, int last, QAccessible::Event event) const

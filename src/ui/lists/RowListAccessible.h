@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QPersistentModelIndex>
+#include <QTimer>
 
 class RowListView;
 
@@ -13,7 +14,8 @@ class RowListAccessible final : public QAccessibleWidget
 public:
     /// Makes this the interface of every RowListView; called once when the application starts.
     static void install();
-    /// Notifies screen readers of the row that has the focus, if the list has it.
+    /// Notifies screen readers of the row that has the focus, if the list has it: soon, because Qt then
+    /// announces the list itself. The header is announced with the first row of its section.
     static void announceCurrentRow(RowListView &view);
 
     explicit RowListAccessible(RowListView *view);
@@ -30,10 +32,13 @@ public:
 
 private:
     [[nodiscard]] QWidget *editor() const; ///< of one of the rows; the last child while there is one
+    void announceFocus();
     void announceRows(int first, int last, QAccessible::Event event) const;
     void forgetRows(int first, int last);
 
     /// The interfaces that have been asked for. A persistent index is the same key wherever its row moves.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> m_rows;
-    QObject m_listener; ///< ends the connections to the model
+    QTimer m_announcement;
+    QPersistentModelIndex m_section; ///< the header that was announced last
+    QObject m_listener;              ///< ends the connections to the model
 };

@@ -91,9 +91,7 @@ void RowListView::focusInEvent(QFocusEvent *event)
     if (isByTab && m_current < 0)
         m_current = entryFrom(firstRowInView(), 1);
     viewport()->update();
-    // After Qt has announced the list itself.
-    QMetaObject::invokeMethod(
-        this, [this] { RowListAccessible::announceCurrentRow(*this); }, Qt::QueuedConnection);
+    RowListAccessible::announceCurrentRow(*this);
 }
 
 void RowListView::focusOutEvent(QFocusEvent *event)

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-/// A list model whose rows say what they show. Display role and accessible text are the row's text.
+/// A list model whose rows say what they show. The display role is the row's text.
 class RowModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -40,9 +40,7 @@ public:
     [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
     {
-        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
-            return {};
-        return text(index.row());
+        return index.isValid() && role == Qt::DisplayRole ? text(index.row()) : QVariant();
     }
 
 protected:

@@ -3,6 +3,7 @@
 #include "ui/lists/RowModel.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/SlimScrollBar.h"
+#include "ui/looks/WidgetRole.h"
 
 #include <QApplication>
 #include <QEasingCurve>
@@ -34,6 +35,7 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     });
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
+    WidgetRole::set(*viewport(), QAccessible::Client);
 
     connect(&m_model, &RowModel::rowsInserted, this,
         [this](const QModelIndex &, int first, int last) { didInsertRows(first, last - first + 1); });
