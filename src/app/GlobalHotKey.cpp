@@ -4,6 +4,7 @@
 #include "desktop/X11HotKey.h"
 #include "foundation/Log.h"
 
+#include <QKeySequence>
 #include <QTimer>
 #include <QWindow>
 
@@ -13,7 +14,8 @@ void GlobalHotKey::registerHandler(std::function<void()> handler)
         return; // the key has been requested already
     const auto request = [this]<typename Key>(Key *key) {
         connect(key, &Key::pressed, this, &GlobalHotKey::fire);
-        connect(key, &Key::failed, this, [](const QString &message) {
+        connect(key, &Key::failed, this, [this](const QString &message) {
+            m_hasFailed = true;
             Log::line(QStringLiteral("failed to register global hotkey: ") + message);
         });
         key->request();
@@ -32,6 +34,12 @@ void GlobalHotKey::releaseKeyboardTo(const QWindow *window)
         m_x11->releaseKeyboardTo(std::uint32_t(window->winId()));
     else
         m_x11->releaseKeyboard();
+}
+
+QString GlobalHotKey::certainKey() const
+{
+    const QKeySequence key(Qt::CTRL | Qt::ALT | Qt::Key_Space);
+    return m_x11 && !m_hasFailed ? key.toString(QKeySequence::NativeText) : QString();
 }
 
 void GlobalHotKey::fire()

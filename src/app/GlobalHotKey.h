@@ -24,9 +24,13 @@ public:
     /// focus, or without one to the window that has it.
     void releaseKeyboardTo(const QWindow *window);
 
+    /// The name of the key if it is certain that it works: a desktop portal may have assigned another.
+    [[nodiscard]] QString certainKey() const;
+
 private:
     void fire();
 
     X11HotKey *m_x11 = nullptr; ///< once a handler is registered, on X11
+    bool m_hasFailed = false;
     std::function<void()> m_handler;
 };

@@ -69,8 +69,7 @@ void PanelController::makeWindow()
         m_content->state().panelDidToggle();
     });
     m_window->winId(); // creates the native window
-    if (backdrop == FloatingWindow::Backdrop::Blurred)
-        X11::blurBehind(*m_window->windowHandle(), m_window->outline(m_window->devicePixelRatioF()));
+    blurBehind();
     m_window->grab(); // does what the first painting needs: fonts, layouts, symbols
 }
 
@@ -138,6 +137,12 @@ void PanelController::toggleByClick()
         toggle();
 }
 
+void PanelController::blurBehind() const
+{
+    if (m_window->backdrop() == FloatingWindow::Backdrop::Blurred)
+        X11::blurBehind(*m_window->windowHandle(), m_window->outline(m_window->devicePixelRatioF()));
+}
+
 void PanelController::moveToIcon()
 {
     // On the screen that holds the pointer; before the window is shown, or it would be seen jumping.
@@ -146,12 +151,24 @@ void PanelController::moveToIcon()
         if (const QScreen *pointed = QGuiApplication::screenAt(QCursor::pos()))
             screen = pointed;
     }
+    disconnect(m_workAreaChange);
+    m_workAreaChange = connect(screen, &QScreen::availableGeometryChanged, this, [this] {
+        if (isOpen())
+            moveToIcon();
+    });
     // Next to the icon, within the space that panels and docks leave free; in the corner if the icon is
-    // unknown.
-    const int margin = Design::panelMargin - m_window->margin();
-    const QRect available = screen->availableGeometry().marginsRemoved(QMargins() + margin);
+    // unknown. A low screen leaves no distance to its edges.
+    const QRect workArea = screen->availableGeometry();
+    if (m_window->fit(workArea.size()))
+        blurBehind();
+    QRect panel({}, m_window->size());
+    const QSize spare = workArea.size() - panel.size().shrunkBy(QMargins() + m_window->margin());
+    const auto margin = [this](int space) {
+        return std::min(Design::panelMargin, space / 2) - m_window->margin();
+    };
+    const QRect available = workArea.adjusted(
+        margin(spare.width()), margin(spare.height()), -margin(spare.width()), -margin(spare.height()));
     const QRect icon = m_iconRect();
-    QRect panel({}, Design::panelSize.grownBy(QMargins() + m_window->margin()));
     const bool isKnown = !icon.isEmpty() && screen->geometry().contains(icon.center());
     panel.moveCenter(isKnown ? icon.center() : available.bottomRight());
     m_position = {std::max(available.left(), std::min(panel.left(), available.right() + 1 - panel.width())),

@@ -40,11 +40,13 @@ private:
     [[nodiscard]] bool isOpen() const;
     void makeWindow();
     void close();
+    void blurBehind() const;
     void moveToIcon();
     void keepPosition();
 
     std::function<ContentView *()> m_makeContent;
     std::function<QRect()> m_iconRect;
+    QMetaObject::Connection m_workAreaChange;
     QPoint m_position;
     int m_positionChecks = 0; ///< left to do
     QTimer m_positionCheck;

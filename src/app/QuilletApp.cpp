@@ -29,7 +29,10 @@ QuilletApp::QuilletApp(Start start)
               // After the tray has its icon, because this loads a library more.
               QApplication::setWindowIcon(
                   QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
-              return new ContentView(m_notes, m_search, m_reminders, m_dateDetector, m_titles, m_clock);
+              auto *content =
+                  new ContentView(m_notes, m_search, m_reminders, m_dateDetector, m_titles, m_clock);
+              content->state().setHotKey(m_hotKey.certainKey());
+              return content;
           },
           [this] { return m_statusBar.iconRect(); })
     , m_delegate(m_notes, m_panel)

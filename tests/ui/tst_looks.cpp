@@ -32,8 +32,8 @@ private Q_SLOTS:
     void text_stands_out_from_its_ground()
     {
         const Design::Tint texts[] = {Design::text, Design::metaText};
-        const Design::Tint highlights[] = {
-            Design::numberText, Design::tagText, Design::matchText, Design::destructiveText};
+        const Design::Tint highlights[] = {Design::numberText, Design::tagText, Design::matchText,
+            Design::destructiveText, Design::focusOutline};
         using Backdrop = FloatingWindow::Backdrop;
         // At worst all that shines through is black, or white.
         const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {

@@ -34,14 +34,15 @@ private Q_SLOTS:
         tags->click();
         QCOMPARE(panel.state().mode(), PanelMode::Tags);
         QCOMPARE(panel.find<QLabel>("title")->text(), u"标签"_s);
-        QCOMPARE(tags->toolTip(), u"返回时间线"_s);
+        QCOMPARE(tags->toolTip(), u"返回时间线 Ctrl+1"_s);
+        QCOMPARE(tags->accessibleName(), u"标签"_s);
         QCOMPARE(panel.field()->placeholderText(), u"输入即筛选标签"_s);
         tags->click();
         QCOMPARE(panel.state().mode(), PanelMode::Timeline);
         QTRY_VERIFY(panel.field()->hasFocus());
         trash->click();
         QVERIFY(!panel.field()->isVisible());
-        QCOMPARE(tags->toolTip(), u"标签"_s);
+        QCOMPARE(tags->toolTip(), u"标签 Ctrl+2"_s);
         QTest::keyClick(&panel.window, Qt::Key_2, Qt::ControlModifier);
         QCOMPARE(panel.state().mode(), PanelMode::Tags);
         QTRY_VERIFY(panel.field()->hasFocus());

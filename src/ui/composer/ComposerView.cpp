@@ -35,10 +35,13 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     , m_titles(titles)
     , m_clock(clock)
     , m_suggestions(new SuggestionList(m_completion, this))
+    , m_editBar(new ComposerBar(QStringLiteral("pencil"), L10n::text("放弃修改"), this))
     , m_quoteBar(new ComposerBar(QStringLiteral("text.quote"), L10n::text("取消引用"), this))
     , m_reminderBar(new ComposerBar(QStringLiteral("bell"), L10n::text("本次不创建提醒"), this))
     , m_field(new ComposerField(this))
 {
+    m_editBar->setObjectName(QStringLiteral("editBar"));
+    m_editBar->setText(L10n::text("编辑中…"));
     m_quoteBar->setObjectName(QStringLiteral("quoteBar"));
     m_reminderBar->setObjectName(QStringLiteral("reminderBar"));
     m_field->setObjectName(QStringLiteral("composerField"));
@@ -56,6 +59,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     layout->setContentsMargins(0, 0, 0, Design::edge);
     layout->setSpacing(0);
     layout->addWidget(m_suggestions);
+    layout->addWidget(m_editBar);
     layout->addWidget(m_quoteBar);
     layout->addWidget(m_reminderBar);
     auto *capsule = new QHBoxLayout;
@@ -71,6 +75,7 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
     connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
+    connect(m_editBar, &ComposerBar::dismissed, &m_state, [this] { m_state.setDraft({}); });
     connect(m_quoteBar, &ComposerBar::dismissed, &m_state, [this] { m_state.setQuoting({}); });
     connect(m_reminderBar, &ComposerBar::dismissed, this, [this] {
         m_suppressReminder = true;
@@ -79,13 +84,14 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
     connect(&m_state, &PanelState::draftChanged, this, &ComposerView::draftDidChange);
     connect(&m_state, &PanelState::editingIDChanged, this, [this] {
         updatePlaceholder();
+        updateBars();
         updateReminderPreview();
     });
-    connect(&m_state, &PanelState::quotingChanged, this, &ComposerView::updateQuoteBar);
+    connect(&m_state, &PanelState::quotingChanged, this, &ComposerView::updateBars);
     connect(&m_state, &PanelState::modeChanged, this, [this] {
         updatePlaceholder();
         updateCompletion();
-        updateQuoteBar();
+        updateBars();
         updateReminderPreview();
     });
     connect(&m_state, &PanelState::panelToggled, m_field, qOverload<>(&QLineEdit::setFocus));
@@ -138,6 +144,8 @@ bool ComposerView::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress && !isComposing()
         && handleKey(static_cast<QKeyEvent *>(event)->key()))
         return true;
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -165,8 +173,14 @@ bool ComposerView::handleKey(int key)
 
 // The bars
 
-void ComposerView::updateQuoteBar()
+bool ComposerView::isEditing() const
 {
+    return m_state.editingID() && !isFilterOnly();
+}
+
+void ComposerView::updateBars()
+{
+    m_editBar->setVisible(isEditing());
     const auto &quoting = m_state.quoting();
     if (quoting) {
         m_quoteBar->setText(quoting->text);
@@ -269,12 +283,17 @@ void ComposerView::focusAtEnd()
 void ComposerView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    m_capsule.paint(painter, *this, Qt::transparent, [this](QPainter &picture) {
+    const bool hasFocus = m_field->hasFocus();
+    m_capsules[hasFocus][isEditing()].paint(painter, *this, Qt::transparent, [&](QPainter &picture) {
+        const QPen outline(NoteStyle::color(palette(), hasFocus ? Design::focusOutline : Design::hairline),
+            hasFocus ? Design::focusWidth : 1);
+        const qreal inset = outline.widthF() / 2;
         const QRectF capsule = QRectF(m_field->geometry())
                                    .adjusted(-Design::edge, 0, Design::edge, 0)
-                                   .adjusted(0.5, 0.5, -0.5, -0.5);
-        picture.setPen(NoteStyle::color(palette(), Design::hairline));
-        picture.setBrush(NoteStyle::color(palette(), Design::fieldGround));
+                                   .adjusted(inset, inset, -inset, -inset);
+        picture.setPen(outline);
+        picture.setBrush(
+            NoteStyle::color(palette(), isEditing() ? Design::editingGround : Design::fieldGround));
         picture.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
     });
 }

@@ -46,7 +46,8 @@ private:
     void draftDidChange();
     void updateCompletion();
     void applyCandidate(const QString &candidate);
-    void updateQuoteBar();
+    [[nodiscard]] bool isEditing() const;
+    void updateBars();
     bool handleKey(int key);
     void updateReminderPreview();
     void updatePlaceholder();
@@ -62,9 +63,10 @@ private:
     const Clock &m_clock;
     TagCompletionState m_completion;
     SuggestionList *m_suggestions = nullptr;
+    ComposerBar *m_editBar = nullptr;
     ComposerBar *m_quoteBar = nullptr;
     ComposerBar *m_reminderBar = nullptr; ///< which reminder saving would create
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
-    CachedImage m_capsule;
+    CachedImage m_capsules[2][2]; ///< by whether the field has the focus, and whether it edits a note
 };

@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 /// Is named by what it shows.
 class SuggestionRow final : public QAbstractButton
 {
@@ -30,7 +32,6 @@ public:
             return;
         m_isSelected = isSelected;
         setAccessibleName(tag);
-        setVisible(!tag.isEmpty());
         update();
         WidgetRole::setSelected(*this, isSelected);
     }
@@ -78,8 +79,14 @@ void SuggestionList::completionDidChange()
     }
     const bool wasVisible = isVisible();
     setVisible(m_completion.isActive());
-    for (qsizetype row = 0; row < m_rows.size(); ++row)
+    // On a low screen only those around the selected one.
+    const qsizetype fitting =
+        std::max(1, (window()->height() - Design::heightBesideSuggestions) / Design::suggestionHeight);
+    const qsizetype first = std::max<qsizetype>(0, m_completion.selection() + 1 - fitting);
+    for (qsizetype row = 0; row < m_rows.size(); ++row) {
         m_rows[row]->show(shown.value(row), m_completion.isActive() && row == m_completion.selection());
+        m_rows[row]->setVisible(row >= first && row < std::min(first + fitting, shown.size()));
+    }
     // What is announced last is where screen readers believe the focus to be.
     if (QWidget *field = QApplication::focusWidget(); field && wasVisible && !m_completion.isActive())
         WidgetRole::announce(*field, QAccessible::Focus);

@@ -45,9 +45,14 @@ void NoteListView::queryDidChange()
 
 RowPainter::EmptyState NoteListView::emptyState() const
 {
-    if (m_state.draft().trimmed().isEmpty())
-        return {QStringLiteral("menubar"), L10n::text("还没有笔记，写下第一条吧")};
-    return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记")};
+    if (m_state.draft().trimmed().isEmpty()) {
+        QStringList hints{
+            L10n::text("带 # 的词成为标签，如「#购物」"), L10n::text("写上时间就会提醒，如「明天下午3点」")};
+        if (!m_state.hotKey().isEmpty())
+            hints.append(L10n::text("按 %@ 随时打开，按 F1 查看全部按键", QStringList{m_state.hotKey()}));
+        return {QStringLiteral("menubar"), L10n::text("还没有笔记，写下第一条吧"), hints};
+    }
+    return {QStringLiteral("line.3.horizontal.decrease"), L10n::text("没有匹配的笔记，回车保存为新笔记"), {}};
 }
 
 // Actions of a note

@@ -66,7 +66,7 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(L10n::text("相关笔记"));
     WidgetRole::set(*this, QAccessible::Dialog);
-    setFixedWidth(Design::panelSize.width() - 2 * Design::edge + 2 * margin());
+    setFixedWidth(parent->width() - 2 * Design::edge + 2 * margin());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(

@@ -17,7 +17,8 @@ ReminderListView::ReminderListView(ReminderStore &reminders, ReminderModel &mode
 
 RowPainter::EmptyState ReminderListView::emptyState() const
 {
-    return {QStringLiteral("bell"), L10n::text("暂无提醒")};
+    return {
+        QStringLiteral("bell"), L10n::text("暂无提醒"), {L10n::text("写上时间就会提醒，如「明天下午3点」")}};
 }
 
 QUuid ReminderListView::noteOf(int row) const

@@ -239,7 +239,7 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
 {
     if (hasFocus())
         setCurrentRow(row);
-    auto *menu = new QMenu(this);
+    QMenu *menu = MenuLooks::newMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, row);
     MenuLooks::apply(*menu);

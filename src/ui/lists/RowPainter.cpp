@@ -87,18 +87,25 @@ void RowPainter::paintLink(QRect line, const RowContent &content, bool isHovered
     NoteStyle::drawLine(m_painter, line, content.link);
 }
 
-void RowPainter::paintEmptyState(const QRect &page, const EmptyState &state)
+void RowPainter::paintEmptyState(const QRect &page, int middle, const EmptyState &state)
 {
     constexpr int size = Design::emptySymbolSize;
-    const QRect inner = page.adjusted(Design::edge, 0, -Design::edge, 0);
-    const QPoint middle = inner.center();
-    Symbol::paint(m_painter, {middle.x() - size / 2, middle.y() - size - Design::grid, size, size},
-        state.symbol, NoteStyle::color(m_palette, Design::hairline));
-    m_painter.setFont(NoteStyle::font());
+    QRect rest = page.adjusted(Design::edge, 0, -Design::edge, 0);
+    rest.setTop(middle - size - 2 * Design::edge);
+    Symbol::paint(m_painter, {rest.center().x() - size / 2, rest.top(), size, size}, state.symbol,
+        NoteStyle::color(m_palette, Design::hairline));
     m_painter.setPen(m_meta);
-    const int top = middle.y() + 2 * Design::grid;
-    m_painter.drawText(QRect(inner.left(), top, inner.width(), inner.bottom() - middle.y()),
-        Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, state.text);
+    rest.adjust(0, size + Design::edge, 0, 0);
+    const auto draw = [&](const QFont &font, const QString &text) {
+        QRect drawn;
+        m_painter.setFont(font);
+        m_painter.drawText(rest, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text, &drawn);
+        rest.setTop(drawn.bottom() + Design::rowPadding);
+    };
+    draw(NoteStyle::font(), state.text);
+    rest.adjust(0, Design::grid, 0, 0);
+    for (const QString &hint : state.hints)
+        draw(NoteStyle::quoteFont(), hint);
 }
 
 void RowPainter::paintFading(const QRect &rect, const std::function<void(QPainter &)> &paint)

@@ -20,13 +20,15 @@ public:
     struct EmptyState {
         QString symbol;
         QString text;
+        QStringList hints; ///< small lines below: how it comes to have rows
     };
 
     RowPainter(QPainter &painter, const QPalette &palette);
 
     void paintRow(const QRect &rect, const RowLayout &layout, const Marks &marks);
     void paintHeader(const QRect &rect, const QString &text);
-    void paintEmptyState(const QRect &page, const EmptyState &state);
+    /// In the middle of the width, around @p middle.
+    void paintEmptyState(const QRect &page, int middle, const EmptyState &state);
     /// Lets what @p paint paints fade out towards the bottom of @p rect.
     void paintFading(const QRect &rect, const std::function<void(QPainter &)> &paint);
 

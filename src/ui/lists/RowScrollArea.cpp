@@ -377,7 +377,9 @@ void RowScrollArea::paintEvent(QPaintEvent *event)
     RowPainter rows(painter, palette());
     const QRect view = viewport()->rect();
     if (m_geometry.count() == 0) {
-        rows.paintEmptyState(view, emptyState());
+        // At the same height in every list, whatever is above and below it.
+        const int middle = viewport()->mapFrom(window(), window()->rect().center()).y();
+        rows.paintEmptyState(view, middle, emptyState());
         return;
     }
     measureRowsInView();

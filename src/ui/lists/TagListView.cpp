@@ -30,8 +30,10 @@ void TagListView::setQuery(const QString &query)
 
 RowPainter::EmptyState TagListView::emptyState() const
 {
-    return {QStringLiteral("number"),
-        m_notes.tagSummaries().isEmpty() ? L10n::text("无标签") : L10n::text("无匹配标签")};
+    if (m_notes.tagSummaries().isEmpty())
+        return {
+            QStringLiteral("number"), L10n::text("无标签"), {L10n::text("带 # 的词成为标签，如「#购物」")}};
+    return {QStringLiteral("number"), L10n::text("无匹配标签"), {}};
 }
 
 void TagListView::activate(int row)

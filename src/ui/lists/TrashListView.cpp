@@ -17,7 +17,8 @@ TrashListView::TrashListView(NoteStore &notes, TrashModel &model, QWidget *paren
 
 RowPainter::EmptyState TrashListView::emptyState() const
 {
-    return {QStringLiteral("trash"), L10n::text("回收站为空")};
+    return {
+        QStringLiteral("trash"), L10n::text("回收站为空"), {L10n::text("删除的笔记会放在这里，可以恢复")}};
 }
 
 void TrashListView::activate(int row)

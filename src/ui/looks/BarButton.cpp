@@ -25,10 +25,9 @@ void BarButton::paintEvent(QPaintEvent *)
             NoteStyle::color(palette(), isMarked ? Design::editingGround : Design::hoverGround));
     }
     if (hasFocus()) {
-        painter.setPen(NoteStyle::color(palette(), Design::tagText));
+        painter.setPen(QPen(NoteStyle::color(palette(), Design::focusOutline), Design::focusWidth));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(
-            QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), Design::rowRadius, Design::rowRadius);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), Design::rowRadius, Design::rowRadius);
     }
     const int inset = (Design::buttonSize - Design::buttonSymbolSize) / 2;
     Symbol::paint(painter, {inset, inset, Design::buttonSymbolSize, Design::buttonSymbolSize}, m_symbol,

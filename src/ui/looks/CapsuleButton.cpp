@@ -23,7 +23,7 @@ void CapsuleButton::paintEvent(QPaintEvent *)
     const auto color = [this](Design::Tint tint) { return NoteStyle::color(palette(), tint); };
     const bool isFlat = m_kind == Kind::Flat;
     if (hasFocus())
-        painter.setPen(QPen(color(Design::tagText), Design::focusWidth));
+        painter.setPen(QPen(color(Design::focusOutline), Design::focusWidth));
     else
         painter.setPen(isFlat ? QPen(Qt::NoPen) : QPen(color(Design::hairline)));
     if (isDown())

@@ -41,6 +41,7 @@ inline constexpr int flatButtonHeight = 24;
 inline constexpr int focusWidth = 2; ///< of the outline around what has the focus
 inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;
+inline constexpr int heightBesideSuggestions = 200; ///< in the panel, for three rows, the field and the bars
 inline constexpr int buttonSize = 28;
 inline constexpr int buttonSymbolSize = 16;
 
@@ -53,6 +54,7 @@ inline constexpr Tint text{0xff26282c, 0xffe6e7ea};
 inline constexpr Tint metaText{0xff60646c, 0xffa6abb4}; ///< times, headers, hints
 inline constexpr Tint numberText{0xff408c66, 0xff75a685};
 inline constexpr Tint tagText{0xff4278ab, 0xff85a1bf};
+inline constexpr Tint focusOutline = tagText; ///< around what has the focus
 inline constexpr Tint matchText{0xffb87f29, 0xffdbad61};
 inline constexpr Tint destructiveText{0xffb3524d, 0xffd68580};
 inline constexpr Tint ground{0xfffafaf8, 0xff24262a};

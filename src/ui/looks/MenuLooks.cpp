@@ -4,6 +4,37 @@
 #include "ui/looks/NoteStyle.h"
 
 #include <QMenu>
+#include <QStyleOptionMenuItem>
+
+namespace {
+constexpr char destructive[] = "destructive";
+
+class Menu final : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem *option, const QAction *action) const override
+    {
+        QMenu::initStyleOption(option, action);
+        if (action->property(destructive).isValid()) {
+            for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+                option->palette.setColor(role, NoteStyle::color(palette(), Design::destructiveText));
+        }
+    }
+};
+} // namespace
+
+QMenu *MenuLooks::newMenu(QWidget *parent)
+{
+    return new Menu(parent);
+}
+
+void MenuLooks::markDestructive(QAction &entry)
+{
+    entry.setProperty(destructive, true);
+}
 
 void MenuLooks::apply(QMenu &menu)
 {

@@ -18,6 +18,7 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/looks/WidgetRole.h"
+#include "ui/panel/KeyPage.h"
 #include "ui/panel/StatusLine.h"
 #include "ui/panel/WarningBanner.h"
 
@@ -29,6 +30,16 @@
 #include <QVBoxLayout>
 
 namespace {
+QKeySequence keyOf(PanelMode mode)
+{
+    return {Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))};
+}
+
+QString withKey(const QString &text, PanelMode mode)
+{
+    return text + u' ' + keyOf(mode).toString(QKeySequence::NativeText);
+}
+
 bool hasComposer(PanelMode mode)
 {
     return mode == PanelMode::Timeline || mode == PanelMode::Tags;
@@ -67,6 +78,9 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
 
     m_statusLine = new StatusLine(this);
     connect(m_statusLine, &StatusLine::left, this, &ContentView::focusFieldOrList);
+    auto *help = new QShortcut(this);
+    help->setKeys({QKeySequence(Qt::Key_F1), QKeySequence(Qt::CTRL | Qt::Key_Slash)});
+    connect(help, &QShortcut::activated, this, &ContentView::showKeys);
     // The field has an undo of its own, which comes first.
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, m_statusLine, &StatusLine::undo);
     addList(PanelMode::Timeline, timeline, timeline);
@@ -114,7 +128,7 @@ void ContentView::addList(PanelMode mode, RowListView &list, QWidget &page)
     m_stack->insertWidget(int(mode), &page);
     connect(&list, &RowListView::done, m_statusLine, &StatusLine::tell);
     connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
-    auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + int(mode))), this);
+    auto *shortcut = new QShortcut(keyOf(mode), this);
     connect(shortcut, &QShortcut::activated, this, [this, mode] {
         if (m_state.mode() != mode)
             enter(mode);
@@ -165,6 +179,14 @@ RowListView &ContentView::list() const
     return *m_pages[qsizetype(m_state.mode())].list;
 }
 
+void ContentView::showKeys()
+{
+    QList<KeyPage::Entry> modes;
+    for (qsizetype mode = 0; mode < m_pages.size(); ++mode)
+        modes.append({keyOf(PanelMode(mode)), m_pages[mode].title});
+    KeyPage::show(*this, m_state.hotKey(), modes);
+}
+
 // Modes
 
 void ContentView::enter(PanelMode mode)
@@ -192,7 +214,9 @@ void ContentView::modeDidChange()
     for (const Page &page : std::as_const(m_pages)) {
         if (page.button) {
             page.button->setChecked(&page == &current);
-            page.button->setToolTip(&page == &current ? L10n::text("返回时间线") : page.title);
+            page.button->setToolTip(&page == &current
+                                        ? withKey(L10n::text("返回时间线"), PanelMode::Timeline)
+                                        : withKey(page.title, PanelMode(&page - m_pages.data())));
         }
     }
     m_stack->setCurrentIndex(int(mode));

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] RowListView &list() const; ///< of the current mode
     void enter(PanelMode mode);
     void focusFieldOrList();
+    void showKeys();
     void modeDidChange();
     void selectTag(const QString &tag);
     void timeDidPass();

@@ -29,6 +29,10 @@ public:
     /// A note that the timeline scrolls to and flashes once.
     [[nodiscard]] std::optional<QUuid> jumpTargetID() const { return m_jumpTargetID; }
 
+    /// Opens the panel from anywhere; empty if there is none for certain.
+    [[nodiscard]] const QString &hotKey() const { return m_hotKey; }
+    void setHotKey(const QString &key) { m_hotKey = key; }
+
     void setDraft(const QString &draft) { set(m_draft, draft, &PanelState::draftChanged); }
     void setEditingID(std::optional<QUuid> id) { set(m_editingID, id, &PanelState::editingIDChanged); }
     void setQuoting(const std::optional<Note> &note) { set(m_quoting, note, &PanelState::quotingChanged); }
@@ -68,6 +72,7 @@ private:
         Q_EMIT(this->*changed)();
     }
 
+    QString m_hotKey;
     QString m_draft;
     std::optional<QUuid> m_editingID;
     std::optional<Note> m_quoting;

@@ -19,7 +19,7 @@ PanelWindow::PanelWindow(ContentView *content, Backdrop backdrop)
     setWindowTitle(QStringLiteral("Quillet"));
     setObjectName(QStringLiteral("panel"));
     WidgetRole::set(*this, QAccessible::Window);
-    setFixedSize(Design::panelSize.grownBy(QMargins() + margin()));
+    fit(Design::panelSize);
     setFocusProxy(m_content);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(QMargins() + margin());
@@ -28,6 +28,13 @@ PanelWindow::PanelWindow(ContentView *content, Backdrop backdrop)
 
     m_focusCheck.setSingleShot(true);
     connect(&m_focusCheck, &QTimer::timeout, this, &PanelWindow::checkFocus);
+}
+
+bool PanelWindow::fit(QSize room)
+{
+    const QSize before = size();
+    setFixedSize(Design::panelSize.boundedTo(room).grownBy(QMargins() + margin()));
+    return size() != before;
 }
 
 bool PanelWindow::event(QEvent *event)

@@ -15,6 +15,8 @@ class PanelWindow final : public FloatingWindow
 public:
     /// Takes ownership of @p content.
     explicit PanelWindow(ContentView *content, Backdrop backdrop = Backdrop::None);
+    /// Makes it no larger than its screen leaves room for. Whether its size changes.
+    bool fit(QSize room);
     /// Gives up ownership of the content, for another window.
     void releaseContent();
     /// To be called when the window is shown again right after it was closed. Qt then still believes that it
