@@ -29,7 +29,7 @@
 #include <QToolButton>
 
 /// The real panel over real stores in a temporary folder. It is Monday 2026-03-02 10:00 in Shanghai.
-class TestPanel final
+class TestPanel
 {
 public:
     TestPanel()
@@ -109,6 +109,7 @@ public:
     }
     void doubleClick(int row)
     {
+        clickRow(list(), row);
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, list().rectOf(row).center());
     }
     /// Chooses an entry of the row's context menu.

@@ -115,30 +115,6 @@ private Q_SLOTS:
         QDesktopServices::unsetUrlHandler(u"https"_s);
     }
 
-    void the_keyboard_does_what_the_mouse_does()
-    {
-        TestPanel panel;
-        const Note older = *panel.notes.add(u"旧"_s);
-        panel.clock.advance(std::chrono::minutes(1));
-        panel.notes.add(u"新"_s);
-        panel.press(Qt::Key_Down);
-        QTRY_VERIFY(panel.list().hasFocus());
-        QCOMPARE(panel.list().currentRow(), 1);
-        QTest::keyClick(&panel.list(), Qt::Key_Down);
-        QTest::keyClick(&panel.list(), Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), u"旧"_s);
-        QTest::keyClick(&panel.list(), Qt::Key_Escape);
-        QVERIFY(panel.field()->hasFocus());
-        panel.press(Qt::Key_Up);
-        QTest::keyClick(&panel.list(), Qt::Key_Delete);
-        QCOMPARE(panel.rows().last(), u"旧"_s);
-        panel.field()->setFocus();
-        panel.press(Qt::Key_Down);
-        QTest::keyClick(&panel.list(), Qt::Key_Return);
-        QCOMPARE(panel.state().editingID(), older.id);
-        QCOMPARE(panel.field()->text(), u"旧"_s);
-    }
-
     void what_is_replaced_in_the_field_can_be_taken_back()
     {
         TestPanel panel;

@@ -65,12 +65,14 @@ public:
     }
 
 protected:
-    void activate(int) override {}
-    void remove(int row) override
+    QList<Action> actionsOf(int row) override
     {
-        QList<PlainRow> rows = m_rows.rows();
-        rows.remove(row);
-        m_rows.set(rows);
+        const auto remove = [this, row] {
+            QList<PlainRow> rows = m_rows.rows();
+            rows.remove(row);
+            m_rows.set(rows);
+        };
+        return {{u"remove"_s, Qt::Key_Delete, remove}};
     }
 
 private:
@@ -131,7 +133,7 @@ private Q_SLOTS:
                 QTest::keyClick(&list, key);
             return list.current();
         };
-        QVERIFY(list.enter());
+        list.enter();
         QCOMPARE(list.current(), u"a"_s);
         QCOMPARE(afterPressing({Qt::Key_Down, Qt::Key_Down}), u"c"_s);
         QCOMPARE(afterPressing({Qt::Key_Up}), u"b"_s);

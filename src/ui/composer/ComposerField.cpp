@@ -91,6 +91,14 @@ void ComposerField::mouseReleaseEvent(QMouseEvent *event)
     insertAsOneLine(clipboard->text(QClipboard::Selection));
 }
 
+void ComposerField::focusInEvent(QFocusEvent *event)
+{
+    // The Tab key would select the text, for the next letter to replace.
+    const bool isByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QFocusEvent entered(event->type(), isByTab ? Qt::OtherFocusReason : event->reason());
+    QLineEdit::focusInEvent(&entered);
+}
+
 void ComposerField::focusOutEvent(QFocusEvent *event)
 {
     m_isComposing = false; // the input method cancels or commits

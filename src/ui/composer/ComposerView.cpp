@@ -18,9 +18,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -72,6 +73,10 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
         m_field->setFont(NoteStyle::fontFor(text, NoteStyle::font()));
         m_state.setDraft(text);
     });
+    connect(m_field, &QLineEdit::cursorPositionChanged, this, [this](int, int caret) {
+        if (caret != m_completedCaret && m_field->text() == m_state.draft())
+            updateCompletion();
+    });
     m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::returnPressed, this, &ComposerView::submit);
     connect(m_suggestions, &SuggestionList::chosen, this, &ComposerView::applyCandidate);
@@ -94,7 +99,6 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
         updateBars();
         updateReminderPreview();
     });
-    connect(&m_state, &PanelState::panelToggled, m_field, qOverload<>(&QLineEdit::setFocus));
     connect(&m_state, &PanelState::composerFocusRequested, this, &ComposerView::focusAtEnd);
 }
 
@@ -106,8 +110,10 @@ bool ComposerView::isFilterOnly() const
 void ComposerView::draftDidChange()
 {
     const QString &draft = m_state.draft();
-    if (m_field->text() != draft)
+    if (m_field->text() != draft) {
+        m_completedCaret = draft.size(); // where the caret will be
         m_field->replaceAll(draft);
+    }
     if (draft.isEmpty()) {
         m_state.setEditingID({});
         m_state.setQuoting({});
@@ -125,6 +131,7 @@ void ComposerView::updateCompletion()
         m_completion.dismiss();
     else
         m_completion.update(m_state.draft(), m_field->cursorPosition(), m_store.tags());
+    m_completedCaret = m_field->cursorPosition();
 }
 
 void ComposerView::applyCandidate(const QString &candidate)
@@ -132,10 +139,11 @@ void ComposerView::applyCandidate(const QString &candidate)
     const auto applied = m_completion.apply(candidate, m_state.draft());
     if (!applied)
         return;
+    if (applied->text == m_state.draft())
+        updateCompletion(); // skipped, as the one after a change is
     m_state.setDraft(applied->text);
-    // After the field has taken the new draft.
-    QTimer::singleShot(
-        0, m_field, [field = m_field, cursor = applied->cursor] { field->setCursorPosition(int(cursor)); });
+    m_completedCaret = applied->cursor; // what has just been completed is not offered again
+    m_field->setCursorPosition(int(applied->cursor));
 }
 
 bool ComposerView::eventFilter(QObject *watched, QEvent *event)
@@ -169,6 +177,36 @@ bool ComposerView::handleKey(int key)
     default:
         return false;
     }
+}
+
+// What is typed elsewhere
+
+bool ComposerView::takeKey(QKeyEvent &key)
+{
+    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool isCharacter =
+        !(key.modifiers() & commands) && !key.text().isEmpty() && QChar::isPrint(key.text().toUcs4().first());
+    if (!isEnabled() || (!isCharacter && !key.matches(QKeySequence::Paste)))
+        return false;
+    m_field->setFocus();
+    QCoreApplication::sendEvent(m_field, &key);
+    return true;
+}
+
+void ComposerView::takeInput(QInputMethodEvent &event)
+{
+    if (!event.commitString().isEmpty())
+        m_field->setFocus();
+    QCoreApplication::sendEvent(m_field, &event);
+    QGuiApplication::inputMethod()->update(Qt::ImCursorRectangle); // which the field does only with the focus
+}
+
+void ComposerView::answerFor(const QWidget &asker, QInputMethodQueryEvent &query) const
+{
+    QCoreApplication::sendEvent(m_field, &query);
+    const QPointF offset = asker.mapFromGlobal(m_field->mapToGlobal(QPointF()));
+    for (const auto each : {Qt::ImCursorRectangle, Qt::ImAnchorRectangle, Qt::ImInputItemClipRectangle})
+        query.setValue(each, query.value(each).toRectF().translated(offset));
 }
 
 // The bars
@@ -276,8 +314,7 @@ void ComposerView::updatePlaceholder()
 void ComposerView::focusAtEnd()
 {
     m_field->setFocus();
-    // After the field has taken the new draft.
-    QTimer::singleShot(0, m_field, [field = m_field] { field->end(false); });
+    m_field->end(false);
 }
 
 void ComposerView::paintEvent(QPaintEvent *)

@@ -30,6 +30,14 @@ public:
     [[nodiscard]] bool isComposing() const; ///< an input method is composing in the field
     void timeDidPass();                     ///< a previewed reminder may have passed
 
+    // What is typed while another widget has the focus goes on in the field.
+    /// Takes the focus and the key if it is a character or pastes; returns whether it is.
+    bool takeKey(QKeyEvent &key);
+    void takeInput(
+        QInputMethodEvent &event); ///< takes the focus with the first text that is not composed any more
+    void answerFor(
+        const QWidget &asker, QInputMethodQueryEvent &query) const; ///< in the coordinates of the @p asker
+
     [[nodiscard]] TagCompletionState &completion() { return m_completion; }
 
 Q_SIGNALS:
@@ -68,5 +76,6 @@ private:
     ComposerBar *m_reminderBar = nullptr; ///< which reminder saving would create
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
+    qsizetype m_completedCaret = 0; ///< for which tags are offered, or none
     CachedImage m_capsules[2][2]; ///< by whether the field has the focus, and whether it edits a note
 };

@@ -12,7 +12,6 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QGuiApplication>
-#include <QMenu>
 #include <QTimer>
 #include <QUrl>
 
@@ -29,7 +28,10 @@ NoteListView::NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &
     setAccessibleName(L10n::text("笔记"));
     connect(&m_state, &PanelState::draftChanged, this, &NoteListView::queryDidChange);
     connect(&m_state, &PanelState::jumpTargetIDChanged, this, &NoteListView::jumpToExternalTarget);
-    connect(&m_state, &PanelState::editingIDChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(&m_state, &PanelState::editingIDChanged, this, [this] {
+        m_timeline.setEdited(m_state.editingID());
+        viewport()->update();
+    });
     queryDidChange();
     jumpToExternalTarget();
 }
@@ -57,68 +59,61 @@ RowPainter::EmptyState NoteListView::emptyState() const
 
 // Actions of a note
 
-void NoteListView::activate(int row)
+QList<RowListView::Action> NoteListView::actionsOf(int row)
 {
     const Note note = m_timeline.note(row);
-    m_state.setDraft(note.text);
-    m_state.setEditingID(note.id);
-    m_state.setQuoting({});
-    m_state.focusComposer();
-}
-
-void NoteListView::copy(int row)
-{
-    copyText(m_timeline.row(row).text);
-}
-
-void NoteListView::copyText(const QString &text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    Q_EMIT done(L10n::text("已复制"));
-}
-
-void NoteListView::remove(int row)
-{
-    removeNote(m_timeline.row(row).id);
-}
-
-void NoteListView::removeNote(QUuid noteID)
-{
-    m_notes.remove(noteID);
-    Q_EMIT done(L10n::text("已移到回收站"), [this, noteID] { m_notes.restore(noteID); });
-}
-
-void NoteListView::clickPart(int row, RowPart part)
-{
-    const Note note = m_timeline.note(row);
-    if (part.kind == RowPart::Kind::Link) {
-        QDesktopServices::openUrl(QUrl(*note.link));
-    } else if (part.kind == RowPart::Kind::Quote) {
-        if (note.quoteID && m_notes.note(*note.quoteID))
-            scrollAndFlash(*note.quoteID, false);
-    } else if (part.kind == RowPart::Kind::Button) {
-        if (const auto reply = m_notes.latestReply(note.id))
-            scrollAndFlash(reply->id, false);
-    }
-}
-
-void NoteListView::fillMenu(QMenu &menu, int row)
-{
-    const Note note = m_timeline.note(row);
-    menu.addAction(L10n::text("引用"), this, [this, note] {
+    const auto quote = [this, note] {
         m_state.setQuoting(note);
         m_state.setEditingID({});
         m_state.focusComposer();
-    });
-    menu.addAction(L10n::text("复制"), this, [this, note] { copyText(note.text); });
-    menu.addAction(L10n::text("删除"), this, [this, note] { removeNote(note.id); });
-    menu.addSeparator();
-    if (m_reminders.hasReminder(note.id))
-        menu.addAction(L10n::text("取消提醒"), this, [this, note] {
-            m_reminders.cancelForNote(note.id);
+    };
+    const auto edit = [this, note] {
+        m_state.setDraft(note.text);
+        m_state.setEditingID(note.id);
+        m_state.setQuoting({});
+        m_state.focusComposer();
+    };
+    const auto copy = [this, text = note.text] {
+        QGuiApplication::clipboard()->setText(text);
+        Q_EMIT done(L10n::text("已复制"));
+    };
+    const auto remove = [this, id = note.id] {
+        m_notes.remove(id);
+        Q_EMIT done(L10n::text("已移到回收站"), [this, id] { m_notes.restore(id); });
+    };
+    QList<Action> actions = {
+        {L10n::text("引用"), Qt::CTRL | Qt::Key_R, quote},
+        {L10n::text("复制"), QKeySequence::Copy, copy},
+        {L10n::text("删除"), Qt::Key_Delete, remove},
+        {},
+    };
+    if (m_reminders.hasReminder(note.id)) {
+        const auto cancel = [this, id = note.id] {
+            m_reminders.cancelForNote(id);
             Q_EMIT done(L10n::text("已取消提醒"));
-        });
-    menu.addAction(L10n::text("相关笔记"), this, [this, note] { showRelated(note); });
+        };
+        actions.append({L10n::text("取消提醒"), Qt::CTRL | Qt::Key_D, cancel});
+    }
+    actions.append({L10n::text("相关笔记"), Qt::CTRL | Qt::Key_L, [this, note] { showRelated(note); }});
+    actions.append(Action());
+    actions.append({L10n::text("编辑"), Qt::Key_Return, edit});
+    if (note.link) {
+        actions.append({L10n::text("打开链接"), Qt::CTRL | Qt::Key_Return,
+            [link = *note.link] { QDesktopServices::openUrl(QUrl(link)); }, RowPart::Kind::Link});
+    }
+    if (note.quoteID && m_notes.note(*note.quoteID)) {
+        actions.append({L10n::text("跳转到引用的笔记"), Qt::ALT | Qt::Key_Left,
+            [this, id = *note.quoteID] { scrollAndFlash(id, false); }, RowPart::Kind::Quote});
+    }
+    if (m_timeline.row(row).isRepliedTo) {
+        const auto jumpToReply = [this, id = note.id] {
+            if (const auto reply = m_notes.latestReply(id))
+                scrollAndFlash(reply->id, false);
+        };
+        actions.append(
+            {L10n::text("跳转到最新回复"), Qt::ALT | Qt::Key_Right, jumpToReply, RowPart::Kind::Button});
+    }
+    return actions;
 }
 
 QColor NoteListView::groundOf(int row) const
@@ -149,6 +144,10 @@ void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
 {
     const auto jump = [this, noteID, clearsExternalTarget] {
         jumpTo([this, noteID] { return m_timeline.indexOf(noteID); });
+        if (const QModelIndex index = m_timeline.indexOf(noteID); index.isValid())
+            goTo(index.row());
+        else
+            m_state.focusComposer();
         m_flashID = noteID;
         if (clearsExternalTarget)
             m_state.setJumpTargetID({});

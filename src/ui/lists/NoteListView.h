@@ -30,17 +30,11 @@ public:
     [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
 protected:
-    void activate(int row) override; ///< edits the note
-    void clickPart(int row, RowPart part) override;
-    void remove(int row) override;
-    void copy(int row) override;
-    void fillMenu(QMenu &menu, int row) override;
+    QList<Action> actionsOf(int row) override;
     [[nodiscard]] QColor groundOf(int row) const override;
 
 private:
     void queryDidChange();
-    void copyText(const QString &text);
-    void removeNote(QUuid noteID);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
 

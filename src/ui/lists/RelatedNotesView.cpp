@@ -81,6 +81,9 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     }
     for (const Note &each : related) {
         auto *button = new RelatedNoteButton(each.text, this);
+        button->setAutoDefault(true); // pressed by Return
+        if (!focusWidget())
+            button->setFocus();
         connect(button, &QPushButton::clicked, this, [this, id = each.id] {
             close();
             Q_EMIT selected(id);

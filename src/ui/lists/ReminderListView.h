@@ -21,15 +21,9 @@ Q_SIGNALS:
     void noteChosen(QUuid noteID);
 
 protected:
-    void activate(int row) override; ///< opens the note
-    void clickPart(int row, RowPart part) override;
-    void remove(int row) override; ///< cancels the reminder
-    void fillMenu(QMenu &menu, int row) override;
+    QList<Action> actionsOf(int row) override;
 
 private:
-    [[nodiscard]] QUuid noteOf(int row) const;
-    void cancel(QUuid noteID);
-
     ReminderStore &m_reminders;
     ReminderModel &m_rows;
 };

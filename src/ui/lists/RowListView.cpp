@@ -5,6 +5,7 @@
 #include "ui/looks/MenuLooks.h"
 #include "ui/looks/NoteStyle.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -52,27 +53,29 @@ void RowListView::moveCurrentRow(int row)
         scrollTo(row);
 }
 
-bool RowListView::enter()
+void RowListView::goTo(int row)
 {
-    const int row = entryFrom(firstRowInView(), 1);
-    if (row < 0)
-        return false;
-    moveCurrentRow(row);
-    setFocus(Qt::TabFocusReason);
-    return true;
+    setCurrentRow(row);
+    setFocus();
+}
+
+void RowListView::enter()
+{
+    moveCurrentRow(entryFrom(firstRowInView(), 1));
+    setFocus();
 }
 
 void RowListView::didInsertRows(int first, int count)
 {
     if (m_current >= first)
         m_current += count;
-    m_hover = m_pressed = {};
+    m_hover = m_pressed = m_clicked = {};
     RowScrollArea::didInsertRows(first, count);
 }
 
 void RowListView::didRemoveRows(int first, int count)
 {
-    m_hover = m_pressed = {};
+    m_hover = m_pressed = m_clicked = {};
     RowScrollArea::didRemoveRows(first, count);
     if (m_current >= first + count) {
         m_current -= count;
@@ -89,7 +92,7 @@ void RowListView::focusInEvent(QFocusEvent *event)
     RowScrollArea::focusInEvent(event);
     const bool isByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     if (isByTab && m_current < 0)
-        m_current = entryFrom(firstRowInView(), 1);
+        moveCurrentRow(entryFrom(firstRowInView(), 1));
     viewport()->update();
     RowListAccessible::announceCurrentRow(*this);
 }
@@ -97,48 +100,70 @@ void RowListView::focusInEvent(QFocusEvent *event)
 void RowListView::focusOutEvent(QFocusEvent *event)
 {
     RowScrollArea::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+    const bool comesBack =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack && !isAncestorOf(QApplication::focusWidget()))
         setCurrentRow(-1);
     viewport()->update();
 }
 
+void RowListView::hideEvent(QHideEvent *event)
+{
+    setCurrentRow(-1);
+    m_clicked = {};
+    RowScrollArea::hideEvent(event);
+}
+
 // Keys
+
+std::function<void()> RowListView::actionOf(int row, const QKeySequence &key)
+{
+    if (isEntry(row)) {
+        for (const Action &action : actionsOf(row)) {
+            if (!action.title.isEmpty() && action.key == key)
+                return action.run;
+        }
+    }
+    return {};
+}
 
 void RowListView::activateRow(int row)
 {
-    if (isEntry(row))
-        activate(row);
+    if (const auto run = actionOf(row, Qt::Key_Return))
+        run();
 }
 
 void RowListView::showMenuOfRow(int row)
 {
-    if (isEntry(row))
-        popUpMenu(row, viewport()->mapToGlobal(rectOf(row).center()));
+    if (!isEntry(row))
+        return;
+    scrollTo(row);
+    popUpMenu(row, viewport()->mapToGlobal(rectOf(row).intersected(viewport()->rect()).center()));
 }
 
 void RowListView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->matches(QKeySequence::Copy) && isEntry(m_current)) {
-        copy(m_current);
+    const int key = event->key() == Qt::Key_Enter ? Qt::Key_Return : event->key();
+    const QKeySequence pressed = event->matches(QKeySequence::Copy)
+                                     ? QKeySequence(QKeySequence::Copy)
+                                     : QKeySequence(key | (event->modifiers() & ~Qt::KeypadModifier));
+    if (const auto run = actionOf(m_current, pressed)) {
+        // Once for each press, and on nothing that the user does not see.
+        if (!viewport()->rect().intersects(rectOf(m_current)))
+            scrollTo(m_current);
+        else if (!event->isAutoRepeat())
+            run();
         return;
     }
     const int last = model().rowCount() - 1;
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        activateRow(m_current);
-        return;
-    case Qt::Key_Delete:
-        if (isEntry(m_current))
-            remove(m_current);
-        return;
+    switch (key) {
     case Qt::Key_Menu:
         showMenuOfRow(m_current);
         return;
     case Qt::Key_Up:
     case Qt::Key_Down: {
-        const int step = event->key() == Qt::Key_Up ? -1 : 1;
-        const int next = entryFrom(m_current + step, step);
+        const int step = key == Qt::Key_Up ? -1 : 1;
+        const int next = entryFrom(m_current < 0 ? firstRowInView() : m_current + step, step);
         if (next >= 0)
             moveCurrentRow(next);
         else
@@ -153,9 +178,12 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         return;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown: {
-        const int pages = event->key() == Qt::Key_PageUp ? -1 : 1;
-        if (last >= 0)
-            moveCurrentRow(nearestEntry(rowPagesAway(std::max(0, m_current), pages), -pages));
+        const int step = key == Qt::Key_PageUp ? -1 : 1;
+        const int row = std::max(0, m_current);
+        if (last < 0 || scrollWithin(row, step))
+            return;
+        const int away = rowPagesAway(row, step);
+        moveCurrentRow(nearestEntry(std::clamp(away == row ? row + step : away, 0, last), step));
         return;
     }
     default:
@@ -176,7 +204,7 @@ RowListView::Hit RowListView::hitAt(QPoint point) const
 RowPainter::Marks RowListView::marksOf(int row) const
 {
     QColor ground = groundOf(row);
-    if (!ground.isValid() && row == m_current && hasFocus())
+    if (!ground.isValid() && row == m_current)
         ground = NoteStyle::color(palette(), Design::editingGround);
     else if (!ground.isValid() && row == m_hover.row)
         ground = NoteStyle::color(palette(), Design::hoverGround);
@@ -209,22 +237,34 @@ void RowListView::leaveEvent(QEvent *event)
 
 void RowListView::mousePressEvent(QMouseEvent *event)
 {
-    m_pressed = event->button() == Qt::LeftButton ? hitAt(event->position().toPoint()) : Hit();
+    const Hit hit = hitAt(event->position().toPoint());
+    if (hit.row >= 0)
+        goTo(hit.row);
+    m_pressed = event->button() == Qt::LeftButton ? hit : Hit();
+    m_clicked = {};
 }
 
 void RowListView::mouseReleaseEvent(QMouseEvent *event)
 {
     const Hit pressed = std::exchange(m_pressed, {});
-    if (event->button() == Qt::LeftButton && pressed.row >= 0
-        && pressed == hitAt(event->position().toPoint()))
-        clickPart(pressed.row, pressed.part);
+    if (event->button() != Qt::LeftButton || pressed.row < 0 || pressed != hitAt(event->position().toPoint()))
+        return;
+    m_clicked = pressed;
+    for (const Action &action : actionsOf(pressed.row)) {
+        if (action.part != RowPart::Kind::None && action.part == pressed.part.kind) {
+            action.run();
+            return;
+        }
+    }
 }
 
 void RowListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    const Hit hit = hitAt(event->position().toPoint());
-    if (hit.part.kind == RowPart::Kind::Body)
-        activate(hit.row);
+    // The first click may have been on what was here before.
+    if (hitAt(event->position().toPoint()) != m_clicked)
+        mousePressEvent(event);
+    else if (m_clicked.part.kind == RowPart::Kind::Body)
+        activateRow(m_clicked.row);
 }
 
 void RowListView::contextMenuEvent(QContextMenuEvent *event)
@@ -237,14 +277,20 @@ void RowListView::contextMenuEvent(QContextMenuEvent *event)
 
 void RowListView::popUpMenu(int row, QPoint globalPosition)
 {
-    if (hasFocus())
-        setCurrentRow(row);
+    goTo(row);
     QMenu *menu = MenuLooks::newMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(*menu, row);
+    for (const Action &action : actionsOf(row)) {
+        if (action.title.isEmpty()) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction *entry = menu->addAction(action.title, this, action.run);
+        entry->setShortcut(action.key);
+        entry->setShortcutVisibleInContextMenu(true);
+    }
     MenuLooks::apply(*menu);
-    if (!menu->isEmpty())
-        menu->popup(globalPosition);
+    menu->popup(globalPosition);
 }
 
 bool RowListView::viewportEvent(QEvent *event)

@@ -2,9 +2,9 @@
 
 #include "ui/lists/RowScrollArea.h"
 
-#include <functional>
+#include <QKeySequence>
 
-class QMenu;
+#include <functional>
 
 /// A list that the user works in with keys and mouse: one of its rows is the current one. What can be done
 /// with a row is the subclass's. A header can be neither current nor clicked.
@@ -15,12 +15,14 @@ class RowListView : public RowScrollArea
 public:
     explicit RowListView(RowModel &model, QWidget *parent = nullptr);
 
-    /// The row that keys act on; -1 for none. It stays with its row when others come and go, and moves to the
-    /// row below when its own is removed.
+    /// The row that keys act on; -1 for none, as always while the list has neither the focus nor a menu or
+    /// popover. It stays with its row when others come and go, and moves to the row below when its own is
+    /// removed.
     [[nodiscard]] int currentRow() const { return m_current; }
     void setCurrentRow(int row);
-    /// Takes the focus, with the first entry in view as the current row; false when there is none.
-    bool enter();
+    void goTo(int row); ///< makes it the current row, and takes the focus
+    /// Takes the focus, with the first entry in view as the current row if there is one.
+    void enter();
     // Also called by screen readers. A header does nothing.
     void activateRow(int row);
     void showMenuOfRow(int row);
@@ -38,12 +40,15 @@ Q_SIGNALS:
     void left(); ///< by an arrow key beyond the first or last row
 
 protected:
-    // What the user does with an entry.
-    virtual void activate(int row) = 0; ///< Return, or a double click
-    virtual void clickPart(int, RowPart) {}
-    virtual void remove(int) {} ///< Delete
-    virtual void copy(int) {}   ///< Ctrl+C
-    virtual void fillMenu(QMenu &, int) {}
+    /// Something that can be done with an entry: an entry of its menu, a key, perhaps a click. A double click
+    /// is the Return key.
+    struct Action {
+        QString title; ///< empty for a line between two groups
+        QKeySequence key;
+        std::function<void()> run;
+        RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
+    };
+    [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0;     ///< in the order of its menu
     [[nodiscard]] virtual QColor groundOf(int) const { return {}; } ///< a colour behind the row
 
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
@@ -51,6 +56,7 @@ protected:
     void didRemoveRows(int first, int count) override;
 
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -66,10 +72,12 @@ private:
     [[nodiscard]] int entryFrom(int row, int step) const;    ///< @p row or the next entry; -1 beyond the ends
     [[nodiscard]] int nearestEntry(int row, int step) const; ///< in the other direction where there is none
     void moveCurrentRow(int row);
+    [[nodiscard]] std::function<void()> actionOf(int row, const QKeySequence &key); ///< empty for none
     void setHover(const Hit &hover);
     void popUpMenu(int row, QPoint globalPosition);
 
     int m_current = -1;
     Hit m_hover;
     Hit m_pressed;
+    Hit m_clicked;
 };

@@ -9,8 +9,24 @@
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
+
+namespace {
+/// The name while it is edited. Its keys are not the list's, not even Return after it has ended the edit.
+class TagNameField final : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        QLineEdit::keyPressEvent(event);
+        event->accept();
+    }
+};
+} // namespace
 
 TagListView::TagListView(NoteStore &notes, TagModel &model, QWidget *parent)
     : RowListView(model, parent)
@@ -36,27 +52,16 @@ RowPainter::EmptyState TagListView::emptyState() const
     return {QStringLiteral("number"), L10n::text("无匹配标签"), {}};
 }
 
-void TagListView::activate(int row)
-{
-    Q_EMIT selected(m_tags.row(row).name);
-}
-
-void TagListView::clickPart(int row, RowPart part)
-{
-    if (part.kind == RowPart::Kind::Body)
-        activate(row);
-}
-
-void TagListView::remove(int row)
-{
-    deleteTag(m_tags.row(row).name);
-}
-
-void TagListView::fillMenu(QMenu &menu, int row)
+QList<RowListView::Action> TagListView::actionsOf(int row)
 {
     const QString name = m_tags.row(row).name;
-    menu.addAction(L10n::text("重命名"), this, [this, name] { m_rename.setRenaming(name); });
-    menu.addAction(L10n::text("删除"), this, [this, name] { deleteTag(name); });
+    return {
+        {L10n::text("重命名"), Qt::Key_F2, [this, name] { m_rename.setRenaming(name); }},
+        {L10n::text("删除"), Qt::Key_Delete, [this, name] { deleteTag(name); }},
+        {},
+        {L10n::text("筛选笔记"), Qt::Key_Return, [this, name] { Q_EMIT selected(name); },
+            RowPart::Kind::Body},
+    };
 }
 
 // Renaming
@@ -67,7 +72,7 @@ void TagListView::editDidChange()
     const auto &renaming = m_rename.renaming();
     if (!renaming || m_tags.rowOf(*renaming) < 0)
         return;
-    m_editor = new QLineEdit(*renaming, this);
+    m_editor = new TagNameField(*renaming, this);
     m_editor->setObjectName(QStringLiteral("tagNameField"));
     m_editor->setPlaceholderText(L10n::text("标签名"));
     m_editor->setAccessibleName(m_editor->placeholderText());
@@ -93,6 +98,10 @@ void TagListView::endEdit()
     if (!m_editor)
         return;
     QLineEdit *editor = std::exchange(m_editor, nullptr);
+    if (editor->hasFocus())
+        setFocus(); // or hiding it would give the focus to the next in the order of the Tab key
+    else
+        setCurrentRow(-1);
     editor->hide();
     editor->deleteLater();
 }
@@ -120,6 +129,10 @@ void TagListView::commitRename(const QString &from, const QString &to)
             return;
     }
     m_notes.renameTag(from, name);
+    if (const int row = m_tags.rowOf(name); row >= 0 && hasFocus()) {
+        setCurrentRow(row);
+        scrollTo(row);
+    }
     Q_EMIT done(isMerge ? L10n::text("已合并标签") : L10n::text("已重命名"));
 }
 

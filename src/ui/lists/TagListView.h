@@ -23,10 +23,7 @@ Q_SIGNALS:
     void selected(const QString &tag);
 
 protected:
-    void activate(int row) override; ///< selects the tag
-    void clickPart(int row, RowPart part) override;
-    void remove(int row) override; ///< asks first
-    void fillMenu(QMenu &menu, int row) override;
+    QList<Action> actionsOf(int row) override;
     void didMoveRows() override;
 
 private:

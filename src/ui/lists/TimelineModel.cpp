@@ -87,13 +87,35 @@ void TimelineModel::appendSections(
 {
     for (const DaySection &section : sections) {
         out.append({.kind = TimelineRow::Kind::Day, .day = section.day, .isSemanticOnly = isSemanticOnly});
-        for (const qsizetype index : section.notes) {
-            const Note &note = m_notes.notes()[index];
-            out.append({TimelineRow::Kind::Note, section.day, note.id, note.text, index,
-                !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(index)],
-                isSemanticOnly});
-        }
+        for (const qsizetype index : section.notes)
+            out.append(rowOf(index, section.day, isSemanticOnly));
     }
+}
+
+TimelineRow TimelineModel::rowOf(qsizetype noteIndex, Instant day, bool isSemanticOnly) const
+{
+    const Note &note = m_notes.notes()[noteIndex];
+    return {TimelineRow::Kind::Note, day, note.id, note.text, noteIndex,
+        !m_reminded.isEmpty() && m_reminded.contains(note.id), m_isRepliedTo[size_t(noteIndex)],
+        isSemanticOnly};
+}
+
+void TimelineModel::setEdited(std::optional<QUuid> noteID)
+{
+    m_edited = noteID;
+    refresh();
+}
+
+void TimelineModel::showWithEdited(QList<TimelineRow> found)
+{
+    const auto isEdited = [this](const auto &each) { return each.id == m_edited; };
+    const auto &notes = m_notes.notes();
+    const auto edited = std::find_if(notes.begin(), notes.end(), isEdited);
+    if (m_edited && edited != notes.end() && std::none_of(found.begin(), found.end(), isEdited)) {
+        found.prepend(rowOf(edited - notes.begin(), {}, false));
+        found.prepend({.kind = TimelineRow::Kind::EditedTitle});
+    }
+    show(found);
 }
 
 void TimelineModel::refresh()
@@ -105,9 +127,9 @@ void TimelineModel::refresh()
     const bool needsSearch = found.isEmpty() && !m_notes.notes().isEmpty();
     // The hits of the previous query stay until those of this one are known.
     const bool keepsHits =
-        needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().front().isSemanticOnly;
+        needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().back().isSemanticOnly;
     if (!keepsHits)
-        show(found);
+        showWithEdited(found);
     m_notesDidChange = false;
     if (needsSearch)
         m_searchTimer.start(untilTheFrameIsShown);
@@ -126,7 +148,7 @@ void TimelineModel::continueSearch()
     if (!matches->hits().isEmpty())
         found.append({.kind = TimelineRow::Kind::Title, .isSemanticOnly = true});
     appendSections(m_search.daySections(matches->hits()), true, found);
-    show(found);
+    showWithEdited(found);
 }
 
 const Note &TimelineModel::note(int number) const
@@ -139,6 +161,8 @@ QString TimelineModel::text(int number) const
     switch (row(number).kind) {
     case TimelineRow::Kind::Title:
         return L10n::text("语义相关");
+    case TimelineRow::Kind::EditedTitle:
+        return L10n::text("编辑中");
     case TimelineRow::Kind::Day:
         return NoteFormatting::dayTitle(row(number).day, m_clock.now(), m_clock.calendar());
     case TimelineRow::Kind::Note:

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Clock;
@@ -19,7 +20,7 @@ class SemanticMatches;
 /// One row of the timeline: the header of a day, or a note of that day; notes that only resemble the query
 /// also have a title above them.
 struct TimelineRow {
-    enum class Kind { Title, Day, Note };
+    enum class Kind { Title, EditedTitle, Day, Note };
     Kind kind = Kind::Day;
     Instant day = {};        ///< unset for a title
     QUuid id = {};           ///< this and the rest are set for a note only
@@ -50,6 +51,8 @@ public:
 
     void setQuery(const QString &query);
     [[nodiscard]] const QString &query() const { return m_query; }
+    /// The note that is being edited is shown on top while the query does not find it.
+    void setEdited(std::optional<QUuid> noteID);
     void timeDidPass() override;
 
     [[nodiscard]] bool isHeader(int number) const override { return !row(number).isNote(); }
@@ -63,6 +66,8 @@ private:
     void fillEntry(RowContent &entry, int row) const override;
     void refresh() override; ///< also while the panel is hidden, so that it opens at once
     void continueSearch();
+    void showWithEdited(QList<TimelineRow> found);
+    [[nodiscard]] TimelineRow rowOf(qsizetype noteIndex, Instant day, bool isSemanticOnly) const;
     void appendSections(
         const QList<DaySection> &sections, bool isSemanticOnly, QList<TimelineRow> &out) const;
 
@@ -71,6 +76,7 @@ private:
     const ReminderStore &m_reminders;
     const Clock &m_clock;
     QString m_query;
+    std::optional<QUuid> m_edited;
     QSet<QUuid> m_reminded;
     std::vector<bool> m_isRepliedTo; ///< by the index of the note
     bool m_notesDidChange = false;

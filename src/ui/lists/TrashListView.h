@@ -18,13 +18,9 @@ public:
     [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
 protected:
-    void activate(int row) override; ///< restores the note
-    void clickPart(int row, RowPart part) override;
-    void fillMenu(QMenu &menu, int row) override;
+    QList<Action> actionsOf(int row) override;
 
 private:
-    void restore(QUuid noteID);
-
     NoteStore &m_notes;
     TrashModel &m_trash;
 };

@@ -24,6 +24,8 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -57,9 +59,6 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     , m_pages{{L10n::text("笔记")}, {L10n::text("标签")}, {L10n::text("提醒")}, {L10n::text("回收站")}}
     , m_emptyTrash(new CapsuleButton(L10n::text("清空回收站"), CapsuleButton::Kind::Destructive, this))
 {
-    // The order in which they are made is that of the Tab key.
-    auto &timeline = *new NoteListView(
-        notes, search, reminders, m_state, *new TimelineModel(notes, search, reminders, clock), this);
     m_composer = new ComposerView(notes, m_state, detector, titles, clock, this);
     setFocusProxy(m_composer);
     WidgetRole::set(*this, QAccessible::Client);
@@ -83,7 +82,9 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     connect(help, &QShortcut::activated, this, &ContentView::showKeys);
     // The field has an undo of its own, which comes first.
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, m_statusLine, &StatusLine::undo);
-    addList(PanelMode::Timeline, timeline, timeline);
+    auto *timeline = new NoteListView(
+        notes, search, reminders, m_state, *new TimelineModel(notes, search, reminders, clock), this);
+    addList(PanelMode::Timeline, *timeline, *timeline);
     m_tags = new TagListView(notes, *new TagModel(notes), this);
     addList(PanelMode::Tags, *m_tags, *m_tags);
     addReminders();
@@ -101,7 +102,10 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     layout->addWidget(m_composer);
     layout->addWidget(m_trashBar);
 
+    setTabOrder();
+
     connect(&m_state, &PanelState::modeChanged, this, &ContentView::modeDidChange);
+    connect(&m_state, &PanelState::panelToggled, this, &ContentView::focusFieldOrList);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
     connect(m_composer, &ComposerView::listRequested, this, [this] { list().enter(); });
     connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
@@ -127,12 +131,13 @@ void ContentView::addList(PanelMode mode, RowListView &list, QWidget &page)
     m_pages[qsizetype(mode)].list = &list;
     m_stack->insertWidget(int(mode), &page);
     connect(&list, &RowListView::done, m_statusLine, &StatusLine::tell);
-    connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+    if (hasComposer(mode)) {
+        connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
+        list.setAttribute(Qt::WA_InputMethodEnabled);
+        list.installEventFilter(this);
+    }
     auto *shortcut = new QShortcut(keyOf(mode), this);
-    connect(shortcut, &QShortcut::activated, this, [this, mode] {
-        if (m_state.mode() != mode)
-            enter(mode);
-    });
+    connect(shortcut, &QShortcut::activated, this, [this, mode] { enter(mode); });
 }
 
 void ContentView::addReminders()
@@ -174,6 +179,20 @@ void ContentView::addTrash()
     updateButton();
 }
 
+void ContentView::setTabOrder()
+{
+    QWidget *previous = m_composer;
+    const auto add = [&previous](
+                         QWidget *next) { QWidget::setTabOrder(std::exchange(previous, next), next); };
+    for (const Page &page : std::as_const(m_pages)) {
+        if (page.button)
+            add(page.button);
+    }
+    for (const Page &page : std::as_const(m_pages))
+        add(page.list);
+    add(m_emptyTrash);
+}
+
 RowListView &ContentView::list() const
 {
     return *m_pages[qsizetype(m_state.mode())].list;
@@ -192,18 +211,18 @@ void ContentView::showKeys()
 void ContentView::enter(PanelMode mode)
 {
     m_state.setMode(mode);
-    if (hasComposer(mode))
-        QTimer::singleShot(0, &m_state, &PanelState::focusComposer);
+    if (m_composer->isEnabled())
+        m_state.focusComposer();
     else
-        focusFieldOrList();
+        list().enter();
 }
 
 void ContentView::focusFieldOrList()
 {
-    if (hasComposer(m_state.mode()))
+    if (m_composer->isEnabled())
         m_composer->setFocus();
-    else if (!list().enter())
-        list().setFocus();
+    else
+        list().enter();
 }
 
 void ContentView::modeDidChange()
@@ -221,6 +240,7 @@ void ContentView::modeDidChange()
     }
     m_stack->setCurrentIndex(int(mode));
     m_composer->setVisible(hasComposer(mode));
+    m_composer->setEnabled(hasComposer(mode)); // or keys would still reach it
     m_trashBar->setVisible(mode == PanelMode::Trash);
     if (!isVisible())
         return;
@@ -245,6 +265,39 @@ bool ContentView::isComposing() const
     return m_composer->isComposing();
 }
 
+void ContentView::keyPressEvent(QKeyEvent *event)
+{
+    // What neither the field nor a list nor a button has taken.
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
+        list().scrollPage(event->key() == Qt::Key_PageUp ? -1 : 1);
+    else if (m_composer->hasFocus() || !m_composer->takeKey(*event))
+        QWidget::keyPressEvent(event);
+}
+
+bool ContentView::eventFilter(QObject *watched, QEvent *event)
+{
+    // A composition that begins over a list is the field's.
+    switch (event->type()) {
+    case QEvent::InputMethod:
+        m_composer->takeInput(*static_cast<QInputMethodEvent *>(event));
+        return true;
+    case QEvent::InputMethodQuery:
+        m_composer->answerFor(
+            *qobject_cast<QWidget *>(watched), *static_cast<QInputMethodQueryEvent *>(event));
+        return true;
+    case QEvent::KeyPress:
+        return isComposing();
+    case QEvent::FocusOut:
+        if (isComposing() && !m_composer->hasFocus()) {
+            QInputMethodEvent end;
+            m_composer->takeInput(end);
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
 bool ContentView::escape()
 {
     // One layer at a time, from the inside out.
@@ -254,9 +307,9 @@ bool ContentView::escape()
         m_tags->renameState().setRenaming({});
     else if (m_statusLine->hasFocusWithin())
         m_statusLine->dismiss();
-    else if (list().hasFocus() && m_composer->isVisible())
+    else if (list().hasFocus() && m_composer->isEnabled())
         m_composer->setFocus();
-    else if (!m_state.draft().isEmpty() && m_composer->isVisible())
+    else if (!m_state.draft().isEmpty() && m_composer->isEnabled())
         m_state.setDraft({});
     else
         return false;

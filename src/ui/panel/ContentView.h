@@ -36,6 +36,8 @@ public:
     bool escape();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -51,6 +53,7 @@ private:
     void addReminders();
     void addTrash();
     [[nodiscard]] RowListView &list() const; ///< of the current mode
+    void setTabOrder();
     void enter(PanelMode mode);
     void focusFieldOrList();
     void showKeys();
