@@ -142,6 +142,13 @@ private Q_SLOTS:
         QCOMPARE(afterPressing({Qt::Key_Home}), u"a"_s);
         QCOMPARE(afterPressing({Qt::Key_PageDown, Qt::Key_PageUp}), u"a"_s);
         QCOMPARE(afterPressing({Qt::Key_A}), u"a"_s); // no search by what is typed
+        model.set({{u"a"_s, u"a"_s}, {u"high"_s, QString(2000, u'字')}, {u"#y"_s, u"y"_s}, {u"b"_s, u"b"_s}});
+        for (int i = 0; i < 9 && list.current() != u"b"_s; ++i)
+            afterPressing({Qt::Key_PageDown});
+        QCOMPARE(list.current(), u"b"_s);
+        for (int i = 0; i < 9 && list.current() != u"a"_s; ++i)
+            afterPressing({Qt::Key_PageUp});
+        QCOMPARE(list.current(), u"a"_s);
         QCOMPARE(left.count(), 0);
         afterPressing({Qt::Key_Up});
         QCOMPARE(left.count(), 1);

@@ -77,5 +77,5 @@ private:
     ComposerField *m_field = nullptr;
     bool m_suppressReminder = false;
     qsizetype m_completedCaret = 0; ///< for which tags are offered, or none
-    CachedImage m_capsules[2][2]; ///< by whether the field has the focus, and whether it edits a note
+    CachedImage m_capsules[2][2];   ///< by whether the field has the focus, and whether it edits a note
 };

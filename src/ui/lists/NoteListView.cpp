@@ -84,7 +84,7 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     QList<Action> actions = {
         {L10n::text("引用"), Qt::CTRL | Qt::Key_R, quote},
         {L10n::text("复制"), QKeySequence::Copy, copy},
-        {L10n::text("删除"), Qt::Key_Delete, remove},
+        {L10n::text("删除"), Qt::Key_Delete, remove, {}, true},
         {},
     };
     if (m_reminders.hasReminder(note.id)) {

@@ -288,6 +288,8 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
         QAction *entry = menu->addAction(action.title, this, action.run);
         entry->setShortcut(action.key);
         entry->setShortcutVisibleInContextMenu(true);
+        if (action.isDestructive)
+            MenuLooks::markDestructive(*entry);
     }
     MenuLooks::apply(*menu);
     menu->popup(globalPosition);

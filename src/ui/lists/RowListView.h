@@ -47,6 +47,7 @@ protected:
         QKeySequence key;
         std::function<void()> run;
         RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
+        bool isDestructive = false;
     };
     [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0;     ///< in the order of its menu
     [[nodiscard]] virtual QColor groundOf(int) const { return {}; } ///< a colour behind the row

@@ -57,7 +57,7 @@ QList<RowListView::Action> TagListView::actionsOf(int row)
     const QString name = m_tags.row(row).name;
     return {
         {L10n::text("重命名"), Qt::Key_F2, [this, name] { m_rename.setRenaming(name); }},
-        {L10n::text("删除"), Qt::Key_Delete, [this, name] { deleteTag(name); }},
+        {L10n::text("删除"), Qt::Key_Delete, [this, name] { deleteTag(name); }, {}, true},
         {},
         {L10n::text("筛选笔记"), Qt::Key_Return, [this, name] { Q_EMIT selected(name); },
             RowPart::Kind::Body},
