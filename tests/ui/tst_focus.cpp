@@ -335,7 +335,7 @@ private Q_SLOTS:
             auto *menu = list.findChild<QMenu *>();
             for (const QAction *action : menu->actions()) {
                 if (!action->isSeparator())
-                    shown.append(action->text() + u' ' + action->shortcut().toString());
+                    shown.append(action->text().replace(u'\t', u' '));
             }
             delete menu;
             return shown;

@@ -87,6 +87,7 @@ namespace Keysym {
 constexpr std::uint32_t space = 0x20;
 constexpr std::uint32_t escape = 0xff1b;
 constexpr std::uint32_t enter = 0xff0d;
+constexpr std::uint32_t tab = 0xff09;
 constexpr std::uint32_t up = 0xff52;
 constexpr std::uint32_t down = 0xff54;
 constexpr std::uint32_t menu = 0xff67;

@@ -62,19 +62,43 @@ public:
 
     [[nodiscard]] QStringList actionNames() const override
     {
-        return isHeader() ? QStringList() : QStringList{pressAction(), showMenuAction()};
+        QStringList names;
+        for (const Action &action : actions())
+            names.append(action.title);
+        return names;
     }
     void doAction(const QString &name) override
     {
-        if (name == pressAction())
-            m_list.view()->activateRow(row());
-        else if (name == showMenuAction())
-            m_list.view()->showMenuOfRow(row());
+        for (const Action &action : actions()) {
+            if (action.title == name)
+                return action.run();
+        }
     }
-    [[nodiscard]] QStringList keyBindingsForAction(const QString &) const override { return {}; }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString &name) const override
+    {
+        for (const Action &action : actions()) {
+            if (action.title == name)
+                return {action.key.toString()};
+        }
+        return {};
+    }
 
 private:
     [[nodiscard]] bool isHeader() const { return m_list.view()->model().isHeader(row()); }
+    using Action = RowListView::Action;
+    [[nodiscard]] QList<Action> actions() const
+    {
+        if (isHeader())
+            return {};
+        RowListView &view = *m_list.view();
+        QList<Action> actions = {
+            {pressAction(), Qt::Key_Return, [&view, row = row()] { view.activateRow(row); }},
+            {showMenuAction(), Qt::Key_Menu, [&view, row = row()] { view.showMenuOfRow(row); }},
+        };
+        actions.append(view.actionsOf(row()));
+        actions.removeIf([](const Action &action) { return action.title.isEmpty(); });
+        return actions;
+    }
 
     const RowListAccessible &m_list;
     QPersistentModelIndex m_index;

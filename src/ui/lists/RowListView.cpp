@@ -285,9 +285,9 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
             menu->addSeparator();
             continue;
         }
-        QAction *entry = menu->addAction(action.title, this, action.run);
-        entry->setShortcut(action.key);
-        entry->setShortcutVisibleInContextMenu(true);
+        // The key is part of the text, or screen readers would not read it out.
+        QAction *entry = menu->addAction(
+            action.title + u'	' + action.key.toString(QKeySequence::NativeText), this, action.run);
         if (action.isDestructive)
             MenuLooks::markDestructive(*entry);
     }

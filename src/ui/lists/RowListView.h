@@ -23,6 +23,18 @@ public:
     void goTo(int row); ///< makes it the current row, and takes the focus
     /// Takes the focus, with the first entry in view as the current row if there is one.
     void enter();
+
+    /// Something that can be done with an entry: an entry of its menu, a key, perhaps a click. A double click
+    /// is the Return key.
+    struct Action {
+        QString title; ///< empty for a line between two groups
+        QKeySequence key;
+        std::function<void()> run;
+        RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
+        bool isDestructive = false;
+    };
+    [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0; ///< in the order of its menu
+
     // Also called by screen readers. A header does nothing.
     void activateRow(int row);
     void showMenuOfRow(int row);
@@ -40,16 +52,6 @@ Q_SIGNALS:
     void left(); ///< by an arrow key beyond the first or last row
 
 protected:
-    /// Something that can be done with an entry: an entry of its menu, a key, perhaps a click. A double click
-    /// is the Return key.
-    struct Action {
-        QString title; ///< empty for a line between two groups
-        QKeySequence key;
-        std::function<void()> run;
-        RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
-        bool isDestructive = false;
-    };
-    [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0;     ///< in the order of its menu
     [[nodiscard]] virtual QColor groundOf(int) const { return {}; } ///< a colour behind the row
 
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;

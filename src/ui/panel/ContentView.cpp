@@ -238,14 +238,17 @@ void ContentView::modeDidChange()
                                         : withKey(page.title, PanelMode(&page - m_pages.data())));
         }
     }
-    m_stack->setCurrentIndex(int(mode));
+    const bool keepsFocus = m_composer->hasFocus();
     m_composer->setVisible(hasComposer(mode));
     m_composer->setEnabled(hasComposer(mode)); // or keys would still reach it
+    if (isVisible() && hasComposer(mode))
+        m_composer->setFocus(); // before the list is hidden, or Qt gives its focus to one after the other
+    m_stack->setCurrentIndex(int(mode));
     m_trashBar->setVisible(mode == PanelMode::Trash);
     if (!isVisible())
         return;
     timeDidPass();
-    if (m_composer->hasFocus()) {
+    if (keepsFocus && m_composer->hasFocus()) {
         // The focus stays, but what is typed means something else now.
         WidgetRole::announce(*m_title, QAccessible::Focus);
         WidgetRole::announce(*QApplication::focusWidget(), QAccessible::Focus);
