@@ -120,13 +120,18 @@ public:
     }
     static void choose(QWidget &widget, QPoint position, const QString &entry)
     {
+        withMenu(widget, position, [&entry](QAction &action) {
+            if (action.text().startsWith(entry))
+                action.trigger();
+        });
+    }
+    static void withMenu(QWidget &widget, QPoint position, const std::function<void(QAction &)> &act)
+    {
         QContextMenuEvent event(QContextMenuEvent::Mouse, position, widget.mapToGlobal(position));
         QCoreApplication::sendEvent(&widget, &event);
         QMenu *menu = widget.window()->findChildren<QMenu *>().last();
-        for (QAction *action : menu->actions()) {
-            if (action->text().startsWith(entry))
-                action->trigger();
-        }
+        for (QAction *action : menu->actions())
+            act(*action);
         delete menu;
     }
     QList<Note> savedNotes() const

@@ -335,6 +335,45 @@ private Q_SLOTS:
         QCOMPARE(panel.told(), u"已删除标签"_s);
     }
 
+    void the_page_of_keys_lists_what_the_menus_do()
+    {
+        TestPanel panel;
+        const Note note = *panel.notes.add(u"明天 #a"_s, {}, u"https://a.example"_s);
+        panel.notes.add(u"答 #a"_s, note);
+        panel.notes.add(u"旧"_s);
+        panel.notes.remove(panel.notes.notes().first().id);
+        panel.reminders.schedule(note.id, at("2026-03-03T02:00:00Z"), u"明天"_s, note.text);
+        QTRY_VERIFY(panel.field()->hasFocus());
+        QStringList shown;
+        QTimer::singleShot(0, &panel.window, [&] {
+            const auto labels = panel.find<QWidget>("sheet")->findChildren<QLabel *>();
+            for (qsizetype i = 1; i < labels.size(); ++i)
+                shown.append(labels[i - 1]->text() + labels[i]->text());
+            QTest::keyClick(panel.window.focusWidget(), Qt::Key_F1);
+        });
+        QTest::keyClick(&panel.window, Qt::Key_F1);
+        QStringList expected;
+        for (const char *name : {"timeline", "tagList", "reminderList", "trashList"}) {
+            auto *list = panel.find<RowListView>(name);
+            panel.state().setMode(PanelMode(expected.count(u"-"_s)));
+            expected.append(u"-"_s);
+            for (int row = 0; row < list->model().rowCount(); ++row) {
+                if (list->model().isHeader(row))
+                    continue;
+                panel.withMenu(
+                    *list->viewport(), list->rectOf(row).center(), [&expected](const QAction &action) {
+                        if (!action.isSeparator())
+                            expected.append(
+                                action.shortcut().toString(QKeySequence::NativeText) + action.text());
+                    });
+            }
+        }
+        expected.removeAll(u"-"_s);
+        QVERIFY(expected.size() > 12);
+        for (const QString &each : std::as_const(expected))
+            QVERIFY2(shown.contains(each), qUtf8Printable(each));
+    }
+
     void midnight_moves_today()
     {
         TestPanel panel;

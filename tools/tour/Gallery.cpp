@@ -123,6 +123,9 @@ private:
         escape();
         pressEach({Keysym::down, Keysym::down});
         picture("row with the focus");
+        m_screen.press({Keysym::f1});
+        picture("page of keys");
+        escape();
         pressEach({Keysym::down, Keysym::down, Keysym::down, Keysym::down, Keysym::down});
         picture("scrolled under a pinned day");
         escape();

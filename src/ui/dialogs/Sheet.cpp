@@ -17,7 +17,7 @@
 #include <utility>
 
 namespace {
-constexpr int padding = 2 * Design::edge;
+constexpr int padding = Design::edge + 2 * Design::grid;
 
 QLabel *label(const QString &text, const QFont &font, QWidget *parent)
 {

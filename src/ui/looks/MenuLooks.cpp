@@ -48,17 +48,16 @@ void MenuLooks::apply(QMenu &menu)
     const QPalette palette = menu.palette();
     const QString sheet =
         QStringLiteral("QMenu { background: %1; border: 1px solid %2; border-radius: %3px; padding: %4px }"
-                       "QMenu::item { color: %5; padding: %4px %6px; border-radius: %4px }"
-                       "QMenu::item:selected { background: %7 }"
-                       "QMenu::item:disabled { color: %8 }"
-                       "QMenu::separator { height: 1px; background: %2; margin: %4px %6px }");
+                       "QMenu::item { padding: %4px %5px; border-radius: %4px }"
+                       "QMenu::item:selected { background: %6 }"
+                       "QMenu::item:disabled { color: %7 }"
+                       "QMenu::separator { height: 1px; background: %2; margin: %4px %5px }");
     menu.setFont(NoteStyle::font());
     menu.setStyleSheet(sheet
                            .arg(NoteStyle::color(palette, Design::fieldGround).name(),
                                NoteStyle::color(palette, Design::hairline).name())
                            .arg(isRound ? Design::menuRadius : 0)
                            .arg(Design::grid)
-                           .arg(NoteStyle::color(palette, Design::text).name())
                            .arg(Design::edge)
                            .arg(NoteStyle::color(palette, Design::editingGround).name(),
                                NoteStyle::color(palette, Design::metaText).name()));

@@ -11,7 +11,15 @@
 #include <QScrollArea>
 #include <QShortcut>
 
+#include <utility>
+
 namespace {
+struct RowKey {
+    int list; ///< the number of its mode
+    QKeySequence key;
+    const char *text;
+};
+
 QLabel *label(const QString &text, Design::Tint tint, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
@@ -32,7 +40,7 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     auto *rows = new QFormLayout(table);
     rows->setContentsMargins(0, 0, Design::edge, 0);
     rows->setHorizontalSpacing(Design::edge);
-    rows->setVerticalSpacing(Design::rowPadding);
+    rows->setVerticalSpacing(Design::grid);
     const auto addText = [rows, table](const QString &key, const QString &text) {
         auto *name = label(key, Design::metaText, table);
         name->setWordWrap(false);
@@ -43,17 +51,42 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     };
     if (!hotKey.isEmpty())
         addText(hotKey, L10n::text("随时打开或收起"));
-    add(Qt::Key_Return, L10n::text("保存；在列表中编辑、打开或恢复"));
-    addText(QStringLiteral("↑ ↓"), L10n::text("在输入框和列表之间移动"));
-    add(Qt::Key_Menu, L10n::text("列表项的菜单，含各项的按键"));
-    add(QKeySequence::Copy, L10n::text("复制笔记"));
-    add(Qt::Key_Delete, L10n::text("删除，或取消提醒"));
-    add(QKeySequence::Undo, L10n::text("撤销刚才的删除"));
-    for (const Entry &mode : modes)
-        add(mode.key, mode.text);
     add(Qt::Key_Escape, L10n::text("逐级返回，最后收起"));
+    add(Qt::Key_Return, L10n::text("保存输入的笔记"));
+    addText(QStringLiteral("↑ ↓"), L10n::text("在输入框和列表之间移动"));
+    add(Qt::Key_Menu, L10n::text("当前项的菜单"));
+    add(QKeySequence::Undo, L10n::text("撤销刚才的删除"));
     add(Qt::Key_F1, L10n::text("本页"));
     addText(L10n::text("托盘图标"), L10n::text("右键：导入、导出、退出"));
+    // What the lists do with the current row, as in its menu.
+    const RowKey rowKeys[] = {
+        {0, Qt::Key_Return, "编辑"},
+        {0, Qt::CTRL | Qt::Key_R, "引用"},
+        {0, QKeySequence::Copy, "复制"},
+        {0, Qt::Key_Delete, "删除"},
+        {0, Qt::CTRL | Qt::Key_D, "取消提醒"},
+        {0, Qt::CTRL | Qt::Key_L, "相关笔记"},
+        {0, Qt::CTRL | Qt::Key_Return, "打开链接"},
+        {0, Qt::ALT | Qt::Key_Left, "跳转到引用的笔记"},
+        {0, Qt::ALT | Qt::Key_Right, "跳转到最新回复"},
+        {1, Qt::Key_Return, "筛选笔记"},
+        {1, Qt::Key_F2, "重命名"},
+        {1, Qt::Key_Delete, "删除"},
+        {2, Qt::Key_Return, "跳转到笔记"},
+        {2, Qt::Key_Delete, "取消提醒"},
+        {3, Qt::Key_Return, "恢复到时间线"},
+    };
+    for (const Entry &mode : modes) {
+        add(mode.key, mode.text);
+        for (int column = 0; column < 2; ++column)
+            rows->itemAt(rows->rowCount() - 1, QFormLayout::ItemRole(column))
+                ->widget()
+                ->setFont(NoteStyle::headerFont());
+        for (const RowKey &row : rowKeys) {
+            if (row.list == &mode - modes.data())
+                add(row.key, L10n::text(row.text));
+        }
+    }
 
     auto *scroll = new QScrollArea(&sheet);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -63,6 +96,15 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     scroll->setWidget(table);
     scroll->viewport()->setAutoFillBackground(false);
     table->setAutoFillBackground(false);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    using Step = QAbstractSlider::SliderAction;
+    for (const auto &[key, step] :
+        {std::pair(Qt::Key_Up, Step::SliderSingleStepSub), std::pair(Qt::Key_Down, Step::SliderSingleStepAdd),
+            std::pair(Qt::Key_PageUp, Step::SliderPageStepSub),
+            std::pair(Qt::Key_PageDown, Step::SliderPageStepAdd)}) {
+        QObject::connect(new QShortcut(key, scroll), &QShortcut::activated, scroll,
+            [scroll, step = step] { scroll->verticalScrollBar()->triggerAction(step); });
+    }
     sheet.setBody(scroll);
     sheet.addButton(L10n::text("好"));
     QObject::connect(new QShortcut(Qt::Key_F1, scroll), &QShortcut::activated, &sheet,

@@ -21,7 +21,7 @@ StatusLine::StatusLine(QWidget *parent)
     setFixedHeight(Design::fieldHeight + 2 * Design::grid);
     WidgetRole::set(*this, QAccessible::Notification);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, Design::edge + Design::grid, 0);
+    layout->setContentsMargins(0, 0, Design::edge + Design::grid, 2 * Design::grid);
     layout->addWidget(m_button, 0, Qt::AlignRight);
     connect(m_button, &CapsuleButton::clicked, this, &StatusLine::undo);
     m_closing.setSingleShot(true);
@@ -40,6 +40,7 @@ void StatusLine::tell(const QString &text, const std::function<void()> &undo)
     m_undo = undo;
     m_button->setVisible(bool(undo));
     setAccessibleName(text);
+    raise(); // above the lists
     show();
     m_closing.start();
 }
