@@ -362,13 +362,13 @@ private Q_SLOTS:
                     continue;
                 panel.withMenu(
                     *list->viewport(), list->rectOf(row).center(), [&expected](const QAction &action) {
-                        if (!action.isSeparator())
-                            expected.append(
-                                action.shortcut().toString(QKeySequence::NativeText) + action.text());
+                        const QStringList parts = action.text().split(u'\t'); // the title and the key
+                        expected.append(parts.last() + parts.first());
                     });
             }
         }
         expected.removeAll(u"-"_s);
+        expected.removeAll(QString()); // separators
         QVERIFY(expected.size() > 12);
         for (const QString &each : std::as_const(expected))
             QVERIFY2(shown.contains(each), qUtf8Printable(each));
