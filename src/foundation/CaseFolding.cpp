@@ -51,6 +51,15 @@ QString CaseFolding::folded(QStringView text)
     return result;
 }
 
+qsizetype CaseFolding::indexOf(QStringView text, QStringView query)
+{
+    const QString whole = folded(text);
+    if (whole.size() == text.size()) // so positions are the same in both, and need no map
+        return query.isEmpty() ? -1 : whole.indexOf(folded(query));
+    const QList<TextRange> all = occurrences(text, query);
+    return all.isEmpty() ? -1 : all.front().start;
+}
+
 QList<TextRange> CaseFolding::occurrences(QStringView text, QStringView query)
 {
     const QString needle = folded(query);

@@ -14,4 +14,6 @@ namespace CaseFolding {
 /// refer to @p text itself ("STRASSE" matches the six characters of "Straße"); no match begins or ends within
 /// a character.
 [[nodiscard]] QList<TextRange> occurrences(QStringView text, QStringView query);
+/// The start of the first; -1 if there is none. Quick in a text of a megabyte too.
+[[nodiscard]] qsizetype indexOf(QStringView text, QStringView query);
 } // namespace CaseFolding

@@ -48,12 +48,15 @@ private Q_SLOTS:
             const QPalette palette = NoteStyle::palette(isDark);
             QCOMPARE(NoteStyle::isDark(palette), isDark);
             const QColor flash = NoteStyle::color(palette, Design::flashGround);
-            QList<QColor> grounds{flash};
-            for (const Design::Tint ground : {Design::ground, Design::fieldGround, Design::editingGround,
-                     Design::hoverGround, Design::quoteGround})
+            const QColor quote = NoteStyle::color(palette, Design::quoteGround);
+            QList<QColor> grounds{flash, quote};
+            for (const Design::Tint ground :
+                {Design::ground, Design::fieldGround, Design::editingGround, Design::hoverGround})
                 grounds.append(NoteStyle::color(palette, ground));
             for (const Backdrop backdrop : {Backdrop::Sharp, Backdrop::Blurred})
                 grounds << over(palette, backdrop, 0) << over(palette, backdrop, 1);
+            for (const Design::Tint ground : {Design::hoverGround, Design::editingGround}) // of its row
+                QVERIFY(contrast(quote, NoteStyle::color(palette, ground)) > 1.1);
             for (const QColor &ground : grounds) {
                 const auto check = [&](Design::Tint tint, double least) {
                     const QColor color = NoteStyle::color(palette, tint);
@@ -64,7 +67,9 @@ private Q_SLOTS:
                 };
                 for (const Design::Tint text : texts)
                     check(text, 4.5);
-                if (ground != flash) { // half a second
+                if (ground == flash) // half a second
+                    continue;
+                if (ground != quote) { // which has one colour
                     for (const Design::Tint highlight : highlights)
                         check(highlight, 3);
                 }

@@ -222,6 +222,33 @@ private Q_SLOTS:
         QCOMPARE(panel.list().flashID(), second.id);
         QTRY_VERIFY(!panel.list().flashID());
     }
+
+    void a_long_note_is_unfolded_by_key_click_and_menu_and_stays_so()
+    {
+        TestPanel panel;
+        panel.notes.add(u"长"_s + QString(30, u'\n') + u"尾"_s);
+        panel.notes.add(u"短"_s);
+        NoteListView &list = panel.list();
+        const auto height = [&list] {
+            list.grab();
+            return list.rectOf(list.model().rowCount() - 1).height();
+        };
+        const int folded = height();
+        list.goTo(2);
+        QTest::keyClick(&list, Qt::Key_Right);
+        const int whole = height();
+        QVERIFY(whole > 2 * folded);
+        panel.type(u"短"_s);
+        panel.state().setDraft({});
+        QCOMPARE(height(), whole);
+        list.goTo(2);
+        QTest::keyClick(&list, Qt::Key_Left);
+        QCOMPARE(height(), folded);
+        panel.clickPart(2, {RowPart::Kind::Fold});
+        QCOMPARE(height(), whole);
+        panel.choose(2, u"收起"_s);
+        QCOMPARE(height(), folded);
+    }
 };
 
 QTEST_MAIN(PanelTest)

@@ -1,4 +1,4 @@
-// What a row's text looks like: its typeface.
+// What a row's text looks like: its typeface, its side, and how much of it is shown.
 #include "ui/lists/RowLayout.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/looks/Typeface.h"
@@ -102,6 +102,77 @@ private Q_SLOTS:
             for (const QGlyphRun &run : row.text().glyphRuns())
                 QCOMPARE(
                     run.rawFont().familyName() + u' ' + run.rawFont().styleName(), family + u" Regular"_s);
+        }
+    }
+
+    void a_long_text_is_folded_around_its_first_match_data()
+    {
+        using Fold = RowContent::Fold;
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Fold>("fold");
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("foldText");
+        QTest::addColumn<QString>("shown"); // its beginning and its end
+        const auto row = [](const char *name, const QString &text, Fold fold, const QString &query,
+                             const QString &foldText, const QString &shown) {
+            QTest::newRow(name) << text << fold << query << foldText << shown;
+        };
+        const auto lines = [](int count) {
+            QStringList all;
+            for (int i = 1; i <= count; ++i)
+                all.append(u"<%1>"_s.arg(i));
+            return all.join(u'\n');
+        };
+        const QString wide(5000, u'字');
+        row("just short enough", lines(12), Fold::Folded, {}, {}, u"<1>…<12>"_s);
+        row("too long", lines(13), Fold::Folded, {}, u"展开 · 还有 3 行"_s, u"<1>…<10>"_s);
+        row("unfolded", lines(13), Fold::Unfolded, {}, u"收起"_s, u"<1>…<13>"_s);
+        row("short again", lines(3), Fold::Unfolded, {}, {}, u"<1>…<3>"_s);
+        row("never folded", lines(99), Fold::Never, {}, {}, u"<1>…<99>"_s);
+        row("a match in sight", lines(30), Fold::Folded, u" <9> "_s, u"展开 · 还有 20 行"_s, u"<1>…<10>"_s);
+        row("a match beyond", lines(30), Fold::Folded, u"<21"_s, u"展开 · 还有 91 字"_s, u"…<21>…<30>"_s);
+        row("without blanks", wide + u"NEEDLE"_s + wide, Fold::Folded, u"needle"_s, u"展开 · 还有 97"_s,
+            u"…字…字"_s);
+        row("very long", QString(1'000'000, u'a'), Fold::Folded, {}, u"展开 · 还有"_s, u"a…a"_s);
+        row("very long, unfolded", QString(1'000'000, u'a'), Fold::Unfolded, {},
+            u"收起 · 另有 980000 字，编辑时可见"_s, u"a…a…"_s);
+    }
+    void a_long_text_is_folded_around_its_first_match()
+    {
+        QFETCH(QString, text);
+        QFETCH(RowContent::Fold, fold);
+        QFETCH(QString, query);
+        QFETCH(QString, foldText);
+        QFETCH(QString, shown);
+        RowContent content;
+        content.text = text;
+        content.fold = fold;
+        content.query = query;
+        const RowLayout row(content, 340, NoteStyle::palette(false));
+        const QTextLine last = row.text().lineAt(row.text().lineCount() - 1);
+        const QString inLines = row.text().text().first(last.textStart() + last.textLength()).trimmed();
+        QVERIFY2(row.foldText().startsWith(foldText), qPrintable(row.foldText()));
+        QCOMPARE(row.parts().fold.isEmpty(), foldText.isEmpty());
+        const qsizetype middle = shown.indexOf(u'…', 1);
+        QVERIFY2(inLines.startsWith(shown.first(middle)) && inLines.endsWith(shown.sliced(middle + 1)),
+            qPrintable(inLines));
+        QVERIFY(inLines.contains(query.trimmed(), Qt::CaseInsensitive));
+        QVERIFY(inLines.size() <= 20'001);
+    }
+
+    void a_text_begins_at_the_side_of_its_script()
+    {
+        for (const auto &[text, isFromRight] : QMap<QString, bool>{{u"שלום abc"_s, true},
+                 {u"10:30 مرحبا"_s, true}, {u"abc שלום"_s, false},
+                 {u"买牛奶"_s, false}}.asKeyValueRange()) {
+            RowContent content;
+            content.text = text;
+            const RowLayout row(content, 340, NoteStyle::palette(false));
+            const QTextLine line = row.text().lineAt(0);
+            const bool isAtRight = line.naturalTextRect().right() > line.x() + line.width() - 2;
+            const bool isAtLeft = line.naturalTextRect().left() < line.x() + 2;
+            QCOMPARE(isAtRight, isFromRight);
+            QCOMPARE(isAtLeft, !isFromRight);
         }
     }
 };

@@ -45,6 +45,8 @@ protected:
             NoteStyle::fillRounded(painter, rect(), Design::rowRadius,
                 NoteStyle::color(palette(), m_isSelected ? Design::editingGround : Design::hoverGround));
         }
+        if (m_isSelected)
+            NoteStyle::outlineFocus(painter, rect(), Design::rowRadius, palette());
         painter.setPen(NoteStyle::color(palette(), Design::tagText));
         NoteStyle::drawLine(painter, rect().adjusted(Design::edge, 0, -Design::edge, 0), accessibleName());
     }

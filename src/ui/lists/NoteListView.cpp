@@ -116,12 +116,13 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     return actions;
 }
 
-QColor NoteListView::groundOf(int row) const
+RowPainter::Marks NoteListView::marksOf(int row) const
 {
-    if (m_timeline.isHeader(row))
-        return {};
-    const bool isEdited = m_timeline.row(row).id == m_state.editingID();
-    return isEdited ? NoteStyle::color(palette(), Design::editingGround) : QColor();
+    RowPainter::Marks marks = RowListView::marksOf(row);
+    marks.isEdited = !m_timeline.isHeader(row) && m_timeline.row(row).id == m_state.editingID();
+    if (marks.isEdited)
+        marks.ground = NoteStyle::color(palette(), Design::editingGround);
+    return marks;
 }
 
 void NoteListView::showRelated(const Note &note)

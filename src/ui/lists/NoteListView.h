@@ -31,7 +31,7 @@ public:
 
 protected:
     QList<Action> actionsOf(int row) override;
-    [[nodiscard]] QColor groundOf(int row) const override;
+    [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
 
 private:
     void queryDidChange();

@@ -35,6 +35,8 @@ protected:
             NoteStyle::fillRounded(painter, rect(), 2 * Design::grid,
                 NoteStyle::color(palette(), isDown() ? Design::flashGround : Design::editingGround));
         }
+        if (hasFocus())
+            NoteStyle::outlineFocus(painter, rect(), 2 * Design::grid, palette());
         painter.setFont(NoteStyle::font());
         painter.setPen(NoteStyle::color(palette(), Design::text));
         NoteStyle::drawLine(painter, rect().adjusted(2 * Design::grid, 0, -2 * Design::grid, 0), m_text);

@@ -57,5 +57,5 @@ void ReminderModel::fillEntry(RowContent &entry, int number) const
     const ReminderRow &row = this->row(number);
     entry.above = row.isExpired ? L10n::text("已过期 · %@", QStringList{row.when}) : row.when;
     entry.isExpired = row.isExpired;
-    entry.symbols = {{QStringLiteral("bell.slash"), L10n::text("取消提醒"), true}};
+    entry.symbols = {{QStringLiteral("bell.slash"), L10n::text("取消提醒"), true, true}};
 }

@@ -31,6 +31,10 @@ public:
 
 private:
     void refresh() override;
+    [[nodiscard]] QUuid id(int number) const override
+    {
+        return isHeader(number) ? QUuid() : row(number).reminder->id;
+    }
     void fillEntry(RowContent &entry, int row) const override;
 
     NoteStore &m_notes;

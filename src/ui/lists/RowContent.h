@@ -8,19 +8,22 @@ struct RowSymbol {
     QString name;          ///< under resources/symbols
     QString help;          ///< its tooltip
     bool isButton = false; ///< can be clicked
+    bool isQuiet = false;  ///< hardly seen until the row is pointed at or current
     bool operator==(const RowSymbol &) const = default;
 };
 
 /// What a row of a list shows.
 struct RowContent {
-    QString header; ///< a header of one line; the rest but the help is empty then
-    QString help;   ///< what the header or the number stands for: the full date
-    QString lead;   ///< in the column on the left: the time of day
-    QString above;  ///< a small line above the text
-    QString quote;  ///< the quoted note, in a block of one line above the text
-    QString text;   ///< wrapped into as many lines as it needs
-    QString query;  ///< its matches in the text are coloured
-    QString link;   ///< an address or a path in one line below the text
+    enum class Fold { Never, Folded, Unfolded };
+    QString header;          ///< a header of one line; the rest but the help is empty then
+    QString help;            ///< what the header or the number stands for: the full date
+    QString lead;            ///< in the column on the left: the time of day
+    QString above;           ///< a small line above the text
+    QString quote;           ///< the quoted note, in a block of one line above the text
+    QString text;            ///< wrapped into as many lines as it needs
+    Fold fold = Fold::Never; ///< of a text that needs more lines than are useful in a list
+    QString query;           ///< its matches in the text are coloured
+    QString link;            ///< an address or a path in one line below the text
     QString linkSymbol;
     QString marker;   ///< a small line at the bottom
     QString trailing; ///< on the right: a number
@@ -38,7 +41,7 @@ struct RowContent {
 
 /// The part of a row under a point.
 struct RowPart {
-    enum class Kind { None, Body, Quote, Link, Symbol, Button };
+    enum class Kind { None, Body, Fold, Quote, Link, Symbol, Button };
     Kind kind = Kind::None;
     int symbol = -1; ///< index among the symbols, of which some are buttons
     bool operator==(const RowPart &) const = default;

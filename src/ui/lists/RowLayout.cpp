@@ -1,5 +1,7 @@
 #include "ui/lists/RowLayout.h"
 
+#include "foundation/CaseFolding.h"
+#include "text/L10n.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 
@@ -7,6 +9,7 @@
 #include <QTextCharFormat>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 QList<QTextLayout::FormatRange> colours(const QString &text, const QString &query, const QPalette &palette)
@@ -26,19 +29,26 @@ QList<QTextLayout::FormatRange> colours(const QString &text, const QString &quer
     return ranges;
 }
 
-/// An imported text may contain line breaks, and be longer than is useful in a list; the whole of it is shown
-/// when the note is edited.
-QString shownText(const QString &text)
+constexpr int maxLines = 12;    ///< of a text that is never folded
+constexpr int foldedLines = 10; ///< of one that is
+// More than all the lines of a folded text hold; and of an unfolded one, what can be laid out between two
+// keys. The whole of it is shown when the note is edited.
+constexpr qsizetype maxFolded = 2000;
+constexpr qsizetype maxUnfolded = 20'000;
+
+/// Where an excerpt with a match begins: a little before, but not so far that the match is out of sight.
+qsizetype excerptStart(const QString &text, qsizetype match)
 {
-    constexpr qsizetype maxShown = 2000;
-    QString shown = text.size() > maxShown ? text.first(maxShown) + QChar(0x2026) : text;
-    return shown.replace(u'\n', QChar::LineSeparator);
+    qsizetype start = std::max<qsizetype>(0, match - 40);
+    if (const qsizetype lineBreak = text.sliced(start, match - start).lastIndexOf(u'\n'); lineBreak >= 0)
+        start += lineBreak + 1;
+    return start > 0 && text[start].isLowSurrogate() ? start - 1 : start;
 }
 } // namespace
 
 RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     : m_content(std::move(content))
-    , m_text(shownText(m_content.text), NoteStyle::fontFor(m_content.text, NoteStyle::font()))
+    , m_text(QString(), NoteStyle::fontFor(m_content.text, NoteStyle::font()))
 {
     if (m_content.isHeader()) {
         m_height = Design::headerHeight;
@@ -67,20 +77,17 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     m_text.setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_text.setTextOption(option);
-    m_text.setFormats(colours(m_text.text(), m_content.query, palette));
-    const int textTop = y;
-    int firstLine = 0;
-    m_text.beginLayout();
-    for (QTextLine line = m_text.createLine(); line.isValid(); line = m_text.createLine()) {
-        line.setLineWidth(textWidth);
-        line.setPosition({qreal(left), qreal(y)});
-        y += int(line.height());
-        if (firstLine == 0)
-            firstLine = int(line.height());
+    if (m_content.text.isRightToLeft()) {
+        option.setTextDirection(Qt::RightToLeft);
+        option.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
     }
-    m_text.endLayout();
-
+    m_text.setTextOption(option);
+    const int textTop = y;
+    fold({left, y}, textWidth, palette);
+    const QTextLine last = m_text.lineAt(m_text.lineCount() - 1);
+    const int firstLine = int(m_text.lineAt(0).height());
+    y = int(last.y() + last.height());
+    addSmallLine(m_foldText, m_parts.fold);
     addSmallLine(m_content.link, m_parts.link);
     addSmallLine(m_content.marker, m_parts.marker);
     m_height = y + Design::rowPadding;
@@ -94,11 +101,73 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
         m_parts.symbols.append(symbol.translated(i * symbolStep, 0));
 }
 
+void RowLayout::showText(qsizetype from, qsizetype maxLength, const QPalette &palette)
+{
+    constexpr QChar ellipsis(0x2026);
+    const QStringView rest = QStringView(m_content.text).sliced(from);
+    QString text = rest.first(std::min(maxLength, rest.size())).toString();
+    if (from > 0)
+        text.prepend(ellipsis);
+    if (rest.size() > maxLength)
+        text.append(ellipsis);
+    m_text.setText(text.replace(u'\n', QChar::LineSeparator));
+    m_text.setFormats(colours(m_text.text(), m_content.query, palette));
+}
+
+int RowLayout::breakLines(QPoint topLeft, int width, int maxCount)
+{
+    int y = topLeft.y();
+    m_text.beginLayout();
+    for (int count = 0; count < maxCount; ++count) {
+        QTextLine line = m_text.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        line.setPosition({qreal(topLeft.x()), qreal(y)});
+        y += int(line.height());
+    }
+    m_text.endLayout();
+    return m_text.lineCount();
+}
+
+void RowLayout::fold(QPoint topLeft, int width, const QPalette &palette)
+{
+    constexpr int all = std::numeric_limits<int>::max();
+    const qsizetype size = m_content.text.size();
+    const bool isUnfolded = m_content.fold == RowContent::Fold::Unfolded;
+    showText(0, isUnfolded ? maxUnfolded : maxFolded, palette);
+    int lines = breakLines(topLeft, width, all);
+    if (m_content.fold == RowContent::Fold::Never || (lines <= maxLines && size <= maxFolded))
+        return;
+    if (isUnfolded) {
+        const QString left = QString::number(size - maxUnfolded);
+        m_foldText = size <= maxUnfolded ? L10n::text("收起")
+                                         : L10n::text("收起 · 另有 %@ 字，编辑时可见", QStringList{left});
+        return;
+    }
+    const auto end = [&] {
+        return lines > foldedLines ? m_text.lineAt(foldedLines).textStart() : m_text.text().size();
+    };
+    const QString query = m_content.query.trimmed();
+    const qsizetype match = query.isEmpty() ? -1 : CaseFolding::indexOf(m_content.text, query);
+    const qsizetype from = match + query.size() > end() ? excerptStart(m_content.text, match) : 0;
+    if (from > 0) {
+        showText(from, maxFolded, palette);
+        lines = breakLines(topLeft, width, all);
+    }
+    const qsizetype hidden = size - end() + (from > 0); // without the ellipsis
+    m_foldText = from == 0 && size <= maxFolded
+                     ? L10n::text("展开 · 还有 %@ 行", QStringList{QString::number(lines - foldedLines)})
+                     : L10n::text("展开 · 还有 %@ 字", QStringList{QString::number(hidden)});
+    if (lines > foldedLines)
+        breakLines(topLeft, width, foldedLines);
+}
+
 int RowLayout::estimatedHeight(const QString &text, int width)
 {
     constexpr int lineHeight = 20;
     const qsizetype perLine = std::max(1, (width - 90) / Design::bodySize);
-    const qsizetype lines = std::clamp<qsizetype>(text.size() / perLine + 1, 1, 100);
+    const qsizetype lines = std::clamp<qsizetype>(text.size() / perLine + 1, 1, maxLines);
     return int(lines) * lineHeight + 2 * Design::rowPadding;
 }
 
@@ -113,6 +182,8 @@ RowPart RowLayout::partAt(QPoint point) const
     }
     if (m_parts.quote.contains(point))
         return {RowPart::Kind::Quote};
+    if (m_parts.fold.contains(point))
+        return {RowPart::Kind::Fold};
     if (m_parts.link.contains(point))
         return {RowPart::Kind::Link};
     return {RowPart::Kind::Body};

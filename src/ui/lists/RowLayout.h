@@ -25,6 +25,7 @@ public:
         QRect lead;
         QRect above;
         QRect quote;
+        QRect fold; ///< empty too where all of the text is shown anyway
         QRect link;
         QRect marker;
         QRect trailing;
@@ -33,11 +34,20 @@ public:
     // In the row's own coordinates.
     [[nodiscard]] const Parts &parts() const { return m_parts; }
     [[nodiscard]] const QTextLayout &text() const { return m_text; }
+    [[nodiscard]] const QString &foldText() const { return m_foldText; }
     [[nodiscard]] RowPart partAt(QPoint point) const;
 
 private:
+    /// A part of the text, as long as is useful; what is left out is marked.
+    void showText(qsizetype from, qsizetype maxLength, const QPalette &palette);
+    /// Breaks the text into lines; the number of them.
+    int breakLines(QPoint topLeft, int width, int maxLines);
+    /// Decides which part of the text is shown, and breaks it.
+    void fold(QPoint topLeft, int width, const QPalette &palette);
+
     RowContent m_content;
     QTextLayout m_text;
     Parts m_parts;
+    QString m_foldText;
     int m_height = 0;
 };

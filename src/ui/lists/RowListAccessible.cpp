@@ -95,7 +95,7 @@ private:
             {pressAction(), Qt::Key_Return, [&view, row = row()] { view.activateRow(row); }},
             {showMenuAction(), Qt::Key_Menu, [&view, row = row()] { view.showMenuOfRow(row); }},
         };
-        actions.append(view.actionsOf(row()));
+        actions.append(view.allActionsOf(row()));
         actions.removeIf([](const Action &action) { return action.title.isEmpty(); });
         return actions;
     }

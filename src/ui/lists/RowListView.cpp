@@ -1,5 +1,6 @@
 #include "ui/lists/RowListView.h"
 
+#include "text/L10n.h"
 #include "ui/lists/RowListAccessible.h"
 #include "ui/lists/RowModel.h"
 #include "ui/looks/MenuLooks.h"
@@ -116,10 +117,27 @@ void RowListView::hideEvent(QHideEvent *event)
 
 // Keys
 
+QList<RowListView::Action> RowListView::allActionsOf(int row)
+{
+    QList<Action> actions = actionsOf(row);
+    const RowLayout &layout = layoutOf(row);
+    if (!layout.parts().fold.isEmpty()) {
+        const bool isFolded = layout.content().fold == RowContent::Fold::Folded;
+        const auto toggle = [this, index = QPersistentModelIndex(model().index(row)), isFolded] {
+            if (index.isValid())
+                setUnfolded(index.row(), isFolded);
+        };
+        actions.append(Action());
+        actions.append({isFolded ? L10n::text("展开") : L10n::text("收起"),
+            isFolded ? Qt::Key_Right : Qt::Key_Left, toggle, RowPart::Kind::Fold});
+    }
+    return actions;
+}
+
 std::function<void()> RowListView::actionOf(int row, const QKeySequence &key)
 {
     if (isEntry(row)) {
-        for (const Action &action : actionsOf(row)) {
+        for (const Action &action : allActionsOf(row)) {
             if (!action.title.isEmpty() && action.key == key)
                 return action.run;
         }
@@ -203,12 +221,15 @@ RowListView::Hit RowListView::hitAt(QPoint point) const
 
 RowPainter::Marks RowListView::marksOf(int row) const
 {
-    QColor ground = groundOf(row);
-    if (!ground.isValid() && row == m_current)
-        ground = NoteStyle::color(palette(), Design::editingGround);
-    else if (!ground.isValid() && row == m_hover.row)
-        ground = NoteStyle::color(palette(), Design::hoverGround);
-    return {ground, row == m_hover.row ? m_hover.part : RowPart()};
+    RowPainter::Marks marks;
+    marks.isCurrent = row == m_current;
+    if (marks.isCurrent)
+        marks.ground = NoteStyle::color(palette(), Design::editingGround);
+    else if (row == m_hover.row)
+        marks.ground = NoteStyle::color(palette(), Design::hoverGround);
+    if (row == m_hover.row)
+        marks.hovered = m_hover.part;
+    return marks;
 }
 
 void RowListView::setHover(const Hit &hover)
@@ -220,7 +241,7 @@ void RowListView::setHover(const Hit &hover)
     m_hover = hover;
     const RowPart::Kind kind = hover.part.kind;
     const bool isLink =
-        kind == RowPart::Kind::Quote || kind == RowPart::Kind::Link || kind == RowPart::Kind::Button;
+        kind != RowPart::Kind::None && kind != RowPart::Kind::Body && kind != RowPart::Kind::Symbol;
     viewport()->setCursor(isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
@@ -250,7 +271,7 @@ void RowListView::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || pressed.row < 0 || pressed != hitAt(event->position().toPoint()))
         return;
     m_clicked = pressed;
-    for (const Action &action : actionsOf(pressed.row)) {
+    for (const Action &action : allActionsOf(pressed.row)) {
         if (action.part != RowPart::Kind::None && action.part == pressed.part.kind) {
             action.run();
             return;
@@ -280,7 +301,7 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
     goTo(row);
     QMenu *menu = MenuLooks::newMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const Action &action : actionsOf(row)) {
+    for (const Action &action : allActionsOf(row)) {
         if (action.title.isEmpty()) {
             menu->addSeparator();
             continue;
@@ -300,12 +321,13 @@ bool RowListView::viewportEvent(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return RowScrollArea::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
+    const int row = rowAt(help->pos());
     const Hit hit = hitAt(help->pos());
-    if (hit.part.symbol >= 0) {
-        QToolTip::showText(help->globalPos(), model().content(hit.row).symbols[hit.part.symbol].help,
-            viewport(), rectOf(hit.row));
-    } else {
-        QToolTip::hideText();
-    }
+    const RowContent content = row < 0 ? RowContent() : model().content(row);
+    QToolTip::showText(help->globalPos(),
+        content.isHeader()     ? content.help
+        : hit.part.symbol >= 0 ? content.symbols[hit.part.symbol].help
+                               : QString(),
+        viewport(), content.isHeader() ? QRect() : rectOf(row));
     return true;
 }

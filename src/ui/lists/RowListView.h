@@ -33,7 +33,7 @@ public:
         RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
         bool isDestructive = false;
     };
-    [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0; ///< in the order of its menu
+    [[nodiscard]] QList<Action> allActionsOf(int row); ///< in the order of its menu
 
     // Also called by screen readers. A header does nothing.
     void activateRow(int row);
@@ -52,8 +52,7 @@ Q_SIGNALS:
     void left(); ///< by an arrow key beyond the first or last row
 
 protected:
-    [[nodiscard]] virtual QColor groundOf(int) const { return {}; } ///< a colour behind the row
-
+    [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0; ///< those that are the list's own
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
     void didInsertRows(int first, int count) override;
     void didRemoveRows(int first, int count) override;

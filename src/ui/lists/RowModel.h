@@ -3,6 +3,8 @@
 #include "ui/lists/RowContent.h"
 
 #include <QAbstractListModel>
+#include <QSet>
+#include <QUuid>
 
 #include <algorithm>
 #include <iterator>
@@ -31,11 +33,23 @@ public:
         RowContent content;
         (isHeader(row) ? content.header : content.text) = text(row);
         content.help = help(row);
+        if (const QUuid of = id(row); !of.isNull()) {
+            content.fold = m_unfolded.contains(of) ? RowContent::Fold::Unfolded : RowContent::Fold::Folded;
+        }
         if (!isHeader(row))
             fillEntry(content, row);
         return content;
     }
     [[nodiscard]] QString spokenText(int row) const { return content(row).spoken(); }
+    /// Stays so while other rows are filtered.
+    void setUnfolded(int row, bool isUnfolded)
+    {
+        if (isUnfolded)
+            m_unfolded.insert(id(row));
+        else
+            m_unfolded.remove(id(row));
+        Q_EMIT dataChanged(index(row), index(row));
+    }
     [[nodiscard]] virtual bool isHeader(int row) const = 0;
     [[nodiscard]] virtual QString text(int row) const = 0; ///< the header, or the text
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
@@ -44,6 +58,7 @@ public:
     }
 
 protected:
+    [[nodiscard]] virtual QUuid id(int) const { return {}; } ///< of an entry with a text that may be folded
     [[nodiscard]] virtual QString help(int) const { return {}; } ///< as in RowContent
     virtual void fillEntry(RowContent &, int) const {}           ///< with all that it shows beside its text
     virtual void refresh() = 0; ///< to the present state of what the rows are made from
@@ -55,6 +70,7 @@ protected:
     }
 
 private:
+    QSet<QUuid> m_unfolded;
     bool m_isSeen = true;
     bool m_isStale = false;
 };

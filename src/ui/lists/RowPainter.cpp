@@ -36,6 +36,14 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
         flash.setAlphaF(float(marks.flash));
         NoteStyle::fillRounded(m_painter, ground, Design::rowRadius, flash);
     }
+    const QColor accent = NoteStyle::color(m_palette, Design::tagText);
+    if (marks.isEdited) {
+        const QRect edge(ground.left(), ground.top() + Design::grid, Design::accentWidth,
+            ground.height() - 2 * Design::grid);
+        NoteStyle::fillRounded(m_painter, edge, 1, accent);
+    }
+    if (marks.isCurrent)
+        NoteStyle::outlineFocus(m_painter, ground, Design::rowRadius, m_palette);
     const QColor text = NoteStyle::color(m_palette, Design::text);
     const RowLayout::Parts &parts = layout.parts();
     m_painter.translate(rect.topLeft());
@@ -47,44 +55,60 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
     NoteStyle::drawLine(m_painter, parts.above, content.above);
     NoteStyle::drawLine(m_painter, parts.marker, content.marker);
     NoteStyle::drawLine(m_painter, parts.trailing, content.trailing, Qt::AlignRight);
-    if (!content.link.isEmpty())
-        paintLink(parts.link, content, marks.hovered.kind == RowPart::Kind::Link);
+    if (marks.isEdited) {
+        constexpr int size = Design::pencilSize;
+        const QRect pencil(
+            parts.lead.right() + 1 - size, parts.lead.top() + (parts.lead.height() - size) / 2, size, size);
+        Symbol::paint(m_painter, pencil, QStringLiteral("pencil"), accent);
+    }
+    if (!content.link.isEmpty()) {
+        QRect line = parts.link;
+        if (!content.linkSymbol.isEmpty()) {
+            constexpr int size = Design::smallSymbolSize;
+            Symbol::paint(m_painter, {line.left(), line.top() + (line.height() - size) / 2, size, size},
+                content.linkSymbol, m_meta);
+            line.adjust(size + Design::grid, 0, 0, 0);
+        }
+        paintAction(line, content.link, marks.hovered.kind == RowPart::Kind::Link);
+    }
+    if (!parts.fold.isEmpty())
+        paintAction(parts.fold, layout.foldText(), marks.hovered.kind == RowPart::Kind::Fold);
+    const bool isAwake = marks.isCurrent || marks.hovered.kind != RowPart::Kind::None;
     for (qsizetype i = 0; i < content.symbols.size(); ++i) {
         const bool isHovered = marks.hovered == RowPart{RowPart::Kind::Button, int(i)};
-        Symbol::paint(m_painter, parts.symbols[i], content.symbols[i].name, isHovered ? text : m_meta);
+        const RowSymbol &symbol = content.symbols[i];
+        const bool isQuiet = symbol.isQuiet && !isAwake;
+        Symbol::paint(m_painter, parts.symbols[i], symbol.name,
+            isQuiet     ? NoteStyle::color(m_palette, Design::hairline)
+            : isHovered ? text
+                        : m_meta);
     }
     m_painter.setPen(content.isExpired ? m_meta : text);
-    layout.text().draw(&m_painter, {});
+    layout.text().draw(&m_painter, {}, {}, m_painter.clipBoundingRect());
     m_painter.translate(-rect.topLeft());
 }
 
 void RowPainter::paintQuote(const QRect &block, const QString &quote, bool isHovered)
 {
     constexpr int size = Design::smallSymbolSize;
-    NoteStyle::fillRounded(m_painter, block, Design::grid,
-        NoteStyle::color(m_palette, isHovered ? Design::hairline : Design::quoteGround));
+    const QColor color = isHovered ? NoteStyle::color(m_palette, Design::text) : m_meta;
+    NoteStyle::fillRounded(m_painter, block, Design::grid, NoteStyle::color(m_palette, Design::quoteGround));
     Symbol::paint(m_painter,
         {block.left() + Design::grid, block.top() + (block.height() - size) / 2, size, size},
-        QStringLiteral("text.quote"), m_meta);
+        QStringLiteral("text.quote"), color);
     m_painter.setFont(NoteStyle::quoteFont());
-    m_painter.setPen(m_meta);
+    m_painter.setPen(color);
     NoteStyle::drawLine(
         m_painter, block.adjusted(size + 2 * Design::grid, 0, -Design::grid, 0), quote.simplified());
 }
 
-void RowPainter::paintLink(QRect line, const RowContent &content, bool isHovered)
+void RowPainter::paintAction(const QRect &line, const QString &text, bool isHovered)
 {
-    if (!content.linkSymbol.isEmpty()) {
-        constexpr int size = Design::smallSymbolSize;
-        Symbol::paint(m_painter, {line.left(), line.top() + (line.height() - size) / 2, size, size},
-            content.linkSymbol, m_meta);
-        line.adjust(size + Design::grid, 0, 0, 0);
-    }
     QFont font = NoteStyle::quoteFont();
     font.setUnderline(isHovered);
     m_painter.setFont(font);
     m_painter.setPen(NoteStyle::color(m_palette, Design::tagText));
-    NoteStyle::drawLine(m_painter, line, content.link);
+    NoteStyle::drawLine(m_painter, line, text);
 }
 
 void RowPainter::paintEmptyState(const QRect &page, int middle, const EmptyState &state)
@@ -117,6 +141,7 @@ void RowPainter::paintFading(const QRect &rect, const std::function<void(QPainte
     image.fill(Qt::transparent);
     QPainter onImage(&image);
     onImage.translate(-rect.topLeft());
+    onImage.setClipRect(rect);
     paint(onImage);
     onImage.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     QLinearGradient fade(rect.topLeft(), rect.bottomLeft());

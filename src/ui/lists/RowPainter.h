@@ -15,6 +15,8 @@ public:
         QColor ground; ///< behind the row; invalid for none
         RowPart hovered;
         double flash = 0; ///< its strength, up to 1
+        bool isCurrent = false;
+        bool isEdited = false;
     };
     /// What a list without rows shows.
     struct EmptyState {
@@ -34,7 +36,7 @@ public:
 
 private:
     void paintQuote(const QRect &block, const QString &quote, bool isHovered);
-    void paintLink(QRect line, const RowContent &content, bool isHovered);
+    void paintAction(const QRect &line, const QString &text, bool isHovered);
 
     QPainter &m_painter;
     const QPalette &m_palette;

@@ -195,6 +195,9 @@ QRect RowScrollArea::rectOf(int row) const
 
 int RowScrollArea::rowAt(QPoint point) const
 {
+    const PinnedHeader header = pinnedHeader();
+    if (header.row >= 0 && point.y() >= 0 && point.y() < header.top + Design::headerHeight)
+        return header.row;
     const int row = m_geometry.rowAt(point.y() + m_geometry.offset());
     return rectOf(row).contains(point) ? row : -1;
 }
@@ -216,6 +219,16 @@ int RowScrollArea::rowPagesAway(int row, int pages)
 }
 
 // Scrolling
+
+void RowScrollArea::setUnfolded(int row, bool isUnfolded)
+{
+    const int top = rectOf(row).top();
+    m_model.setUnfolded(row, isUnfolded);
+    measure(row, row);
+    moveTo(m_geometry.top(row) - top);
+    if (!isUnfolded)
+        scrollTo(row);
+}
 
 void RowScrollArea::moveTo(int offset)
 {

@@ -45,6 +45,7 @@ protected:
     virtual void didRemoveRows(int first, int count);
     virtual void didMoveRows() {} ///< within the viewport, by scrolling or a change
 
+    void setUnfolded(int row, bool isUnfolded); ///< its beginning stays where it is, or is shown
     void forgetHeights(); ///< of rows whose content has changed without the model having announced it
     [[nodiscard]] const RowLayout &layoutOf(int row) const; ///< valid until the next call
     [[nodiscard]] int rowPagesAway(int row, int pages);

@@ -62,6 +62,7 @@ public:
     [[nodiscard]] QModelIndex indexOf(QUuid noteID) const; ///< invalid when the note is not shown
 
 private:
+    [[nodiscard]] QUuid id(int number) const override { return row(number).id; }
     [[nodiscard]] QString help(int row) const override;
     void fillEntry(RowContent &entry, int row) const override;
     void refresh() override; ///< also while the panel is hidden, so that it opens at once

@@ -28,6 +28,10 @@ public:
 
 private:
     void refresh() override;
+    [[nodiscard]] QUuid id(int number) const override
+    {
+        return isHeader(number) ? QUuid() : row(number).note->id;
+    }
     [[nodiscard]] QString help(int row) const override;
     void fillEntry(RowContent &entry, int row) const override;
 

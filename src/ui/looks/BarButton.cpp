@@ -25,9 +25,7 @@ void BarButton::paintEvent(QPaintEvent *)
             NoteStyle::color(palette(), isMarked ? Design::editingGround : Design::hoverGround));
     }
     if (hasFocus()) {
-        painter.setPen(QPen(NoteStyle::color(palette(), Design::focusOutline), Design::focusWidth));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), Design::rowRadius, Design::rowRadius);
+        NoteStyle::outlineFocus(painter, rect().adjusted(1, 1, -1, -1), Design::rowRadius, palette());
     }
     const int inset = (Design::buttonSize - Design::buttonSymbolSize) / 2;
     Symbol::paint(painter, {inset, inset, Design::buttonSymbolSize, Design::buttonSymbolSize}, m_symbol,

@@ -38,6 +38,8 @@ inline constexpr int emptySymbolSize = 32;
 inline constexpr int menuRadius = 8;
 inline constexpr int fieldHeight = 32;
 inline constexpr int flatButtonHeight = 24;
+inline constexpr int accentWidth = 3; ///< of the edge of the row being edited
+inline constexpr int pencilSize = 10;
 inline constexpr int focusWidth = 2; ///< of the outline around what has the focus
 inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;
@@ -59,7 +61,7 @@ inline constexpr Tint matchText{0xffb87f29, 0xffdbad61};
 inline constexpr Tint destructiveText{0xffb3524d, 0xffd68580};
 inline constexpr Tint ground{0xfffafaf8, 0xff24262a};
 inline constexpr Tint fieldGround{0xffffffff, 0xff303338}; ///< the capsule of the text field
-inline constexpr Tint quoteGround{0xfff0f0ed, 0xff303338}; ///< behind a quoted note
+inline constexpr Tint quoteGround{0xffe3e3df, 0xff3a3e45}; ///< behind a quoted note
 inline constexpr Tint hoverGround{0xfff1f1ee, 0xff2f3238}; ///< behind the row or button under the pointer
 inline constexpr Tint hairline{0xffd9d9d5, 0xff3d4046};
 inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642}; ///< behind the note being edited

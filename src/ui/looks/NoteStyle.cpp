@@ -86,7 +86,7 @@ QPalette NoteStyle::palette(bool isDark)
     set(QPalette::Base, Design::fieldGround);
     set(QPalette::AlternateBase, Design::hoverGround);
     set(QPalette::ToolTipBase, Design::fieldGround);
-    set(QPalette::Button, Design::quoteGround);
+    set(QPalette::Button, Design::hoverGround);
     set(QPalette::Mid, Design::hairline);
     set(QPalette::Highlight, Design::tagText);
     set(QPalette::HighlightedText, Design::ground);
@@ -157,4 +157,13 @@ void NoteStyle::fillRounded(QPainter &painter, const QRectF &rect, int radius, c
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(rect, radius, radius);
+}
+
+void NoteStyle::outlineFocus(QPainter &painter, const QRectF &rect, int radius, const QPalette &palette)
+{
+    constexpr qreal inset = Design::focusWidth / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color(palette, Design::focusOutline), Design::focusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
 }

@@ -34,4 +34,6 @@ void drawLine(
     QPainter &painter, const QRect &rect, const QString &text, Qt::Alignment alignment = Qt::AlignLeft);
 /// A ground with round corners and no outline.
 void fillRounded(QPainter &painter, const QRectF &rect, int radius, const QColor &color);
+/// Around what has the focus.
+void outlineFocus(QPainter &painter, const QRectF &rect, int radius, const QPalette &palette);
 } // namespace NoteStyle
