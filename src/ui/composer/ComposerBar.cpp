@@ -26,11 +26,15 @@ ComposerBar::ComposerBar(const QString &symbol, const QString &dismissHelp, QWid
     layout->addWidget(dismiss);
 }
 
-void ComposerBar::setText(const QString &text)
+void ComposerBar::setText(const QString &title, const QString &content)
 {
-    m_text = text;
+    const bool isNews = isVisible() && title != m_title;
+    m_title = title;
+    m_text = content.isEmpty() ? title : title + QStringLiteral(" · ") + content;
     setAccessibleName(m_text);
     update();
+    if (isNews)
+        WidgetRole::announce(*this, QAccessible::ObjectShow);
 }
 
 void ComposerBar::paintEvent(QPaintEvent *)

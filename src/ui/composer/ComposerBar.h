@@ -11,7 +11,8 @@ public:
     /// @p dismissHelp is the tooltip of the button.
     ComposerBar(const QString &symbol, const QString &dismissHelp, QWidget *parent = nullptr);
 
-    void setText(const QString &text);
+    /// Screen readers read it out when the bar appears, and again when the title changes.
+    void setText(const QString &title, const QString &content = {});
 
 Q_SIGNALS:
     void dismissed();
@@ -21,5 +22,6 @@ protected:
 
 private:
     QString m_symbol;
+    QString m_title;
     QString m_text;
 };

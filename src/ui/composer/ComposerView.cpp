@@ -243,9 +243,13 @@ void ComposerView::updateReminderPreview()
     const auto reminder = isOff ? std::nullopt : detectedReminder();
     if (reminder) {
         const Instant now = m_clock.now();
-        const QString when = NoteFormatting::reminderTimeString(reminder->fireAt, now, m_clock.calendar());
-        m_reminderBar->setText(reminder->fireAt > now ? when + QStringLiteral(" · ") + reminder->content
-                                                      : L10n::text("时间已过，回车仅保存笔记"));
+        if (reminder->fireAt > now) {
+            m_reminderBar->setText(
+                NoteFormatting::reminderTimeString(reminder->fireAt, now, m_clock.calendar()),
+                reminder->content);
+        } else {
+            m_reminderBar->setText(L10n::text("时间已过，回车仅保存笔记"));
+        }
     }
     m_reminderBar->setVisible(reminder.has_value());
 }
