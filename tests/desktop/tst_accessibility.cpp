@@ -185,15 +185,21 @@ private Q_SLOTS:
     {
         const QString oats = u"list item: 09:30，oat milk, not cow #shop，引用 明天下午3点 买牛奶 #家"_s;
         const QString milk = u"list item: 09:00，明天下午3点 买牛奶 #家，明天 15:00 提醒"_s;
+        const QString quote = u"notification: 引用 明天下午3点 买牛奶 #家"_s;
         const QString link =
             u"list item: 08:00，https://example.org/a read this #家，https://example.org/a"_s;
         const QString yesterday = u"heading: 2026年3月1日 星期日"_s;
         const QString today = u"heading: 今天 · 2026年3月2日 星期一"_s;
+        const QString shop = u"list item: #shop，1 条笔记"_s;
         struct Step {
             QList<std::uint32_t> keys;
             QStringList told;
+            QString typed = {};
         };
         const QList<Step> steps = {
+            {{}, {u"notification: 明天 09:00 · 明天"_s}, u"明天"_s},
+            {{}, {u"notification: 明天 15:00 · 明天下午"_s}, u"下午"_s},
+            {{Keysym::escape}, {}},
             {{Keysym::shift, Keysym::digit3}, {u"list item: #shop"_s}}, // a hash sign
             {{Keysym::down}, {u"list item: #家"_s}},
             {{Keysym::escape}, {u"text: 笔记"_s}},
@@ -206,19 +212,26 @@ private Q_SLOTS:
             {{Keysym::down}, {u"menu item: 引用\tCtrl+R"_s}},
             {{Keysym::down}, {u"menu item: 复制\tCtrl+C"_s}},
             {{Keysym::escape}, {u"list: 笔记"_s, milk}},
+            {{Keysym::control, u'l'}, {u"notification: 暂无相关笔记"_s, u"dialog: 相关笔记"_s}},
+            {{Keysym::escape}, {milk}},
+            {{Keysym::control, u'r'}, {quote, u"text: 笔记"_s}},
+            {{Keysym::down}, {u"list: 笔记"_s, oats}},
+            {{Keysym::down}, {milk}},
             {{Keysym::remove}, {u"notification: 已移到回收站"_s, yesterday, link}},
             {{Keysym::control, Keysym::digit2}, {u"text: 筛选标签"_s}},
-            {{Keysym::control, Keysym::digit1}, {u"label: 笔记"_s, u"text: 笔记"_s}},
+            {{Keysym::control, Keysym::digit1}, {quote, u"label: 笔记"_s, u"text: 笔记"_s}},
             {{Keysym::control, Keysym::digit2}, {u"label: 标签"_s, u"text: 筛选标签"_s}},
-            {{Keysym::down}, {u"list: 标签"_s, u"list item: #shop，1 条笔记"_s}},
+            {{Keysym::down}, {u"list: 标签"_s, shop}},
             {{Keysym::remove}, {u"dialog: 删除标签「#shop」？"_s, u"push button: 取消"_s}},
             {{Keysym::tab}, {u"push button: 删除"_s}},
-            {{Keysym::escape}, {u"list: 标签"_s, u"list item: #shop，1 条笔记"_s}},
+            {{Keysym::escape}, {u"list: 标签"_s, shop}},
+            {{Keysym::f2}, {u"text: 标签名"_s}},
         };
         Stage stage;
-        for (const auto &[keys, told] : steps) {
+        for (const auto &[keys, told, typed] : steps) {
             stage.press(keys);
-            QTRY_COMPARE(stage.told(), told);
+            stage.desktop.screen().type(typed);
+            QTRY_COMPARE(stage.told().join(u'\n'), told.join(u'\n'));
         }
     }
 

@@ -427,6 +427,14 @@ private Q_SLOTS:
         QVERIFY(!QAccessible::accessibleInterface(id));
         QCOMPARE(interface->focusChild()->text(QAccessible::Name), u"c"_s);
         QCOMPARE(interface->childCount(), 3);
+        model.set(rowsOfAllHeights(1, 60));
+        const auto shows = [interface](int row) {
+            const QAccessible::State state = interface->child(row)->state();
+            return !state.invisible && !state.offscreen;
+        };
+        QVERIFY(shows(list.lastRowInView()) && !shows(list.lastRowInView() + 1));
+        list.hide();
+        QVERIFY(!shows(0));
     }
 
     void painting_ends_whether_or_not_the_rows_fill_the_view()

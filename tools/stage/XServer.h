@@ -92,6 +92,7 @@ constexpr std::uint32_t up = 0xff52;
 constexpr std::uint32_t down = 0xff54;
 constexpr std::uint32_t menu = 0xff67;
 constexpr std::uint32_t f1 = 0xffbe;
+constexpr std::uint32_t f2 = 0xffbf;
 constexpr std::uint32_t remove = 0xffff;
 constexpr std::uint32_t pageDown = 0xff56;
 constexpr std::uint32_t home = 0xff50;

@@ -78,8 +78,11 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
         L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette(), Design::text), this));
     const QList<Note> related = search.relatedNotes(note, maxRelated);
     if (related.isEmpty()) {
-        layout->addWidget(label(L10n::text("暂无相关笔记"), NoteStyle::font(),
-            NoteStyle::color(palette(), Design::metaText), this));
+        QLabel *none = label(L10n::text("暂无相关笔记"), NoteStyle::font(),
+            NoteStyle::color(palette(), Design::metaText), this);
+        none->setAccessibleName(none->text());
+        WidgetRole::set(*none, QAccessible::Notification);
+        layout->addWidget(none);
     }
     for (const Note &each : related) {
         auto *button = new RelatedNoteButton(each.text, this);

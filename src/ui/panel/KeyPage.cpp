@@ -89,6 +89,7 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     }
 
     auto *scroll = new QScrollArea(&sheet);
+    scroll->setAccessibleName(sheet.accessibleName());
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
