@@ -35,6 +35,7 @@ PanelController::PanelController(
     , m_makeContent(std::move(makeContent))
     , m_iconRect(std::move(iconRect))
 {
+    qApp->installEventFilter(this);
     constexpr std::chrono::milliseconds checkInterval{100};
     m_positionCheck.setSingleShot(true);
     m_positionCheck.setInterval(checkInterval);
@@ -42,6 +43,16 @@ PanelController::PanelController(
 }
 
 PanelController::~PanelController() = default;
+
+bool PanelController::eventFilter(QObject *watched, QEvent *event)
+{
+    // The panel, or a report while it is closed. Before the desktop sees it.
+    if (event->type() == QEvent::Show && X11::connection()) {
+        if (const auto *window = qobject_cast<FloatingWindow *>(watched))
+            X11::keepOutOfTaskbars(*window->windowHandle());
+    }
+    return false;
+}
 
 void PanelController::prepare()
 {
@@ -107,8 +118,6 @@ void PanelController::open()
     }
     makeWindow(); // anew if a compositor has come or gone
     moveToIcon();
-    if (X11::connection())
-        X11::keepOutOfTaskbars(*m_window->windowHandle());
     m_window->show();
     m_window->activateWindow();
     if (QGuiApplication::focusWindow() == m_window->windowHandle())

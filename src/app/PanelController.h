@@ -36,6 +36,9 @@ public:
     [[nodiscard]] ContentView *content();
     [[nodiscard]] PanelState &state();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     [[nodiscard]] bool isOpen() const;
     void makeWindow();
