@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 /// The panel is built after the desktop has received the icon, unless it is opened before.
@@ -86,6 +87,7 @@ void QuilletApp::applyAppearance()
                             ? isDarkByPalette
                             : m_appearance.scheme() == Appearance::Scheme::Dark;
     QApplication::setPalette(NoteStyle::palette(isDark));
+    QToolTip::setFont(NoteStyle::quoteFont());
 }
 
 void QuilletApp::presentMissedReminders()

@@ -51,16 +51,17 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
         paintQuote(parts.quote, content.quote, marks.hovered.kind == RowPart::Kind::Quote);
     m_painter.setFont(NoteStyle::quoteFont());
     m_painter.setPen(m_meta);
-    NoteStyle::drawLine(m_painter, parts.lead, content.lead);
+    if (marks.isEdited) {
+        constexpr int size = Design::symbolSize;
+        const QRect pencil(parts.lead.left() + Design::grid,
+            parts.lead.top() + (parts.lead.height() - size) / 2, size, size);
+        Symbol::paint(m_painter, pencil, QStringLiteral("pencil"), accent);
+    } else {
+        NoteStyle::drawLine(m_painter, parts.lead, content.lead);
+    }
     NoteStyle::drawLine(m_painter, parts.above, content.above);
     NoteStyle::drawLine(m_painter, parts.marker, content.marker);
     NoteStyle::drawLine(m_painter, parts.trailing, content.trailing, Qt::AlignRight);
-    if (marks.isEdited) {
-        constexpr int size = Design::pencilSize;
-        const QRect pencil(
-            parts.lead.right() + 1 - size, parts.lead.top() + (parts.lead.height() - size) / 2, size, size);
-        Symbol::paint(m_painter, pencil, QStringLiteral("pencil"), accent);
-    }
     if (!content.link.isEmpty()) {
         QRect line = parts.link;
         if (!content.linkSymbol.isEmpty()) {

@@ -39,7 +39,6 @@ inline constexpr int menuRadius = 8;
 inline constexpr int fieldHeight = 32;
 inline constexpr int flatButtonHeight = 24;
 inline constexpr int accentWidth = 3; ///< of the edge of the row being edited
-inline constexpr int pencilSize = 10;
 inline constexpr int focusWidth = 2; ///< of the outline around what has the focus
 inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;

@@ -54,6 +54,7 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     add(Qt::Key_Escape, L10n::text("逐级返回，最后收起"));
     add(Qt::Key_Return, L10n::text("保存输入的笔记"));
     addText(QStringLiteral("↑ ↓"), L10n::text("在输入框和列表之间移动"));
+    addText(QStringLiteral("→ ←"), L10n::text("展开、收起长笔记"));
     add(Qt::Key_Menu, L10n::text("当前项的菜单"));
     add(QKeySequence::Undo, L10n::text("撤销刚才的删除"));
     add(Qt::Key_F1, L10n::text("本页"));
