@@ -394,6 +394,13 @@ private Q_SLOTS:
         QCOMPARE(panel.rows(), (QStringList{u"编辑中"_s, u"two"_s}));
         panel.press(Qt::Key_Return);
         QCOMPARE(panel.rows(), (QStringList{u"今天 · 3月2日 星期一"_s, u"qqq"_s, u"one #t"_s}));
+
+        panel.doubleClick(1);
+        panel.field()->selectAll();
+        panel.type(u"kept"_s);
+        panel.notes.remove(panel.notes.notes().first().id);
+        panel.press(Qt::Key_Return); // the note is gone, its text is not
+        QCOMPARE(panel.texts(), (QStringList{u"kept"_s, u"one #t"_s}));
     }
 
     void a_second_click_counts_only_on_the_same_row()

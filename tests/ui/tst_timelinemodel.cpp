@@ -126,11 +126,21 @@ private Q_SLOTS:
         QTest::qWait(100);
         QCOMPARE(timeline.rows().size(), 2); // the search that was under way is over
 
+        for (const QString &text : {u"牙科复查"_s, u"补牙"_s})
+            timeline.notes.add(text);
+        timeline.model.setQuery(u"牙痛"_s);
+        QTRY_VERIFY(timeline.rows().size() > 3);
+        QStringList remaining = timeline.rows();
+        const QUuid removed = timeline.model.row(2).id;
+        remaining.removeAt(2);
+        timeline.notes.remove(removed);
+        QCOMPARE(timeline.rows(), remaining); // at once, so that a current row stays
+
         timeline.model.setQuery(u"qwzx"_s);
         QTest::qWait(100);
         QCOMPARE(timeline.rows(), QStringList());
         timeline.model.setQuery(QString());
-        QCOMPARE(timeline.rows().size(), 7);
+        QCOMPARE(timeline.rows().size(), 8);
     }
 
     void rows_are_spoken_with_all_that_they_show()

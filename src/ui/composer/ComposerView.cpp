@@ -92,6 +92,11 @@ ComposerView::ComposerView(NoteStore &store, PanelState &state, const DateDetect
         updateBars();
         updateReminderPreview();
     });
+    // An edit of a note that is gone would be lost: its draft becomes a new note.
+    connect(&m_store, &NoteStore::notesChanged, this, [this] {
+        if (const auto id = m_state.editingID(); id && !m_store.note(*id))
+            m_state.setEditingID({});
+    });
     connect(&m_state, &PanelState::quotingChanged, this, &ComposerView::updateBars);
     connect(&m_state, &PanelState::modeChanged, this, [this] {
         updatePlaceholder();

@@ -22,7 +22,7 @@ public:
     struct EmptyState {
         QString symbol;
         QString text;
-        QStringList hints; ///< small lines below: how it comes to have rows
+        QStringList hints = {}; ///< small lines below: how it comes to have rows
     };
 
     RowPainter(QPainter &painter, const QPalette &palette);

@@ -125,11 +125,13 @@ void TimelineModel::refresh()
     QList<TimelineRow> found;
     appendSections(m_search.daySections(m_query), false, found);
     const bool needsSearch = found.isEmpty() && !m_notes.notes().isEmpty();
-    // The hits of the previous query stay until those of this one are known.
-    const bool keepsHits =
-        needsSearch && !m_notesDidChange && !rows().isEmpty() && rows().back().isSemanticOnly;
+    // The hits that are shown stay until those of now are known, or a removed one would take the current row
+    // with it.
+    const bool keepsHits = needsSearch && !rows().isEmpty() && rows().back().isSemanticOnly;
     if (!keepsHits)
         showWithEdited(found);
+    else if (m_notesDidChange)
+        showWithEdited(hitRows(remainingHits()));
     m_notesDidChange = false;
     if (needsSearch)
         m_searchTimer.start(untilTheFrameIsShown);
@@ -144,11 +146,31 @@ void TimelineModel::continueSearch()
         return;
     }
     const auto matches = std::move(m_matches);
+    showWithEdited(hitRows(matches->hits()));
+}
+
+QList<SemanticHit> TimelineModel::remainingHits() const
+{
+    QList<SemanticHit> hits;
+    const QList<Note> &notes = m_notes.notes();
+    for (const TimelineRow &row : rows()) {
+        if (!row.isNote() || !row.isSemanticOnly)
+            continue;
+        const auto isOfRow = [&row](const Note &note) { return note.id == row.id; };
+        const auto found = std::find_if(notes.begin(), notes.end(), isOfRow);
+        if (found != notes.end())
+            hits.append(SemanticHit{found - notes.begin()});
+    }
+    return hits;
+}
+
+QList<TimelineRow> TimelineModel::hitRows(const QList<SemanticHit> &hits) const
+{
     QList<TimelineRow> found;
-    if (!matches->hits().isEmpty())
+    if (!hits.isEmpty())
         found.append({.kind = TimelineRow::Kind::Title, .isSemanticOnly = true});
-    appendSections(m_search.daySections(matches->hits()), true, found);
-    showWithEdited(found);
+    appendSections(m_search.daySections(hits), true, found);
+    return found;
 }
 
 const Note &TimelineModel::note(int number) const

@@ -2,6 +2,7 @@
 
 #include "model/DaySection.h"
 #include "model/Note.h"
+#include "model/SemanticHit.h"
 #include "ui/lists/RowModel.h"
 
 #include <QSet>
@@ -67,6 +68,8 @@ private:
     void fillEntry(RowContent &entry, int row) const override;
     void refresh() override; ///< also while the panel is hidden, so that it opens at once
     void continueSearch();
+    [[nodiscard]] QList<SemanticHit> remainingHits() const; ///< of the rows
+    [[nodiscard]] QList<TimelineRow> hitRows(const QList<SemanticHit> &hits) const;
     void showWithEdited(QList<TimelineRow> found);
     [[nodiscard]] TimelineRow rowOf(qsizetype noteIndex, Instant day, bool isSemanticOnly) const;
     void appendSections(
