@@ -47,6 +47,17 @@ std::optional<QString> decodeEntity(QStringView name)
         return numericEntity(number.sliced(1), 16);
     return numericEntity(number, 10);
 }
+
+/// Whether the last character is about the sentence, not part of the address: "(see https://a.example/x)."
+bool endsWithPunctuation(QStringView word)
+{
+    constexpr QStringView opening = u"([{";
+    constexpr QStringView closing = u")]}";
+    const QChar last = word.back();
+    const qsizetype bracket = closing.indexOf(last);
+    return bracket < 0 ? QStringView(u".,;:!?'*~").contains(last)
+                       : word.count(last) > word.count(opening[bracket]);
+}
 } // namespace
 
 std::optional<QString> WebLink::detect(QStringView text)
@@ -63,6 +74,27 @@ std::optional<QString> WebLink::detect(QStringView text)
                            && std::all_of(trimmed.begin(), trimmed.end(),
                                [](QChar character) { return character.unicode() < 0x80; });
     return isEncoded ? address : QString::fromLatin1(url.toEncoded());
+}
+
+QList<WebLink::Address> WebLink::addresses(QStringView text)
+{
+    // Chinese is written without spaces: what is before the scheme is not part of the word, and punctuation
+    // ends it.
+    static const Regex word(
+        QStringLiteral(
+            R"((?<![A-Za-z0-9])https?://[^\s<>"“”‘’«»‹›「」『』【】〔〕《》〈〉（），。、；：！？…]+)"),
+        Regex::Case::Insensitive);
+    QList<Address> addresses;
+    if (!text.contains(u"://"))
+        return addresses;
+    for (const Regex::Match &match : word.allMatches(text)) {
+        TextRange range = match.range();
+        while (endsWithPunctuation(text.sliced(range.start, range.length())))
+            --range.end;
+        if (const auto address = detect(text.sliced(range.start, range.length())))
+            addresses.append({range, *address});
+    }
+    return addresses;
 }
 
 std::optional<QString> WebLink::decodeHTML(

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "foundation/Charset.h"
+#include "foundation/TextRange.h"
 
 #include <QByteArrayView>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -12,6 +14,14 @@ namespace WebLink {
 /// The address if the draft, trimmed, is only an address: http or https, with a host. Percent-encoded if it
 /// contains characters that are invalid in an address.
 [[nodiscard]] std::optional<QString> detect(QStringView text);
+
+struct Address {
+    TextRange range;
+    QString address; ///< as detect() returns it
+    bool operator==(const Address &) const = default;
+};
+/// The addresses within a text: each word that is one, from its scheme on, without the punctuation around it.
+[[nodiscard]] QList<Address> addresses(QStringView text);
 
 /// The text of a page: in the charset of the Content-Type header, else UTF-8, else GB 18030. Nothing if none
 /// of them decodes every byte.

@@ -42,6 +42,31 @@ private Q_SLOTS:
         QTEST(orNone(WebLink::detect(text)), "expected");
     }
 
+    void addresses_are_found_in_a_sentence_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected"); // as written, with one space between two
+        textRow("see https://a.example/x, or (HTTP://b.example).", "https://a.example/x HTTP://b.example");
+        textRow("看https://a.example/值，谢谢", "https://a.example/值");
+        textRow("「https://a.example」https://b.example…", "https://a.example https://b.example");
+        textRow("[it](https://a.example/y_(z))", "https://a.example/y_(z)");
+        textRow("https://a.example/?q=1&r=2#top!", "https://a.example/?q=1&r=2#top");
+        textRow("a\u2028https://a.example\u2028b", "https://a.example");
+        textRow("https://a.example https://a.example", "https://a.example https://a.example");
+        textRow("שלום https://a.example/א.", "https://a.example/א");
+        textRow("xhttps://a.example ftp://a.example https://... www.a.example https:///x", "");
+    }
+    void addresses_are_found_in_a_sentence()
+    {
+        QFETCH(QString, text);
+        QStringList found;
+        for (const WebLink::Address &each : WebLink::addresses(text)) {
+            found.append(text.sliced(each.range.start, each.range.length()));
+            QCOMPARE(each.address, WebLink::detect(found.last()));
+        }
+        QTEST(found.join(u' '), "expected");
+    }
+
     void a_title_is_one_line_of_words_data()
     {
         QTest::addColumn<QString>("text");
