@@ -348,7 +348,7 @@ private Q_SLOTS:
         QCOMPARE(entries("timeline", 3),
             all + QStringList({u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"跳转到最新回复 Alt+Right"_s}));
         QCOMPARE(entries("timeline", 4),
-            all + QStringList({u"取消提醒 Ctrl+D"_s, u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s}));
+            all + QStringList({u"取消提醒 Ctrl+D"_s, u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"筛选 #t"_s}));
         panel.list().goTo(2);
         panel.key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(panel.where(), u"timeline: two"_s);

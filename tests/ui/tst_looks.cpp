@@ -47,6 +47,9 @@ private Q_SLOTS:
         for (const bool isDark : {false, true}) {
             const QPalette palette = NoteStyle::palette(isDark);
             QCOMPARE(NoteStyle::isDark(palette), isDark);
+            const double ofSelected = contrast(
+                NoteStyle::color(palette, Design::text), NoteStyle::color(palette, Design::selectionGround));
+            QVERIFY2(ofSelected >= 4.5, qPrintable(QString::number(ofSelected)));
             const QColor flash = NoteStyle::color(palette, Design::flashGround);
             const QColor quote = NoteStyle::color(palette, Design::quoteGround);
             QList<QColor> grounds{flash, quote};

@@ -8,7 +8,6 @@
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMimeData>
 #include <QPushButton>
@@ -20,11 +19,7 @@ class ModesTest final : public QObject
 {
     Q_OBJECT
 
-    QUrl m_opened;
-
 private Q_SLOTS:
-    void openedUrl(const QUrl &url) { m_opened = url; }
-
     void a_mode_button_leads_there_and_back()
     {
         TestPanel panel;
@@ -103,16 +98,6 @@ private Q_SLOTS:
         panel.choose(1, u"引用"_s);
         bar->findChild<QAbstractButton *>()->click();
         QVERIFY(!panel.state().quoting());
-    }
-
-    void a_link_is_opened_by_a_click()
-    {
-        TestPanel panel;
-        panel.notes.add(u"页面"_s, {}, u"https://example.com/a%20b"_s);
-        QDesktopServices::setUrlHandler(u"https"_s, this, "openedUrl");
-        panel.clickPart(1, {RowPart::Kind::Link});
-        QCOMPARE(m_opened, QUrl(u"https://example.com/a%20b"_s));
-        QDesktopServices::unsetUrlHandler(u"https"_s);
     }
 
     void what_is_replaced_in_the_field_can_be_taken_back()
@@ -363,12 +348,12 @@ private Q_SLOTS:
                 panel.withMenu(
                     *list->viewport(), list->rectOf(row).center(), [&expected](const QAction &action) {
                         const QStringList parts = action.text().split(u'\t'); // the title and the key
-                        expected.append(parts.last() + parts.first());
+                        if (parts.size() == 2)
+                            expected.append(parts.last() + parts.first());
                     });
             }
         }
         expected.removeAll(u"-"_s);
-        expected.removeAll(QString()); // separators
         QVERIFY(expected.size() > 12);
         for (const QString &each : std::as_const(expected))
             QVERIFY2(shown.contains(each), qUtf8Printable(each));

@@ -77,6 +77,7 @@ void ComposerField::dropEvent(QDropEvent *event)
 {
     setCursorPosition(cursorPositionAt(event->position().toPoint()));
     insertAsOneLine(event->mimeData()->text());
+    setFocus(); // what is typed next goes on there
     event->acceptProposedAction();
 }
 

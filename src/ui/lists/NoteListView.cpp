@@ -3,17 +3,27 @@
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
+#include "text/NoteHighlighting.h"
+#include "text/WebLink.h"
 #include "ui/lists/RelatedNotesView.h"
 #include "ui/lists/TimelineModel.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 #include "ui/panel/PanelState.h"
 
-#include <QClipboard>
 #include <QDesktopServices>
-#include <QGuiApplication>
 #include <QTimer>
 #include <QUrl>
+
+namespace {
+/// Empty for an address that may do more than show a page or a file: an imported note can contain any.
+QUrl openable(const QString &address)
+{
+    const QUrl url(address);
+    const bool isKnown = url.isLocalFile() || url.scheme() == u"http" || url.scheme() == u"https";
+    return isKnown ? url : QUrl();
+}
+} // namespace
 
 NoteListView::NoteListView(NoteStore &notes, NoteSearch &search, ReminderStore &reminders, PanelState &state,
     TimelineModel &timeline, QWidget *parent)
@@ -73,17 +83,13 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
         m_state.setQuoting({});
         m_state.focusComposer();
     };
-    const auto copy = [this, text = note.text] {
-        QGuiApplication::clipboard()->setText(text);
-        Q_EMIT done(L10n::text("已复制"));
-    };
     const auto remove = [this, id = note.id] {
         m_notes.remove(id);
         Q_EMIT done(L10n::text("已移到回收站"), [this, id] { m_notes.restore(id); });
     };
     QList<Action> actions = {
         {L10n::text("引用"), Qt::CTRL | Qt::Key_R, quote},
-        {L10n::text("复制"), QKeySequence::Copy, copy},
+        copyAction(row),
         {L10n::text("删除"), Qt::Key_Delete, remove, {}, true},
         {},
     };
@@ -97,9 +103,25 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     actions.append({L10n::text("相关笔记"), Qt::CTRL | Qt::Key_L, [this, note] { showRelated(note); }});
     actions.append(Action());
     actions.append({L10n::text("编辑"), Qt::Key_Return, edit});
-    if (note.link) {
-        actions.append({L10n::text("打开链接"), Qt::CTRL | Qt::Key_Return,
-            [link = *note.link] { QDesktopServices::openUrl(QUrl(link)); }, RowPart::Kind::Link});
+    QKeySequence openKey = Qt::CTRL | Qt::Key_Return; // for the first
+    QStringList known;
+    const auto addOpening = [&](const QString &title, const QString &address, RowPart::Kind part) {
+        if (known.contains(address))
+            return;
+        known.append(address);
+        actions.append(
+            {title, std::exchange(openKey, {}), [this, address] { open(address); }, part, false, address});
+    };
+    if (note.link)
+        addOpening(L10n::text("打开链接"), *note.link, RowPart::Kind::Link);
+    for (const WebLink::Address &each : WebLink::addresses(note.text))
+        addOpening(L10n::text("打开 %@", QStringList{each.address}), each.address, RowPart::Kind::Address);
+    QStringList tags = NoteHighlighting::tags(note.text);
+    tags.removeDuplicates();
+    for (const QString &tag : std::as_const(tags)) {
+        const QString name = tag.sliced(1);
+        actions.append({L10n::text("筛选 #%@", QStringList{name}), {},
+            [this, name] { m_state.filterByTag(name); }, RowPart::Kind::Tag, false, tag});
     }
     if (note.quoteID && m_notes.note(*note.quoteID)) {
         actions.append({L10n::text("跳转到引用的笔记"), Qt::ALT | Qt::Key_Left,
@@ -114,6 +136,18 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
             {L10n::text("跳转到最新回复"), Qt::ALT | Qt::Key_Right, jumpToReply, RowPart::Kind::Button});
     }
     return actions;
+}
+
+QUrl NoteListView::linkOf(int row) const
+{
+    return openable(m_timeline.note(row).link.value_or(QString()));
+}
+
+void NoteListView::open(const QString &address)
+{
+    const QUrl url = openable(address);
+    if (url.isEmpty() || !QDesktopServices::openUrl(url))
+        Q_EMIT done(L10n::text("无法打开链接"));
 }
 
 RowPainter::Marks NoteListView::marksOf(int row) const

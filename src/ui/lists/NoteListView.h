@@ -32,9 +32,11 @@ public:
 protected:
     QList<Action> actionsOf(int row) override;
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
+    [[nodiscard]] QUrl linkOf(int row) const override;
 
 private:
     void queryDidChange();
+    void open(const QString &address);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
 

@@ -29,5 +29,7 @@ QList<RowListView::Action> ReminderListView::actionsOf(int row)
     return {
         {L10n::text("跳转到笔记"), Qt::Key_Return, [this, note] { Q_EMIT noteChosen(note); }},
         {L10n::text("取消提醒"), Qt::Key_Delete, cancel, RowPart::Kind::Button},
+        {},
+        copyAction(row),
     };
 }

@@ -41,8 +41,9 @@ struct RowContent {
 
 /// The part of a row under a point.
 struct RowPart {
-    enum class Kind { None, Body, Fold, Quote, Link, Symbol, Button };
+    enum class Kind { None, Body, Address, Tag, Fold, Quote, Link, Symbol, Button };
     Kind kind = Kind::None;
-    int symbol = -1; ///< index among the symbols, of which some are buttons
+    int symbol = -1;     ///< index among the symbols, of which some are buttons
+    QString target = {}; ///< of an address or a tag in the text: the whole address, or the tag with its "#"
     bool operator==(const RowPart &) const = default;
 };

@@ -2,6 +2,8 @@
 
 #include "foundation/CaseFolding.h"
 #include "text/L10n.h"
+#include "text/TagEditing.h"
+#include "text/WebLink.h"
 #include "ui/looks/Design.h"
 #include "ui/looks/NoteStyle.h"
 
@@ -186,5 +188,52 @@ RowPart RowLayout::partAt(QPoint point) const
         return {RowPart::Kind::Fold};
     if (m_parts.link.contains(point))
         return {RowPart::Kind::Link};
+    if (isOnText(point)) {
+        const int unit = unitAt(point);
+        for (const Target &target : targets()) {
+            if (target.range.start <= unit && unit < target.range.end)
+                return target.part;
+        }
+    }
     return {RowPart::Kind::Body};
+}
+
+QTextLine RowLayout::lineAt(int y) const
+{
+    int line = 0;
+    while (line + 1 < m_text.lineCount() && m_text.lineAt(line).rect().bottom() <= y)
+        ++line;
+    return m_text.lineAt(line);
+}
+
+bool RowLayout::isOnText(QPoint point) const
+{
+    return m_text.lineCount() > 0 && lineAt(point.y()).naturalTextRect().contains(point);
+}
+
+int RowLayout::unitAt(QPoint point) const
+{
+    return lineAt(point.y()).xToCursor(point.x(), QTextLine::CursorOnCharacter);
+}
+
+int RowLayout::positionAt(QPoint point) const
+{
+    if (m_text.lineCount() == 0)
+        return 0;
+    const QTextLine line = lineAt(point.y());
+    if (point.y() < line.rect().top())
+        return 0;
+    if (point.y() >= line.rect().bottom())
+        return line.textStart() + line.textLength();
+    return line.xToCursor(point.x());
+}
+
+QList<RowLayout::Target> RowLayout::targets() const
+{
+    QList<Target> targets;
+    for (const WebLink::Address &address : WebLink::addresses(m_text.text()))
+        targets.append({address.range, {RowPart::Kind::Address, -1, address.address}});
+    for (const TagEditing::Token &tag : TagEditing::tokens(m_text.text()))
+        targets.append({tag.range, {RowPart::Kind::Tag, -1, tag.text}});
+    return targets;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/TextRange.h"
 #include "ui/lists/RowContent.h"
 
 #include <QRect>
@@ -36,6 +37,15 @@ public:
     [[nodiscard]] const QTextLayout &text() const { return m_text; }
     [[nodiscard]] const QString &foldText() const { return m_foldText; }
     [[nodiscard]] RowPart partAt(QPoint point) const;
+    [[nodiscard]] bool isOnText(QPoint point) const; ///< on a line of it, not beside
+    /// The place between two characters of the text that is nearest to the point.
+    [[nodiscard]] int positionAt(QPoint point) const;
+    [[nodiscard]] int unitAt(QPoint point) const; ///< of the character under a point on the text
+    struct Target {
+        TextRange range;
+        RowPart part;
+    };
+    [[nodiscard]] QList<Target> targets() const; ///< the addresses in the text, then the tags
 
 private:
     /// A part of the text, as long as is useful; what is left out is marked.
@@ -44,6 +54,7 @@ private:
     int breakLines(QPoint topLeft, int width, int maxLines);
     /// Decides which part of the text is shown, and breaks it.
     void fold(QPoint topLeft, int width, const QPalette &palette);
+    [[nodiscard]] QTextLine lineAt(int y) const; ///< or the nearest
 
     RowContent m_content;
     QTextLayout m_text;

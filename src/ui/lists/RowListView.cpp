@@ -7,10 +7,14 @@
 #include "ui/looks/NoteStyle.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QDrag>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QToolTip>
+#include <QUrl>
 
 RowListView::RowListView(RowModel &model, QWidget *parent)
     : RowScrollArea(model, parent)
@@ -41,6 +45,7 @@ void RowListView::setCurrentRow(int row)
 {
     if (m_current == row)
         return;
+    clearSelection();
     m_current = row;
     viewport()->update();
     if (hasFocus())
@@ -81,6 +86,7 @@ void RowListView::didRemoveRows(int first, int count)
     if (m_current >= first + count) {
         m_current -= count;
     } else if (m_current >= first) {
+        clearSelection();
         m_current = -1; // so that the row that follows is announced even under the same number
         setCurrentRow(nearestEntry(first, 1));
         if (hasFocus() && m_current >= 0)
@@ -211,22 +217,39 @@ void RowListView::keyPressEvent(QKeyEvent *event)
 
 // The mouse
 
-RowListView::Hit RowListView::hitAt(QPoint point) const
+RowListView::Hit RowListView::hitAt(QPoint point)
 {
     const int row = rowAt(point);
     if (!isEntry(row))
         return {};
-    return {row, layoutOf(row).partAt(point - rectOf(row).topLeft())};
+    const Hit hit{row, layoutOf(row).partAt(point - rectOf(row).topLeft())};
+    const bool isPlainText = !hit.part.target.isEmpty() && !actionOn(hit); // a shortened address, say
+    return isPlainText ? Hit{row, {RowPart::Kind::Body}} : hit;
+}
+
+std::function<void()> RowListView::actionOn(const Hit &hit)
+{
+    if (hit.row < 0)
+        return {};
+    for (const Action &action : allActionsOf(hit.row)) {
+        const RowPart &part = hit.part;
+        const bool isMeant = part.target.isEmpty() ? action.part == part.kind : action.target == part.target;
+        if (isMeant && action.part != RowPart::Kind::None)
+            return action.run;
+    }
+    return {};
 }
 
 RowPainter::Marks RowListView::marksOf(int row) const
 {
     RowPainter::Marks marks;
     marks.isCurrent = row == m_current;
-    if (marks.isCurrent)
+    if (marks.isCurrent) {
         marks.ground = NoteStyle::color(palette(), Design::editingGround);
-    else if (row == m_hover.row)
+        marks.selected = selectedRange();
+    } else if (row == m_hover.row) {
         marks.ground = NoteStyle::color(palette(), Design::hoverGround);
+    }
     if (row == m_hover.row)
         marks.hovered = m_hover.part;
     return marks;
@@ -239,15 +262,42 @@ void RowListView::setHover(const Hit &hover)
     viewport()->update(rectOf(m_hover.row));
     viewport()->update(rectOf(hover.row));
     m_hover = hover;
-    const RowPart::Kind kind = hover.part.kind;
-    const bool isLink =
-        kind != RowPart::Kind::None && kind != RowPart::Kind::Body && kind != RowPart::Kind::Symbol;
-    viewport()->setCursor(isLink ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    m_isHoverClickable = bool(actionOn(hover));
+}
+
+Qt::CursorShape RowListView::cursorAt(QPoint point) const
+{
+    if (m_isHoverClickable)
+        return Qt::PointingHandCursor;
+    const int row = rowAt(point);
+    if (!isEntry(row) || !isCopyable())
+        return Qt::ArrowCursor;
+    const RowLayout &layout = layoutOf(row);
+    const QPoint inRow = point - rectOf(row).topLeft();
+    const bool isSelected = row == m_current && m_selection.contains(layout, inRow); // and can be dragged
+    return layout.isOnText(inRow) && !isSelected ? Qt::IBeamCursor : Qt::ArrowCursor;
 }
 
 void RowListView::mouseMoveEvent(QMouseEvent *event)
 {
-    setHover(hitAt(event->position().toPoint()));
+    const QPoint point = event->position().toPoint();
+    const bool isFar = (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
+    if (m_pressed.row >= 0 && isFar && isCopyable()) {
+        const int row = std::exchange(m_pressed, {}).row;
+        m_isSelecting = !m_dragsOut;
+        setHover({});
+        if (m_dragsOut) {
+            drag(row);
+            return;
+        }
+    }
+    if (m_isSelecting) {
+        m_selection.extendTo(layoutOf(m_current), point - rectOf(m_current).topLeft());
+        viewport()->update(rectOf(m_current));
+        return;
+    }
+    setHover(hitAt(point));
+    viewport()->setCursor(cursorAt(point));
 }
 
 void RowListView::leaveEvent(QEvent *event)
@@ -258,25 +308,44 @@ void RowListView::leaveEvent(QEvent *event)
 
 void RowListView::mousePressEvent(QMouseEvent *event)
 {
-    const Hit hit = hitAt(event->position().toPoint());
+    const QPoint point = event->position().toPoint();
+    const Hit hit = hitAt(point);
     if (hit.row >= 0)
         goTo(hit.row);
-    m_pressed = event->button() == Qt::LeftButton ? hit : Hit();
-    m_clicked = {};
+    m_clicked = m_pressed = {};
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = hit;
+    m_pressPoint = point;
+    const QPoint inRow = point - rectOf(hit.row).topLeft();
+    m_dragsOut = hit.row >= 0 && m_selection.contains(layoutOf(hit.row), inRow);
+    if (m_dragsOut)
+        return;
+    clearSelection();
+    m_dragsOut = hit.row < 0 || !layoutOf(hit.row).isOnText(inRow);
+    if (!m_dragsOut)
+        m_selection.begin(layoutOf(hit.row), inRow);
 }
 
 void RowListView::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (std::exchange(m_isSelecting, false)) {
+        QClipboard *clipboard = QGuiApplication::clipboard();
+        if (clipboard->supportsSelection() && !selectedRange().isEmpty())
+            clipboard->setText(selectedText(), QClipboard::Selection);
+        return;
+    }
     const Hit pressed = std::exchange(m_pressed, {});
-    if (event->button() != Qt::LeftButton || pressed.row < 0 || pressed != hitAt(event->position().toPoint()))
+    if (pressed.row < 0)
+        return;
+    clearSelection();
+    if (pressed != hitAt(event->position().toPoint()))
         return;
     m_clicked = pressed;
-    for (const Action &action : allActionsOf(pressed.row)) {
-        if (action.part != RowPart::Kind::None && action.part == pressed.part.kind) {
-            action.run();
-            return;
-        }
-    }
+    if (const auto run = actionOn(pressed))
+        run();
 }
 
 void RowListView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -306,14 +375,65 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
             menu->addSeparator();
             continue;
         }
-        // The key is part of the text, or screen readers would not read it out.
-        QAction *entry = menu->addAction(
-            action.title + u'	' + action.key.toString(QKeySequence::NativeText), this, action.run);
+        // It may show what the user has written. The key is part of the text, or screen readers would not
+        // read it out.
+        QString title =
+            QFontMetrics(NoteStyle::font()).elidedText(action.title, Qt::ElideMiddle, Design::menuTextWidth);
+        title.replace(u'&', QStringLiteral("&&"));
+        if (!action.key.isEmpty())
+            title += u'\t' + action.key.toString(QKeySequence::NativeText);
+        QAction *entry = menu->addAction(title, this, action.run);
         if (action.isDestructive)
             MenuLooks::markDestructive(*entry);
     }
     MenuLooks::apply(*menu);
     menu->popup(globalPosition);
+}
+
+// Text that is selected, copied or dragged out
+
+TextRange RowListView::selectedRange() const
+{
+    return m_current < 0 ? TextRange() : m_selection.rangeIn(layoutOf(m_current));
+}
+
+QString RowListView::selectedText() const
+{
+    return m_current < 0 ? QString() : m_selection.textIn(layoutOf(m_current));
+}
+
+void RowListView::clearSelection()
+{
+    m_selection = {};
+    m_isSelecting = false;
+    viewport()->update();
+}
+
+QString RowListView::textToCopy(int row) const
+{
+    const QString selected = row == m_current ? selectedText() : QString();
+    return selected.isEmpty() ? model().text(row) : selected;
+}
+
+RowListView::Action RowListView::copyAction(int row)
+{
+    const auto copy = [this, text = textToCopy(row)] {
+        QGuiApplication::clipboard()->setText(text);
+        Q_EMIT done(L10n::text("已复制"));
+    };
+    return {L10n::text("复制"), QKeySequence::Copy, copy};
+}
+
+void RowListView::drag(int row)
+{
+    auto *content = new QMimeData;
+    content->setText(textToCopy(row));
+    if (const QUrl link = linkOf(row); !link.isEmpty() && selectedRange().isEmpty())
+        content->setUrls({link});
+    auto *drag = new QDrag(this);
+    drag->setMimeData(content);
+    drag->setPixmap(RowPainter::dragged(content->text(), *this));
+    drag->exec(Qt::CopyAction);
 }
 
 bool RowListView::viewportEvent(QEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/lists/RowScrollArea.h"
+#include "ui/lists/RowSelection.h"
 
 #include <QKeySequence>
 
@@ -32,6 +33,7 @@ public:
         std::function<void()> run;
         RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
         bool isDestructive = false;
+        QString target = {}; ///< an address or a tag in the text, that a click on does it as well
     };
     [[nodiscard]] QList<Action> allActionsOf(int row); ///< in the order of its menu
 
@@ -44,7 +46,11 @@ public:
         RowPart part;
         bool operator==(const Hit &) const = default;
     };
-    [[nodiscard]] Hit hitAt(QPoint point) const;
+    [[nodiscard]] Hit hitAt(QPoint point);
+
+    /// In the text of the current row, by the mouse; empty for nothing.
+    [[nodiscard]] QString selectedText() const;
+    void clearSelection();
 
 Q_SIGNALS:
     /// @p undo takes it back; empty where that is impossible.
@@ -53,6 +59,11 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0; ///< those that are the list's own
+    [[nodiscard]] Action copyAction(int row); ///< of what is selected in the row, else of its whole text
+    [[nodiscard]] virtual QUrl linkOf(int) const { return {}; }
+    /// Whether its text can be selected, and dragged out. A click has no other meaning there then.
+    [[nodiscard]] virtual bool isCopyable() const { return true; }
+
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
     void didInsertRows(int first, int count) override;
     void didRemoveRows(int first, int count) override;
@@ -74,12 +85,23 @@ private:
     [[nodiscard]] int entryFrom(int row, int step) const;    ///< @p row or the next entry; -1 beyond the ends
     [[nodiscard]] int nearestEntry(int row, int step) const; ///< in the other direction where there is none
     void moveCurrentRow(int row);
-    [[nodiscard]] std::function<void()> actionOf(int row, const QKeySequence &key); ///< empty for none
+    // Empty for none.
+    [[nodiscard]] std::function<void()> actionOf(int row, const QKeySequence &key);
+    [[nodiscard]] std::function<void()> actionOn(const Hit &hit); ///< by a click
     void setHover(const Hit &hover);
+    [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const;
+    [[nodiscard]] QString textToCopy(int row) const;
+    [[nodiscard]] TextRange selectedRange() const;
+    void drag(int row);
     void popUpMenu(int row, QPoint globalPosition);
 
     int m_current = -1;
     Hit m_hover;
-    Hit m_pressed;
+    bool m_isHoverClickable = false;
+    Hit m_pressed; ///< none any more once the press has become a selection or a drag
+    QPoint m_pressPoint;
+    bool m_dragsOut = false; ///< as opposed to selecting
     Hit m_clicked;
+    RowSelection m_selection; ///< in the current row
+    bool m_isSelecting = false;
 };

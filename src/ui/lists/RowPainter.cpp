@@ -5,12 +5,28 @@
 #include "ui/looks/Symbol.h"
 
 #include <QPainter>
+#include <QWidget>
 
 RowPainter::RowPainter(QPainter &painter, const QPalette &palette)
     : m_painter(painter)
     , m_palette(palette)
     , m_meta(NoteStyle::color(palette, Design::metaText))
 {
+}
+
+QPixmap RowPainter::dragged(const QString &text, const QWidget &source)
+{
+    const QRect rect(0, 0, Design::menuTextWidth, Design::headerHeight);
+    QPixmap pixmap(rect.size() * source.devicePixelRatioF());
+    pixmap.setDevicePixelRatio(source.devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const QPalette &palette = source.palette();
+    NoteStyle::fillRounded(painter, rect, Design::rowRadius, NoteStyle::color(palette, Design::quoteGround));
+    painter.setFont(NoteStyle::font());
+    painter.setPen(NoteStyle::color(palette, Design::text));
+    NoteStyle::drawLine(painter, rect.adjusted(Design::edge, 0, -Design::edge, 0), text.simplified());
+    return pixmap;
 }
 
 void RowPainter::paintHeader(const QRect &rect, const QString &text)
@@ -85,8 +101,31 @@ void RowPainter::paintRow(const QRect &rect, const RowLayout &layout, const Mark
                         : m_meta);
     }
     m_painter.setPen(content.isExpired ? m_meta : text);
-    layout.text().draw(&m_painter, {}, {}, m_painter.clipBoundingRect());
+    paintText(layout, marks);
     m_painter.translate(-rect.topLeft());
+}
+
+void RowPainter::paintText(const RowLayout &layout, const Marks &marks)
+{
+    QList<QTextLayout::FormatRange> marked;
+    const auto mark = [&](const TextRange &range, const QTextCharFormat &format) {
+        marked.append({int(range.start), int(range.length()), format});
+    };
+    if (marks.hovered.kind == RowPart::Kind::Address) {
+        QTextCharFormat link;
+        link.setForeground(NoteStyle::color(m_palette, Design::tagText));
+        link.setFontUnderline(true);
+        for (const RowLayout::Target &target : layout.targets()) {
+            if (target.part == marks.hovered)
+                mark(target.range, link);
+        }
+    }
+    QTextCharFormat selected;
+    selected.setForeground(NoteStyle::color(m_palette, Design::text));
+    selected.setBackground(NoteStyle::color(m_palette, Design::selectionGround));
+    if (!marks.selected.isEmpty())
+        mark(marks.selected, selected);
+    layout.text().draw(&m_painter, {}, marked, m_painter.clipBoundingRect());
 }
 
 void RowPainter::paintQuote(const QRect &block, const QString &quote, bool isHovered)

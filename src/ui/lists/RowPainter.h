@@ -3,6 +3,7 @@
 #include "ui/lists/RowLayout.h"
 
 #include <QPalette>
+#include <QPixmap>
 
 #include <functional>
 
@@ -17,6 +18,7 @@ public:
         double flash = 0; ///< its strength, up to 1
         bool isCurrent = false;
         bool isEdited = false;
+        TextRange selected; ///< in the text
     };
     /// What a list without rows shows.
     struct EmptyState {
@@ -27,6 +29,9 @@ public:
 
     RowPainter(QPainter &painter, const QPalette &palette);
 
+    /// A text that is dragged over the screen, from @p source.
+    [[nodiscard]] static QPixmap dragged(const QString &text, const QWidget &source);
+
     void paintRow(const QRect &rect, const RowLayout &layout, const Marks &marks);
     void paintHeader(const QRect &rect, const QString &text);
     /// In the middle of the width, around @p middle.
@@ -35,6 +40,7 @@ public:
     void paintFading(const QRect &rect, const std::function<void(QPainter &)> &paint);
 
 private:
+    void paintText(const RowLayout &layout, const Marks &marks);
     void paintQuote(const QRect &block, const QString &quote, bool isHovered);
     void paintAction(const QRect &line, const QString &text, bool isHovered);
 

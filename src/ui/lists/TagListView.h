@@ -24,6 +24,7 @@ Q_SIGNALS:
 
 protected:
     QList<Action> actionsOf(int row) override;
+    [[nodiscard]] bool isCopyable() const override { return false; }
     void didMoveRows() override;
 
 private:

@@ -25,5 +25,9 @@ QList<RowListView::Action> TrashListView::actionsOf(int row)
         m_notes.restore(note);
         Q_EMIT done(L10n::text("已恢复到时间线"));
     };
-    return {{L10n::text("恢复到时间线"), Qt::Key_Return, restore, RowPart::Kind::Button}};
+    return {
+        {L10n::text("恢复到时间线"), Qt::Key_Return, restore, RowPart::Kind::Button},
+        {},
+        copyAction(row),
+    };
 }

@@ -36,6 +36,7 @@ inline constexpr int symbolSize = 14;
 inline constexpr int smallSymbolSize = 12;
 inline constexpr int emptySymbolSize = 32;
 inline constexpr int menuRadius = 8;
+inline constexpr int menuTextWidth = 240; ///< of an entry that shows what the user has written
 inline constexpr int fieldHeight = 32;
 inline constexpr int flatButtonHeight = 24;
 inline constexpr int accentWidth = 3; ///< of the edge of the row being edited
@@ -63,8 +64,9 @@ inline constexpr Tint fieldGround{0xffffffff, 0xff303338}; ///< the capsule of t
 inline constexpr Tint quoteGround{0xffe3e3df, 0xff3a3e45}; ///< behind a quoted note
 inline constexpr Tint hoverGround{0xfff1f1ee, 0xff2f3238}; ///< behind the row or button under the pointer
 inline constexpr Tint hairline{0xffd9d9d5, 0xff3d4046};
-inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642}; ///< behind the note being edited
-inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};   ///< behind a note that was jumped to
+inline constexpr Tint editingGround{0xffecf2f9, 0xff2c3642};   ///< behind the note being edited
+inline constexpr Tint selectionGround{0xffb3d1f0, 0xff3a5f8a}; ///< behind selected text
+inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};     ///< behind a note that was jumped to
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
 inline constexpr std::chrono::milliseconds flashDuration{500};

@@ -88,8 +88,8 @@ QPalette NoteStyle::palette(bool isDark)
     set(QPalette::ToolTipBase, Design::fieldGround);
     set(QPalette::Button, Design::hoverGround);
     set(QPalette::Mid, Design::hairline);
-    set(QPalette::Highlight, Design::tagText);
-    set(QPalette::HighlightedText, Design::ground);
+    set(QPalette::Highlight, Design::selectionGround);
+    set(QPalette::HighlightedText, Design::text);
     set(QPalette::Link, Design::tagText);
     return made;
 }

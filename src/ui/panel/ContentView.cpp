@@ -108,7 +108,7 @@ ContentView::ContentView(NoteStore &notes, NoteSearch &search, ReminderStore &re
     connect(&m_state, &PanelState::panelToggled, this, &ContentView::focusFieldOrList);
     connect(&m_state, &PanelState::draftChanged, m_tags, [this] { m_tags->setQuery(m_state.draft()); });
     connect(m_composer, &ComposerView::listRequested, this, [this] { list().enter(); });
-    connect(m_tags, &TagListView::selected, this, &ContentView::selectTag);
+    connect(m_tags, &TagListView::selected, &m_state, &PanelState::filterByTag);
     m_nextMinute.setSingleShot(true);
     m_nextMinute.setTimerType(Qt::CoarseTimer);
     connect(&m_nextMinute, &QTimer::timeout, this, &ContentView::timeDidPass);
@@ -255,14 +255,6 @@ void ContentView::modeDidChange()
     }
 }
 
-void ContentView::selectTag(const QString &tag)
-{
-    m_state.setDraft(u'#' + tag);
-    m_state.setEditingID({});
-    m_state.setQuoting({});
-    enter(PanelMode::Timeline);
-}
-
 bool ContentView::isComposing() const
 {
     return m_composer->isComposing();
@@ -310,6 +302,8 @@ bool ContentView::escape()
         m_tags->renameState().setRenaming({});
     else if (m_statusLine->hasFocusWithin())
         m_statusLine->dismiss();
+    else if (!list().selectedText().isEmpty())
+        list().clearSelection();
     else if (list().hasFocus() && m_composer->isEnabled())
         m_composer->setFocus();
     else if (!m_state.draft().isEmpty() && m_composer->isEnabled())

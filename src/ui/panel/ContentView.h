@@ -58,7 +58,6 @@ private:
     void focusFieldOrList();
     void showKeys();
     void modeDidChange();
-    void selectTag(const QString &tag);
     void timeDidPass();
 
     PanelState m_state;

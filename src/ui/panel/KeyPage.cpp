@@ -75,7 +75,9 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
         {1, Qt::Key_Delete, "删除"},
         {2, Qt::Key_Return, "跳转到笔记"},
         {2, Qt::Key_Delete, "取消提醒"},
+        {2, QKeySequence::Copy, "复制"},
         {3, Qt::Key_Return, "恢复到时间线"},
+        {3, QKeySequence::Copy, "复制"},
     };
     for (const Entry &mode : modes) {
         add(mode.key, mode.text);

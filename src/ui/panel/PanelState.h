@@ -44,6 +44,15 @@ public:
 
     /// With the caret behind the text.
     void focusComposer() { Q_EMIT composerFocusRequested(); }
+    /// Shows the notes with the tag in the timeline. @p name is without the "#".
+    void filterByTag(const QString &name)
+    {
+        setDraft(u'#' + name);
+        setEditingID({});
+        setQuoting({});
+        setMode(PanelMode::Timeline);
+        focusComposer();
+    }
     /// In the timeline; the draft stays.
     void openNote(QUuid noteID)
     {
