@@ -12,6 +12,7 @@
 #include "ui/panel/PanelState.h"
 
 #include <QDesktopServices>
+#include <QSet>
 #include <QTimer>
 #include <QUrl>
 
@@ -104,11 +105,11 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     actions.append(Action());
     actions.append({L10n::text("编辑"), Qt::Key_Return, edit});
     QKeySequence openKey = Qt::CTRL | Qt::Key_Return; // for the first
-    QStringList known;
+    QSet<QString> known;
     const auto addOpening = [&](const QString &title, const QString &address, RowPart::Kind part) {
         if (known.contains(address))
             return;
-        known.append(address);
+        known.insert(address);
         actions.append(
             {title, std::exchange(openKey, {}), [this, address] { open(address); }, part, false, address});
     };
