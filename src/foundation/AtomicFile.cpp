@@ -107,8 +107,10 @@ Outcome AtomicFile::createFolder(const QString &path, FileCalls &calls)
     if (files.isFolder(path) || !files.outcome())
         return files.outcome();
     const QFileInfo folder(QDir::cleanPath(path));
-    if (Outcome above = createFolder(folder.absolutePath(), calls); !above)
-        return above;
+    if (folder.absolutePath() != path) { // as for an empty path
+        if (Outcome above = createFolder(folder.absolutePath(), calls); !above)
+            return above;
+    }
     files.makeFolder(folder.absoluteFilePath());
     return files.outcome();
 }

@@ -72,6 +72,7 @@ private Q_SLOTS:
         const QString file = m_folder->filePath(u"file"_s);
         writeFile(file, "x");
         QCOMPARE(AtomicFile::createFolder(file).failure().systemError, EEXIST);
+        QCOMPARE(AtomicFile::createFolder({}).failure().systemError, ENOENT);
         QVERIFY(!AtomicFile::read(file + u"/notes.json"_s).value());
         const QString circle = m_folder->filePath(u"circle"_s);
         QVERIFY(QFile::link(circle, circle));
