@@ -133,12 +133,12 @@ void RowScrollArea::geometryChanged()
 int RowScrollArea::maxOffset() const
 {
     constexpr int spaceBelow = 2 * Design::grid;
-    return std::max(0, m_geometry.top(m_geometry.count()) + spaceBelow - page());
+    return std::max(0, m_geometry.top(m_geometry.count()) + std::max(spaceBelow, m_coveredBelow) - page());
 }
 
 RowGeometry::View RowScrollArea::view() const
 {
-    return {page(), Design::headerHeight, Design::fadingEdge};
+    return {page(), Design::headerHeight, std::max(Design::fadingEdge, m_coveredBelow)};
 }
 
 const RowLayout &RowScrollArea::layoutOf(int row) const
@@ -275,9 +275,15 @@ void RowScrollArea::scrollToEnd(int direction)
     moveTo(direction < 0 ? 0 : maxOffset());
 }
 
+void RowScrollArea::setCoveredBelow(int height)
+{
+    m_coveredBelow = height;
+    geometryChanged();
+}
+
 int RowScrollArea::step() const
 {
-    return std::max(1, page() - Design::headerHeight - Design::fadingEdge);
+    return std::max(1, page() - view().covered - view().faded);
 }
 
 // Jumps

@@ -33,6 +33,8 @@ public:
     bool scrollWithin(int row, int direction);
     void scrollPage(int pages);
     void scrollToEnd(int direction); ///< the last row, or the first
+    /// So much of the view, at its bottom, is under something else: rows are scrolled to above that.
+    void setCoveredBelow(int height);
     /// Scrolls the row to the middle of the view and flashes it there, or shows the beginning of a row higher
     /// than the view. @p target is asked for again when the model has replaced the row.
     void jumpTo(std::function<QModelIndex()> target);
@@ -91,7 +93,8 @@ private:
     /// takes longer than painting it.
     mutable QCache<RowContent, RowLayout> m_layouts{200};
     std::optional<RowGeometry> m_dragged; ///< as it was when the thumb was taken, while it is held
-    double m_wheelRest = 0;               ///< what is left of a pixel
+    int m_coveredBelow = 0;
+    double m_wheelRest = 0; ///< what is left of a pixel
     // A jump: from 0 to 1, and the strength of the flash.
     QVariantAnimation m_scrolling{this};
     QVariantAnimation m_flash{this};
