@@ -46,16 +46,11 @@ private:
     QString m_text;
 };
 
-QLabel *label(const QString &text, const QFont &font, const QColor &color, QWidget *parent)
+QLabel *newLine(const QString &text, const QFont &font, QWidget *parent)
 {
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(font);
+    QLabel *label = NoteStyle::newLabel(text, font, parent);
     label->setIndent(2 * Design::grid);
     label->setFixedHeight(Design::headerHeight);
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, color);
-    label->setPalette(colors);
     return label;
 }
 } // namespace
@@ -74,12 +69,11 @@ RelatedNotesView::RelatedNotesView(NoteSearch &search, const Note &note, QWidget
     layout->setContentsMargins(
         QMargins(2 * Design::grid, Design::grid, 2 * Design::grid, 2 * Design::grid) + margin());
     layout->setSpacing(0);
-    layout->addWidget(label(
-        L10n::text("相关笔记"), NoteStyle::headerFont(), NoteStyle::color(palette(), Design::text), this));
+    layout->addWidget(newLine(L10n::text("相关笔记"), NoteStyle::headerFont(), this));
     const QList<Note> related = search.relatedNotes(note, maxRelated);
     if (related.isEmpty()) {
-        QLabel *none = label(L10n::text("暂无相关笔记"), NoteStyle::font(),
-            NoteStyle::color(palette(), Design::metaText), this);
+        QLabel *none = newLine(L10n::text("暂无相关笔记"), NoteStyle::font(), this);
+        none->setForegroundRole(QPalette::PlaceholderText);
         none->setAccessibleName(none->text());
         WidgetRole::set(*none, QAccessible::Notification);
         layout->addWidget(none);

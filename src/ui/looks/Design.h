@@ -25,7 +25,6 @@ inline constexpr int edge = 12; ///< from the panel's side to its content
 inline constexpr int bodySize = 13;
 inline constexpr int smallSize = 11;
 
-inline constexpr int topBarHeight = 36;
 inline constexpr int headerHeight = 28;
 inline constexpr int timeColumn = 44;
 inline constexpr int rowPadding = 6;
@@ -40,7 +39,7 @@ inline constexpr int menuTextWidth = 240; ///< of an entry that shows what the u
 inline constexpr int fieldHeight = 32;
 inline constexpr int flatButtonHeight = 24;
 inline constexpr int accentWidth = 3; ///< of the edge of the row being edited
-inline constexpr int focusWidth = 2; ///< of the outline around what has the focus
+inline constexpr int focusWidth = 2;  ///< of the outline around what has the focus
 inline constexpr int barHeight = 28;
 inline constexpr int suggestionHeight = 28;
 inline constexpr int heightBesideSuggestions = 200; ///< in the panel, for three rows, the field and the bars

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QPainter>
 
 namespace {
@@ -149,6 +150,15 @@ void NoteStyle::drawLine(QPainter &painter, const QRect &rect, const QString &te
     painter.drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
     painter.setFont(font);
+}
+
+QLabel *NoteStyle::newLabel(const QString &text, const QFont &font, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setFont(font);
+    return label;
 }
 
 void NoteStyle::fillRounded(QPainter &painter, const QRectF &rect, int radius, const QColor &color)

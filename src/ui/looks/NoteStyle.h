@@ -7,9 +7,11 @@
 #include <QFont>
 #include <QPalette>
 
+class QLabel;
 class QPainter;
 class QRect;
 class QRectF;
+class QWidget;
 
 /// The colours and fonts of the panel, and the shapes that all its parts are painted with.
 namespace NoteStyle {
@@ -32,6 +34,8 @@ namespace NoteStyle {
 /// One line, elided to the width of @p rect, in the typeface of the text.
 void drawLine(
     QPainter &painter, const QRect &rect, const QString &text, Qt::Alignment alignment = Qt::AlignLeft);
+/// Plain text, in as many lines as it needs.
+[[nodiscard]] QLabel *newLabel(const QString &text, const QFont &font, QWidget *parent);
 /// A ground with round corners and no outline.
 void fillRounded(QPainter &painter, const QRectF &rect, int radius, const QColor &color);
 /// Around what has the focus.

@@ -19,18 +19,6 @@ struct RowKey {
     QKeySequence key;
     const char *text;
 };
-
-QLabel *label(const QString &text, Design::Tint tint, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(NoteStyle::font());
-    label->setWordWrap(true);
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, NoteStyle::color(colors, tint));
-    label->setPalette(colors);
-    return label;
-}
 } // namespace
 
 void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &modes)
@@ -42,9 +30,10 @@ void KeyPage::show(QWidget &panel, const QString &hotKey, const QList<Entry> &mo
     rows->setHorizontalSpacing(Design::edge);
     rows->setVerticalSpacing(Design::grid);
     const auto addText = [rows, table](const QString &key, const QString &text) {
-        auto *name = label(key, Design::metaText, table);
+        QLabel *name = NoteStyle::newLabel(key, NoteStyle::font(), table);
         name->setWordWrap(false);
-        rows->addRow(name, label(text, Design::text, table));
+        name->setForegroundRole(QPalette::PlaceholderText);
+        rows->addRow(name, NoteStyle::newLabel(text, NoteStyle::font(), table));
     };
     const auto add = [&addText](const QKeySequence &key, const QString &text) {
         addText(key.toString(QKeySequence::NativeText), text);
