@@ -272,6 +272,7 @@ void ComposerView::submit()
     const QString draft = m_state.draft();
     if (const auto editingID = m_state.editingID()) {
         m_store.update(*editingID, draft);
+        m_suppressReminder = true; // or the bar would show between the end of the edit and that of the draft
         m_state.setEditingID({});
     } else if (m_state.quoting()) {
         m_store.add(draft, m_state.quoting());

@@ -79,8 +79,8 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
         m_state.focusComposer();
     };
     const auto edit = [this, note] {
+        m_state.setEditingID(note.id); // first, or the bar of a new reminder would show for a moment
         m_state.setDraft(note.text);
-        m_state.setEditingID(note.id);
         m_state.setQuoting({});
         m_state.focusComposer();
     };
