@@ -43,6 +43,7 @@ void StatusLine::tell(const QString &text, const std::function<void()> &undo)
     raise(); // above the lists
     show();
     m_closing.start();
+    Q_EMIT covers(height());
 }
 
 void StatusLine::undo()
@@ -55,12 +56,12 @@ void StatusLine::undo()
 
 void StatusLine::dismiss()
 {
-    const bool hadFocus = hasFocusWithin();
     m_undo = {};
     m_closing.stop();
+    if (hasFocusWithin())
+        Q_EMIT left(); // before hiding it gives the focus to the next in the order of the Tab key
     hide();
-    if (hadFocus)
-        Q_EMIT left();
+    Q_EMIT covers(0);
 }
 
 bool StatusLine::hasFocusWithin() const

@@ -23,7 +23,8 @@ public:
     [[nodiscard]] bool hasFocusWithin() const;
 
 Q_SIGNALS:
-    void left(); ///< it is closing and had the focus
+    void left();             ///< it is closing and has the focus
+    void covers(int height); ///< so much of what it is over, at the bottom; 0 when it is closed
 
 protected:
     void paintEvent(QPaintEvent *event) override;
