@@ -322,33 +322,11 @@ private Q_SLOTS:
         QCOMPARE(panel.where(), u"timeline: 58"_s);
     }
 
-    void every_entry_of_a_menu_is_a_key()
+    void the_keys_of_a_menu_act_on_the_current_row()
     {
         FilledPanel panel;
-        const Note quoted = panel.notes.notes().first();
-        panel.notes.add(u"reply"_s, quoted);
-        panel.notes.add(u"page"_s, {}, u"https://example.com/"_s);
-        const auto entries = [&panel](const char *name, int row) {
-            QStringList shown;
-            auto &list = *panel.find<RowListView>(name);
-            list.showMenuOfRow(row);
-            auto *menu = list.findChild<QMenu *>();
-            for (const QAction *action : menu->actions()) {
-                if (!action->isSeparator())
-                    shown.append(action->text().replace(u'\t', u' '));
-            }
-            delete menu;
-            return shown;
-        };
-        const QStringList all = {u"引用 Ctrl+R"_s, u"复制 Ctrl+C"_s, u"删除 Del"_s};
-        QCOMPARE(entries("timeline", 1),
-            all + QStringList({u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"打开链接 Ctrl+Return"_s}));
-        QCOMPARE(entries("timeline", 2),
-            all + QStringList({u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"跳转到引用的笔记 Alt+Left"_s}));
-        QCOMPARE(entries("timeline", 3),
-            all + QStringList({u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"跳转到最新回复 Alt+Right"_s}));
-        QCOMPARE(entries("timeline", 4),
-            all + QStringList({u"取消提醒 Ctrl+D"_s, u"相关笔记 Ctrl+L"_s, u"编辑 Return"_s, u"筛选 #t"_s}));
+        panel.notes.add(u"reply"_s, panel.notes.notes().first());
+        panel.notes.add(u"page"_s);
         panel.list().goTo(2);
         panel.key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(panel.where(), u"timeline: two"_s);

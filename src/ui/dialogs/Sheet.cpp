@@ -14,19 +14,11 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 constexpr int padding = Design::edge + 2 * Design::grid;
-
-QLabel *label(const QString &text, const QFont &font, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setFont(font);
-    return label;
-}
 } // namespace
 
 Sheet::Sheet(QWidget *owner, const QString &title, const QString &text)
@@ -47,8 +39,7 @@ Sheet::Sheet(QWidget *owner, const QString &title, const QString &text)
     } else {
         m_window = std::make_unique<FloatingWindow>(Qt::Dialog | Qt::WindowStaysOnTopHint,
             owner ? FloatingWindow::backdropOver(*owner) : FloatingWindow::Backdrop::None,
-            FloatingWindow::Shape{Design::panelRadius, Design::shadowMargin},
-            owner ? owner->window() : nullptr);
+            FloatingWindow::Shape{Design::panelRadius, Design::shadowMargin});
         m_window->setWindowTitle(title);
         m_window->setWindowModality(Qt::ApplicationModal);
         auto *window = new QVBoxLayout(m_window.get());
@@ -62,9 +53,9 @@ Sheet::Sheet(QWidget *owner, const QString &title, const QString &text)
     page->addStretch();
     m_content->setContentsMargins(padding, padding, padding, padding);
     m_content->setSpacing(Design::edge);
-    m_content->addWidget(label(title, NoteStyle::headerFont(), m_card));
+    m_content->addWidget(NoteStyle::newLabel(title, NoteStyle::headerFont(), m_card));
     if (!text.isEmpty())
-        m_content->addWidget(label(text, NoteStyle::font(), m_card));
+        m_content->addWidget(NoteStyle::newLabel(text, NoteStyle::font(), m_card));
     m_content->addLayout(m_buttons);
     m_buttons->setContentsMargins(0, Design::grid, 0, 0);
     m_buttons->setSpacing(Design::edge);
@@ -89,13 +80,14 @@ void Sheet::addButton(const QString &text, CapsuleButton::Kind kind)
 
 int Sheet::ask()
 {
+    QEventLoop loop;
+    m_loop = &loop;
     if (m_behind)
         cover();
     else
         showAlone();
-    QEventLoop loop;
-    m_loop = &loop;
     loop.exec();
+    answer(noAnswer); // when the program ends
     return m_answer;
 }
 
@@ -109,6 +101,18 @@ void Sheet::cover()
     // As for a popup, so that a list keeps its current row.
     m_buttons->itemAt(m_buttons->count() - 1)->widget()->setFocus(Qt::PopupFocusReason);
     m_behind->setEnabled(false); // neither mouse nor keys nor shortcuts reach it
+}
+
+void Sheet::uncover()
+{
+    const auto sheets = window()->findChildren<Sheet *>(QString(), Qt::FindDirectChildrenOnly);
+    m_behind->setEnabled(
+        std::none_of(sheets.begin(), sheets.end(), [](const Sheet *sheet) { return sheet->m_loop; }));
+    const QWidget *focused = window()->focusWidget();
+    if (focused && !isAncestorOf(focused))
+        return; // another sheet has it, or what is behind has taken it
+    const bool isThere = m_focusBefore && m_focusBefore->isVisibleTo(window());
+    (isThere ? m_focusBefore.data() : m_behind)->setFocus(Qt::PopupFocusReason);
 }
 
 void Sheet::showAlone()
@@ -130,11 +134,8 @@ void Sheet::answer(int button)
         return;
     m_answer = button;
     loop->quit();
-    if (m_behind) {
-        m_behind->setEnabled(true);
-        if (m_focusBefore)
-            m_focusBefore->setFocus(Qt::PopupFocusReason);
-    }
+    if (m_behind)
+        uncover();
     QWidget *shown = this;
     if (m_window)
         shown = m_window.get();
@@ -150,10 +151,16 @@ bool Sheet::eventFilter(QObject *watched, QEvent *event)
 
 bool Sheet::focusNextPrevChild(bool next)
 {
-    QWidget *widget = window()->focusWidget();
+    if (!m_loop)
+        return QWidget::focusNextPrevChild(next); // out of it: it is being hidden
+    QWidget *widget = this;
+    if (const QWidget *focused = window()->focusWidget(); focused && isAncestorOf(focused))
+        widget = window()->focusWidget();
+    const QWidget *start = widget;
     do {
         widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-    } while (!isAncestorOf(widget) || !(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible());
+    } while (widget != start
+             && (!isAncestorOf(widget) || !(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible()));
     widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
 }

@@ -42,6 +42,7 @@ protected:
 
 private:
     void cover();
+    void uncover();
     void showAlone();
 
     QWidget *m_behind = nullptr; ///< what it covers in the panel

@@ -131,6 +131,11 @@ void ContentView::addList(PanelMode mode, RowListView &list, QWidget &page)
     m_pages[qsizetype(mode)].list = &list;
     m_stack->insertWidget(int(mode), &page);
     connect(&list, &RowListView::done, m_statusLine, &StatusLine::tell);
+    connect(m_statusLine, &StatusLine::covers, &list, [&list](int height) {
+        list.setCoveredBelow(height);
+        if (height > 0 && list.currentRow() >= 0)
+            list.scrollTo(list.currentRow());
+    });
     if (hasComposer(mode)) {
         connect(&list, &RowListView::left, m_composer, qOverload<>(&QWidget::setFocus));
         list.setAttribute(Qt::WA_InputMethodEnabled);
@@ -258,6 +263,14 @@ void ContentView::modeDidChange()
 bool ContentView::isComposing() const
 {
     return m_composer->isComposing();
+}
+
+void ContentView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    // A jump may have gone to a row while a question stood and the list could not take the focus.
+    if (event->type() == QEvent::EnabledChange && isEnabled() && list().currentRow() >= 0)
+        list().setFocus(Qt::PopupFocusReason);
 }
 
 void ContentView::keyPressEvent(QKeyEvent *event)

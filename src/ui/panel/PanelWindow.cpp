@@ -93,8 +93,8 @@ void PanelWindow::hideEvent(QHideEvent *event)
 
 void PanelWindow::checkFocus()
 {
-    // The program's own menus and dialogs do not count.
-    if (!QApplication::activePopupWidget() && !QApplication::activeModalWidget())
+    // The program's own menus and dialogs do not count, and a question stands until it is answered.
+    if (!QApplication::activePopupWidget() && !QApplication::activeModalWidget() && m_content->isEnabled())
         Q_EMIT focusLost();
 }
 
