@@ -354,6 +354,11 @@ private Q_SLOTS:
             return panel.content->isEnabled();
         };
         QVERIFY(ask([&] {
+            panel.state().setMode(PanelMode::Timeline);
+            escape();
+        }));
+        QVERIFY(panel.field()->hasFocus());
+        QVERIFY(ask([&] {
             panel.state().openNote(note.id);
             escape();
         }));
