@@ -92,13 +92,15 @@ public:
     /// Clicks the part, which is searched for point by point.
     void clickPart(int row, RowPart part)
     {
-        const QRect rect = list().rectOf(row);
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, pointOn(list(), row, part));
+    }
+    static QPoint pointOn(RowListView &view, int row, const RowPart &part)
+    {
+        const QRect rect = view.rectOf(row);
         for (int y = rect.top(); y < rect.bottom(); y += 2) {
             for (int x = rect.left(); x < rect.right(); x += 2) {
-                if (list().hitAt({x, y}) == RowListView::Hit{row, part}) {
-                    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {x, y});
-                    return;
-                }
+                if (view.hitAt({x, y}) == RowListView::Hit{row, part})
+                    return {x, y};
             }
         }
         qFatal("no such part in row %d", row);

@@ -327,6 +327,10 @@ private Q_SLOTS:
         FilledPanel panel;
         panel.notes.add(u"reply"_s, panel.notes.notes().first());
         panel.notes.add(u"page"_s);
+        panel.list().goTo(4);
+        QKeyEvent unknown(QEvent::KeyPress, 0, Qt::NoModifier);
+        QCoreApplication::sendEvent(&panel.list(), &unknown);
+        QCOMPARE(panel.state().draft(), QString()); // no entry without a key
         panel.list().goTo(2);
         panel.key(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(panel.where(), u"timeline: two"_s);
@@ -388,8 +392,22 @@ private Q_SLOTS:
         auto *tags = panel.find<RowListView>("tagList");
         const QPoint where = tags->rectOf(0).center() + QPoint(0, 20);
         panel.clickRow(*tags, 0);
-        QTest::mouseDClick(panel.list().viewport(), Qt::LeftButton, {}, where);
+        const auto clickAgain = [](const RowListView &list, QPoint point) {
+            QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, point);
+            QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, point);
+        };
+        clickAgain(panel.list(), where);
         QVERIFY(!panel.state().editingID());
+
+        const QUuid other = panel.notes.notes().first().id;
+        panel.reminders.schedule(other, at("2026-03-04T02:00:00Z"), u"two"_s, u"two"_s);
+        panel.digit(Qt::Key_3);
+        auto *reminders = panel.find<RowListView>("reminderList");
+        const QPoint bell = panel.pointOn(*reminders, 0, {RowPart::Kind::Button, 0});
+        QTest::mouseClick(reminders->viewport(), Qt::LeftButton, {}, bell);
+        clickAgain(*reminders, bell);
+        QCOMPARE(panel.reminders.reminders().size(), 1);
+        QCOMPARE(panel.where(), u"reminderList: two"_s);
     }
 };
 

@@ -276,7 +276,10 @@ private Q_SLOTS:
     void what_was_done_is_told_and_taken_back()
     {
         TestPanel panel;
-        panel.notes.add(u"一"_s);
+        const QUuid note = panel.notes.add(u"一"_s)->id;
+        const Instant later = panel.clock.now() + std::chrono::hours(1);
+        panel.reminders.schedule(note, later, u"一"_s, u"一"_s);
+        panel.reminders.schedule(note, later + std::chrono::hours(1), u"一"_s, u"一"_s);
         QTRY_VERIFY(panel.field()->hasFocus());
         auto *line = panel.find<StatusLine>("statusLine");
         auto *undo = line->findChild<QPushButton *>();
@@ -287,14 +290,17 @@ private Q_SLOTS:
         panel.press(Qt::Key_Down);
         QTest::keyClick(&panel.list(), Qt::Key_Delete);
         QCOMPARE(panel.told(), u"已移到回收站"_s);
+        QVERIFY(panel.reminders.reminders().isEmpty());
+        panel.clock.advance(std::chrono::hours(1));
         undo->setFocus();
         wait();
         QCOMPARE(panel.told(), u"已移到回收站"_s); // while the focus is on it
         QTest::keyClick(undo, Qt::Key_Return);
         QCOMPARE(panel.rows().last(), u"一"_s);
         QCOMPARE(panel.told(), QString());
-        QVERIFY(panel.field()->hasFocus());
-        panel.press(Qt::Key_Down);
+        QCOMPARE(panel.reminders.reminders().size(), 1); // what is still to come
+        QVERIFY(panel.list().hasFocus());
+        QCOMPARE(panel.list().currentRow(), 1);
         QTest::keyClick(&panel.list(), Qt::Key_Delete);
         QTest::keyClick(&panel.list(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(panel.rows().last(), u"一"_s);

@@ -3,8 +3,6 @@
 #include "model/NoteStore.h"
 #include "model/ReminderStore.h"
 #include "text/L10n.h"
-#include "text/NoteHighlighting.h"
-#include "text/WebLink.h"
 #include "ui/lists/RelatedNotesView.h"
 #include "ui/lists/TimelineModel.h"
 #include "ui/looks/Design.h"
@@ -12,11 +10,13 @@
 #include "ui/panel/PanelState.h"
 
 #include <QDesktopServices>
-#include <QSet>
+#include <QHash>
 #include <QTimer>
 #include <QUrl>
 
 namespace {
+constexpr int maxTargets = 5; ///< addresses, and tags, of a note in its menu; a click reaches all
+
 /// Empty for an address that may do more than show a page or a file: an imported note can contain any.
 QUrl openable(const QString &address)
 {
@@ -84,14 +84,10 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
         m_state.setQuoting({});
         m_state.focusComposer();
     };
-    const auto remove = [this, id = note.id] {
-        m_notes.remove(id);
-        Q_EMIT done(L10n::text("已移到回收站"), [this, id] { m_notes.restore(id); });
-    };
     QList<Action> actions = {
         {L10n::text("引用"), Qt::CTRL | Qt::Key_R, quote},
         copyAction(row),
-        {L10n::text("删除"), Qt::Key_Delete, remove, {}, true},
+        {L10n::text("删除"), Qt::Key_Delete, [this, id = note.id] { remove(id); }, {}, true},
         {},
     };
     if (m_reminders.hasReminder(note.id)) {
@@ -105,24 +101,20 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     actions.append(Action());
     actions.append({L10n::text("编辑"), Qt::Key_Return, edit});
     QKeySequence openKey = Qt::CTRL | Qt::Key_Return; // for the first
-    QSet<QString> known;
-    const auto addOpening = [&](const QString &title, const QString &address, RowPart::Kind part) {
-        if (known.contains(address))
-            return;
-        known.insert(address);
-        actions.append(
-            {title, std::exchange(openKey, {}), [this, address] { open(address); }, part, false, address});
-    };
-    if (note.link)
-        addOpening(L10n::text("打开链接"), *note.link, RowPart::Kind::Link);
-    for (const WebLink::Address &each : WebLink::addresses(note.text))
-        addOpening(L10n::text("打开 %@", QStringList{each.address}), each.address, RowPart::Kind::Address);
-    QStringList tags = NoteHighlighting::tags(note.text);
-    tags.removeDuplicates();
-    for (const QString &tag : std::as_const(tags)) {
-        const QString name = tag.sliced(1);
-        actions.append({L10n::text("筛选 #%@", QStringList{name}), {},
-            [this, name] { m_state.filterByTag(name); }, RowPart::Kind::Tag, false, tag});
+    if (note.link && !openable(*note.link).isEmpty()) {
+        actions.append({L10n::text("打开链接"), std::exchange(openKey, {}),
+            [this, link = *note.link] { open(link); }, RowPart::Kind::Link});
+    }
+    QStringList known{note.link.value_or(QString())};
+    QHash<RowPart::Kind, int> count;
+    for (const auto &[range, part] : layoutOf(row).targets()) {
+        if (count[part.kind] == maxTargets || known.contains(part.target))
+            continue;
+        ++count[part.kind];
+        known.append(part.target);
+        actions.append(actionOnText(part));
+        if (part.kind == RowPart::Kind::Address)
+            actions.last().key = std::exchange(openKey, {});
     }
     if (note.quoteID && m_notes.note(*note.quoteID)) {
         actions.append({L10n::text("跳转到引用的笔记"), Qt::ALT | Qt::Key_Left,
@@ -137,6 +129,40 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
             {L10n::text("跳转到最新回复"), Qt::ALT | Qt::Key_Right, jumpToReply, RowPart::Kind::Button});
     }
     return actions;
+}
+
+RowListView::Action NoteListView::actionOnText(const RowPart &part)
+{
+    if (part.kind == RowPart::Kind::Address) {
+        const auto open = [this, address = part.target] { this->open(address); };
+        return {L10n::text("打开 %@", QStringList{part.target}), {}, open};
+    }
+    const QString tag = part.target.sliced(1);
+    const auto filter = [this, tag] { m_state.filterByTag(tag); };
+    return {L10n::text("筛选 #%@", QStringList{tag}), {}, filter};
+}
+
+void NoteListView::remove(QUuid id)
+{
+    if (!m_notes.note(id))
+        return; // gone while the menu was open
+    QList<Reminder> reminders = m_reminders.reminders();
+    reminders.removeIf([id](const Reminder &reminder) { return reminder.noteID != id; });
+    m_notes.remove(id);
+    Q_EMIT done(L10n::text("已移到回收站"), [this, id, reminders] { undoRemoval(id, reminders); });
+}
+
+void NoteListView::undoRemoval(QUuid id, const QList<Reminder> &reminders)
+{
+    m_notes.restore(id);
+    if (!m_notes.note(id))
+        return; // the trash has been emptied
+    for (const Reminder &reminder : reminders)
+        m_reminders.schedule(id, reminder.fireAt, reminder.text, reminder.fullText);
+    if (const QModelIndex index = m_timeline.indexOf(id); index.isValid() && isVisible()) {
+        goTo(index.row());
+        scrollTo(index.row());
+    }
 }
 
 QUrl NoteListView::linkOf(int row) const

@@ -12,6 +12,7 @@ class PanelState;
 class ReminderStore;
 class TimelineModel;
 struct Note;
+struct Reminder;
 
 /// The timeline: the notes by day, filtered by the draft, and the actions of a note.
 class NoteListView final : public RowListView
@@ -31,12 +32,15 @@ public:
 
 protected:
     QList<Action> actionsOf(int row) override;
+    [[nodiscard]] Action actionOnText(const RowPart &part) override;
     [[nodiscard]] RowPainter::Marks marksOf(int row) const override;
     [[nodiscard]] QUrl linkOf(int row) const override;
 
 private:
     void queryDidChange();
     void open(const QString &address);
+    void remove(QUuid id);
+    void undoRemoval(QUuid id, const QList<Reminder> &reminders);
     void showRelated(const Note &note);
     void jumpToExternalTarget();
 

@@ -86,6 +86,7 @@ RowLayout::RowLayout(RowContent content, int width, const QPalette &palette)
     m_text.setTextOption(option);
     const int textTop = y;
     fold({left, y}, textWidth, palette);
+    findTargets();
     const QTextLine last = m_text.lineAt(m_text.lineCount() - 1);
     const int firstLine = int(m_text.lineAt(0).height());
     y = int(last.y() + last.height());
@@ -110,6 +111,8 @@ void RowLayout::showText(qsizetype from, qsizetype maxLength, const QPalette &pa
     QString text = rest.first(std::min(maxLength, rest.size())).toString();
     if (from > 0)
         text.prepend(ellipsis);
+    m_from = from;
+    m_own = {from > 0, text.size()};
     if (rest.size() > maxLength)
         text.append(ellipsis);
     m_text.setText(text.replace(u'\n', QChar::LineSeparator));
@@ -190,7 +193,7 @@ RowPart RowLayout::partAt(QPoint point) const
         return {RowPart::Kind::Link};
     if (isOnText(point)) {
         const int unit = unitAt(point);
-        for (const Target &target : targets()) {
+        for (const Target &target : m_targets) {
             if (target.range.start <= unit && unit < target.range.end)
                 return target.part;
         }
@@ -228,12 +231,21 @@ int RowLayout::positionAt(QPoint point) const
     return line.xToCursor(point.x());
 }
 
-QList<RowLayout::Target> RowLayout::targets() const
+void RowLayout::findTargets()
 {
-    QList<Target> targets;
-    for (const WebLink::Address &address : WebLink::addresses(m_text.text()))
-        targets.append({address.range, {RowPart::Kind::Address, -1, address.address}});
-    for (const TagEditing::Token &tag : TagEditing::tokens(m_text.text()))
-        targets.append({tag.range, {RowPart::Kind::Tag, -1, tag.text}});
-    return targets;
+    const QStringView text = m_content.text;
+    const bool beginsInWord = m_from > 0 && !text[m_from - 1].isSpace();
+    const qsizetype shownEnd = m_from + m_own.length();
+    qsizetype end = shownEnd; // of the word that is cut there, so that no part of it passes for the whole
+    while (end < text.size() && end < shownEnd + maxFolded && !text[end].isSpace())
+        ++end;
+    const QStringView shown = text.sliced(m_from, end - m_from);
+    const auto add = [&](const TextRange &range, RowPart::Kind kind, const QString &target) {
+        if (range.end <= m_own.length() && (range.start > 0 || !beginsInWord))
+            m_targets.append({{range.start + m_own.start, range.end + m_own.start}, {kind, -1, target}});
+    };
+    for (const WebLink::Address &address : WebLink::addresses(shown))
+        add(address.range, RowPart::Kind::Address, address.address);
+    for (const TagEditing::Token &tag : TagEditing::tokens(shown))
+        add(tag.range, RowPart::Kind::Tag, tag.text);
 }

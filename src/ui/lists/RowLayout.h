@@ -45,7 +45,10 @@ public:
         TextRange range;
         RowPart part;
     };
-    [[nodiscard]] QList<Target> targets() const; ///< the addresses in the text, then the tags
+    /// The addresses in the text, then the tags; without those that are not shown whole.
+    [[nodiscard]] const QList<Target> &targets() const { return m_targets; }
+    /// What of the text is the row's own, and no mark of what is left out.
+    [[nodiscard]] const TextRange &ownText() const { return m_own; }
 
 private:
     /// A part of the text, as long as is useful; what is left out is marked.
@@ -54,10 +57,14 @@ private:
     int breakLines(QPoint topLeft, int width, int maxLines);
     /// Decides which part of the text is shown, and breaks it.
     void fold(QPoint topLeft, int width, const QPalette &palette);
+    void findTargets();
     [[nodiscard]] QTextLine lineAt(int y) const; ///< or the nearest
 
     RowContent m_content;
     QTextLayout m_text;
+    qsizetype m_from = 0; ///< where the shown part of the text begins
+    TextRange m_own;
+    QList<Target> m_targets;
     Parts m_parts;
     QString m_foldText;
     int m_height = 0;

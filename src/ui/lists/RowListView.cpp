@@ -8,16 +8,13 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDrag>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeData>
-#include <QToolTip>
-#include <QUrl>
 
 RowListView::RowListView(RowModel &model, QWidget *parent)
     : RowScrollArea(model, parent)
+    , m_mouse(*this)
 {
 }
 
@@ -75,13 +72,13 @@ void RowListView::didInsertRows(int first, int count)
 {
     if (m_current >= first)
         m_current += count;
-    m_hover = m_pressed = m_clicked = {};
+    m_mouse.forgetRows();
     RowScrollArea::didInsertRows(first, count);
 }
 
 void RowListView::didRemoveRows(int first, int count)
 {
-    m_hover = m_pressed = m_clicked = {};
+    m_mouse.forgetRows();
     RowScrollArea::didRemoveRows(first, count);
     if (m_current >= first + count) {
         m_current -= count;
@@ -117,7 +114,7 @@ void RowListView::focusOutEvent(QFocusEvent *event)
 void RowListView::hideEvent(QHideEvent *event)
 {
     setCurrentRow(-1);
-    m_clicked = {};
+    m_mouse.forgetRows();
     RowScrollArea::hideEvent(event);
 }
 
@@ -144,7 +141,7 @@ std::function<void()> RowListView::actionOf(int row, const QKeySequence &key)
 {
     if (isEntry(row)) {
         for (const Action &action : allActionsOf(row)) {
-            if (!action.title.isEmpty() && action.key == key)
+            if (!action.key.isEmpty() && action.key == key)
                 return action.run;
         }
     }
@@ -215,30 +212,7 @@ void RowListView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-// The mouse
-
-RowListView::Hit RowListView::hitAt(QPoint point)
-{
-    const int row = rowAt(point);
-    if (!isEntry(row))
-        return {};
-    const Hit hit{row, layoutOf(row).partAt(point - rectOf(row).topLeft())};
-    const bool isPlainText = !hit.part.target.isEmpty() && !actionOn(hit); // a shortened address, say
-    return isPlainText ? Hit{row, {RowPart::Kind::Body}} : hit;
-}
-
-std::function<void()> RowListView::actionOn(const Hit &hit)
-{
-    if (hit.row < 0)
-        return {};
-    for (const Action &action : allActionsOf(hit.row)) {
-        const RowPart &part = hit.part;
-        const bool isMeant = part.target.isEmpty() ? action.part == part.kind : action.target == part.target;
-        if (isMeant && action.part != RowPart::Kind::None)
-            return action.run;
-    }
-    return {};
-}
+// The mouse and the menu
 
 RowPainter::Marks RowListView::marksOf(int row) const
 {
@@ -246,115 +220,27 @@ RowPainter::Marks RowListView::marksOf(int row) const
     marks.isCurrent = row == m_current;
     if (marks.isCurrent) {
         marks.ground = NoteStyle::color(palette(), Design::editingGround);
-        marks.selected = selectedRange();
-    } else if (row == m_hover.row) {
+        marks.selected = m_mouse.selectedRange();
+    } else if (row == m_mouse.hover().row) {
         marks.ground = NoteStyle::color(palette(), Design::hoverGround);
     }
-    if (row == m_hover.row)
-        marks.hovered = m_hover.part;
+    if (row == m_mouse.hover().row)
+        marks.hovered = m_mouse.hover().part;
     return marks;
-}
-
-void RowListView::setHover(const Hit &hover)
-{
-    if (hover == m_hover)
-        return;
-    viewport()->update(rectOf(m_hover.row));
-    viewport()->update(rectOf(hover.row));
-    m_hover = hover;
-    m_isHoverClickable = bool(actionOn(hover));
-}
-
-Qt::CursorShape RowListView::cursorAt(QPoint point) const
-{
-    if (m_isHoverClickable)
-        return Qt::PointingHandCursor;
-    const int row = rowAt(point);
-    if (!isEntry(row) || !isCopyable())
-        return Qt::ArrowCursor;
-    const RowLayout &layout = layoutOf(row);
-    const QPoint inRow = point - rectOf(row).topLeft();
-    const bool isSelected = row == m_current && m_selection.contains(layout, inRow); // and can be dragged
-    return layout.isOnText(inRow) && !isSelected ? Qt::IBeamCursor : Qt::ArrowCursor;
-}
-
-void RowListView::mouseMoveEvent(QMouseEvent *event)
-{
-    const QPoint point = event->position().toPoint();
-    const bool isFar = (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
-    if (m_pressed.row >= 0 && isFar && isCopyable()) {
-        const int row = std::exchange(m_pressed, {}).row;
-        m_isSelecting = !m_dragsOut;
-        setHover({});
-        if (m_dragsOut) {
-            drag(row);
-            return;
-        }
-    }
-    if (m_isSelecting) {
-        m_selection.extendTo(layoutOf(m_current), point - rectOf(m_current).topLeft());
-        viewport()->update(rectOf(m_current));
-        return;
-    }
-    setHover(hitAt(point));
-    viewport()->setCursor(cursorAt(point));
 }
 
 void RowListView::leaveEvent(QEvent *event)
 {
-    setHover({});
+    m_mouse.setHover({});
     RowScrollArea::leaveEvent(event);
 }
 
-void RowListView::mousePressEvent(QMouseEvent *event)
+bool RowListView::viewportEvent(QEvent *event)
 {
-    const QPoint point = event->position().toPoint();
-    const Hit hit = hitAt(point);
-    if (hit.row >= 0)
-        goTo(hit.row);
-    m_clicked = m_pressed = {};
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_pressed = hit;
-    m_pressPoint = point;
-    const QPoint inRow = point - rectOf(hit.row).topLeft();
-    m_dragsOut = hit.row >= 0 && m_selection.contains(layoutOf(hit.row), inRow);
-    if (m_dragsOut)
-        return;
-    clearSelection();
-    m_dragsOut = hit.row < 0 || !layoutOf(hit.row).isOnText(inRow);
-    if (!m_dragsOut)
-        m_selection.begin(layoutOf(hit.row), inRow);
-}
-
-void RowListView::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    if (std::exchange(m_isSelecting, false)) {
-        QClipboard *clipboard = QGuiApplication::clipboard();
-        if (clipboard->supportsSelection() && !selectedRange().isEmpty())
-            clipboard->setText(selectedText(), QClipboard::Selection);
-        return;
-    }
-    const Hit pressed = std::exchange(m_pressed, {});
-    if (pressed.row < 0)
-        return;
-    clearSelection();
-    if (pressed != hitAt(event->position().toPoint()))
-        return;
-    m_clicked = pressed;
-    if (const auto run = actionOn(pressed))
-        run();
-}
-
-void RowListView::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    // The first click may have been on what was here before.
-    if (hitAt(event->position().toPoint()) != m_clicked)
-        mousePressEvent(event);
-    else if (m_clicked.part.kind == RowPart::Kind::Body)
-        activateRow(m_clicked.row);
+    if (event->type() != QEvent::ToolTip)
+        return RowScrollArea::viewportEvent(event);
+    m_mouse.showHelp(*static_cast<QHelpEvent *>(event));
+    return true;
 }
 
 void RowListView::contextMenuEvent(QContextMenuEvent *event)
@@ -390,25 +276,6 @@ void RowListView::popUpMenu(int row, QPoint globalPosition)
     menu->popup(globalPosition);
 }
 
-// Text that is selected, copied or dragged out
-
-TextRange RowListView::selectedRange() const
-{
-    return m_current < 0 ? TextRange() : m_selection.rangeIn(layoutOf(m_current));
-}
-
-QString RowListView::selectedText() const
-{
-    return m_current < 0 ? QString() : m_selection.textIn(layoutOf(m_current));
-}
-
-void RowListView::clearSelection()
-{
-    m_selection = {};
-    m_isSelecting = false;
-    viewport()->update();
-}
-
 QString RowListView::textToCopy(int row) const
 {
     const QString selected = row == m_current ? selectedText() : QString();
@@ -422,32 +289,4 @@ RowListView::Action RowListView::copyAction(int row)
         Q_EMIT done(L10n::text("已复制"));
     };
     return {L10n::text("复制"), QKeySequence::Copy, copy};
-}
-
-void RowListView::drag(int row)
-{
-    auto *content = new QMimeData;
-    content->setText(textToCopy(row));
-    if (const QUrl link = linkOf(row); !link.isEmpty() && selectedRange().isEmpty())
-        content->setUrls({link});
-    auto *drag = new QDrag(this);
-    drag->setMimeData(content);
-    drag->setPixmap(RowPainter::dragged(content->text(), *this));
-    drag->exec(Qt::CopyAction);
-}
-
-bool RowListView::viewportEvent(QEvent *event)
-{
-    if (event->type() != QEvent::ToolTip)
-        return RowScrollArea::viewportEvent(event);
-    const auto *help = static_cast<QHelpEvent *>(event);
-    const int row = rowAt(help->pos());
-    const Hit hit = hitAt(help->pos());
-    const RowContent content = row < 0 ? RowContent() : model().content(row);
-    QToolTip::showText(help->globalPos(),
-        content.isHeader()     ? content.help
-        : hit.part.symbol >= 0 ? content.symbols[hit.part.symbol].help
-                               : QString(),
-        viewport(), content.isHeader() ? QRect() : rectOf(row));
-    return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "ui/lists/RowMouse.h"
 #include "ui/lists/RowScrollArea.h"
-#include "ui/lists/RowSelection.h"
 
 #include <QKeySequence>
 
@@ -33,7 +33,6 @@ public:
         std::function<void()> run;
         RowPart::Kind part = RowPart::Kind::None; ///< that a click on does it
         bool isDestructive = false;
-        QString target = {}; ///< an address or a tag in the text, that a click on does it as well
     };
     [[nodiscard]] QList<Action> allActionsOf(int row); ///< in the order of its menu
 
@@ -41,16 +40,12 @@ public:
     void activateRow(int row);
     void showMenuOfRow(int row);
 
-    struct Hit {
-        int row = -1;
-        RowPart part;
-        bool operator==(const Hit &) const = default;
-    };
-    [[nodiscard]] Hit hitAt(QPoint point);
+    using Hit = RowMouse::Hit;
+    [[nodiscard]] Hit hitAt(QPoint point) const { return m_mouse.hitAt(point); }
 
     /// In the text of the current row, by the mouse; empty for nothing.
-    [[nodiscard]] QString selectedText() const;
-    void clearSelection();
+    [[nodiscard]] QString selectedText() const { return m_mouse.selectedText(); }
+    void clearSelection() { m_mouse.clearSelection(); }
 
 Q_SIGNALS:
     /// @p undo takes it back; empty where that is impossible.
@@ -59,6 +54,8 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] virtual QList<Action> actionsOf(int row) = 0; ///< those that are the list's own
+    /// What a click on an address or a tag in the text does.
+    [[nodiscard]] virtual Action actionOnText(const RowPart &) { return {}; }
     [[nodiscard]] Action copyAction(int row); ///< of what is selected in the row, else of its whole text
     [[nodiscard]] virtual QUrl linkOf(int) const { return {}; }
     /// Whether its text can be selected, and dragged out. A click has no other meaning there then.
@@ -70,10 +67,10 @@ protected:
 
     void contextMenuEvent(QContextMenuEvent *event) override;
     void hideEvent(QHideEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override { m_mouse.doubleClick(*event); }
+    void mouseMoveEvent(QMouseEvent *event) override { m_mouse.move(*event); }
+    void mousePressEvent(QMouseEvent *event) override { m_mouse.press(*event); }
+    void mouseReleaseEvent(QMouseEvent *event) override { m_mouse.release(*event); }
     void leaveEvent(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -81,27 +78,17 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    friend RowMouse; // which is a part of it
+
     [[nodiscard]] bool isEntry(int row) const;
     [[nodiscard]] int entryFrom(int row, int step) const;    ///< @p row or the next entry; -1 beyond the ends
     [[nodiscard]] int nearestEntry(int row, int step) const; ///< in the other direction where there is none
     void moveCurrentRow(int row);
     // Empty for none.
     [[nodiscard]] std::function<void()> actionOf(int row, const QKeySequence &key);
-    [[nodiscard]] std::function<void()> actionOn(const Hit &hit); ///< by a click
-    void setHover(const Hit &hover);
-    [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const;
     [[nodiscard]] QString textToCopy(int row) const;
-    [[nodiscard]] TextRange selectedRange() const;
-    void drag(int row);
     void popUpMenu(int row, QPoint globalPosition);
 
     int m_current = -1;
-    Hit m_hover;
-    bool m_isHoverClickable = false;
-    Hit m_pressed; ///< none any more once the press has become a selection or a drag
-    QPoint m_pressPoint;
-    bool m_dragsOut = false; ///< as opposed to selecting
-    Hit m_clicked;
-    RowSelection m_selection; ///< in the current row
-    bool m_isSelecting = false;
+    RowMouse m_mouse;
 };

@@ -19,13 +19,16 @@ TextRange RowSelection::rangeIn(const RowLayout &row) const
 {
     if (m_anchor == m_caret || row.text().text() != m_text)
         return {};
-    return {std::min(m_anchor, m_caret), std::max(m_anchor, m_caret)};
+    const TextRange own = row.ownText();
+    return {std::max<qsizetype>(own.start, std::min(m_anchor, m_caret)),
+        std::min<qsizetype>(own.end, std::max(m_anchor, m_caret))};
 }
 
 QString RowSelection::textIn(const RowLayout &row) const
 {
     const TextRange range = rangeIn(row);
-    return m_text.mid(range.start, range.length()).replace(QChar::LineSeparator, u'\n');
+    return range.isEmpty() ? QString()
+                           : m_text.mid(range.start, range.length()).replace(QChar::LineSeparator, u'\n');
 }
 
 bool RowSelection::contains(const RowLayout &row, QPoint point) const
