@@ -97,6 +97,7 @@ void RelatedNotesView::popUp(const QRect &anchor)
     const QRect available = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + margin());
     const bool fitsBelow = anchor.bottom() + 1 - margin() + height() <= available.bottom();
     move(std::clamp(anchor.left() + Design::edge - margin(), available.left(), available.right() - width()),
-        fitsBelow ? anchor.bottom() + 1 - margin() : anchor.top() - height() + margin());
+        fitsBelow ? anchor.bottom() + 1 - margin()
+                  : std::max(available.top(), anchor.top() - height() + margin()));
     show();
 }

@@ -249,6 +249,7 @@ void ContentView::modeDidChange()
     if (isVisible() && hasComposer(mode))
         m_composer->setFocus(); // before the list is hidden, or Qt gives its focus to one after the other
     m_stack->setCurrentIndex(int(mode));
+    m_statusLine->raise(); // the layout has raised the list
     m_trashBar->setVisible(mode == PanelMode::Trash);
     if (!isVisible())
         return;
@@ -347,5 +348,6 @@ void ContentView::showEvent(QShowEvent *event)
 void ContentView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
+    m_statusLine->dismiss();
     m_nextMinute.stop();
 }
