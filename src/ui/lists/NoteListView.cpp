@@ -92,6 +92,8 @@ QList<RowListView::Action> NoteListView::actionsOf(int row)
     };
     if (m_reminders.hasReminder(note.id)) {
         const auto cancel = [this, id = note.id] {
+            if (!m_reminders.hasReminder(id))
+                return;
             m_reminders.cancelForNote(id);
             Q_EMIT done(L10n::text("已取消提醒"));
         };

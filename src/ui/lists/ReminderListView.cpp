@@ -23,6 +23,8 @@ QList<RowListView::Action> ReminderListView::actionsOf(int row)
 {
     const QUuid note = m_rows.row(row).reminder->noteID;
     const auto cancel = [this, note] {
+        if (!m_reminders.hasReminder(note))
+            return; // it has come while the menu was open
         m_reminders.cancelForNote(note);
         Q_EMIT done(L10n::text("已取消提醒"));
     };

@@ -23,7 +23,8 @@ QList<RowListView::Action> TrashListView::actionsOf(int row)
 {
     const auto restore = [this, note = m_trash.row(row).note->id] {
         m_notes.restore(note);
-        Q_EMIT done(L10n::text("已恢复到时间线"));
+        if (m_notes.note(note)) // the trash may have been emptied while the menu was open
+            Q_EMIT done(L10n::text("已恢复到时间线"));
     };
     return {
         {L10n::text("恢复到时间线"), Qt::Key_Return, restore, RowPart::Kind::Button},
