@@ -306,6 +306,24 @@ private Q_SLOTS:
         QCOMPARE(panel.texts(), (QStringList{u"x"_s, u"two"_s}));
     }
 
+    void a_held_key_acts_once()
+    {
+        FilledPanel panel;
+        panel.key(Qt::Key_Down);
+        const auto send = [&panel](QEvent::Type type, quint64 time) {
+            QKeyEvent event(type, Qt::Key_Delete, {});
+            event.setTimestamp(time);
+            QCoreApplication::sendEvent(&panel.list(), &event);
+        };
+        send(QEvent::KeyPress, 1);
+        send(QEvent::KeyRelease, 2);
+        send(QEvent::KeyPress, 2); // as X11 repeats it
+        QCOMPARE(panel.texts(), QStringList{u"one #t"_s});
+        send(QEvent::KeyRelease, 3);
+        send(QEvent::KeyPress, 4);
+        QCOMPARE(panel.texts(), QStringList());
+    }
+
     void a_row_out_of_sight_is_shown_before_a_key_acts_on_it()
     {
         FilledPanel panel;

@@ -162,6 +162,19 @@ void RowListView::showMenuOfRow(int row)
     popUpMenu(row, viewport()->mapToGlobal(rectOf(row).intersected(viewport()->rect()).center()));
 }
 
+bool RowListView::isRepeat(const QKeyEvent &press) const
+{
+    // A held key is a row of releases and presses. On X11 Qt notices that only if it has read a press
+    // together with the release before it; but the two bear one time.
+    return press.isAutoRepeat() || (press.timestamp() != 0 && press.timestamp() == m_lastRelease);
+}
+
+void RowListView::keyReleaseEvent(QKeyEvent *event)
+{
+    m_lastRelease = event->timestamp();
+    RowScrollArea::keyReleaseEvent(event);
+}
+
 void RowListView::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key() == Qt::Key_Enter ? Qt::Key_Return : event->key();
@@ -172,7 +185,7 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         // Once for each press, and on nothing that the user does not see.
         if (!viewport()->rect().intersects(rectOf(m_current)))
             scrollTo(m_current);
-        else if (!event->isAutoRepeat())
+        else if (!isRepeat(*event))
             run();
         return;
     }

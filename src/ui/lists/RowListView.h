@@ -74,6 +74,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
@@ -84,11 +85,13 @@ private:
     [[nodiscard]] int entryFrom(int row, int step) const;    ///< @p row or the next entry; -1 beyond the ends
     [[nodiscard]] int nearestEntry(int row, int step) const; ///< in the other direction where there is none
     void moveCurrentRow(int row);
+    [[nodiscard]] bool isRepeat(const QKeyEvent &press) const; ///< of a key that is held down
     // Empty for none.
     [[nodiscard]] std::function<void()> actionOf(int row, const QKeySequence &key);
     [[nodiscard]] QString textToCopy(int row) const;
     void popUpMenu(int row, QPoint globalPosition);
 
     int m_current = -1;
+    quint64 m_lastRelease = 0; ///< of a key: its time
     RowMouse m_mouse;
 };
