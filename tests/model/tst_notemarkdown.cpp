@@ -3,6 +3,7 @@
 #include "model/NoteCoding.h"
 #include "model/NoteFileCodec.h"
 #include "model/NoteMarkdown.h"
+#include "support/Table.h"
 #include "support/TestClock.h"
 
 #include <QTest>
@@ -50,41 +51,37 @@ private Q_SLOTS:
             "03-04 21:14:00 x\n03-05 01:00:00 回头"_s);
     }
 
-    void lines_become_notes_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *text, const char *expected) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(expected);
-        };
-        row("a\nb\n# 2024/3/5\nc\nd",
-            "03-07 00:00:00 a\n03-07 00:00:01 b\n03-05 00:00:00 c\n03-05 00:00:01 d");
-        row("# 随手记\n# 2024-13-40\n#idea x\na", "03-07 00:00:00 a");
-        row("a\n# 随手记\nb", "03-07 00:00:00 a\n03-07 00:00:01 b"); // no date, no new count
-        row("日记 2024-03-01\n# 见 2024-03-01 的日记\na", "03-07 00:00:00 日记 2024-03-01\n03-01 00:00:00 a");
-        row("a\n10:00 b\nc",
-            "03-07 00:00:00 a\n03-07 10:00:00 b\n03-07 00:00:01 c"); // only untimed ones count
-        row("1) [X] 10:00 开会", "03-07 10:00:00 开会");
-        row("* [ ] a\n+ [x] b\n-c\n123. d\n1234. e", "03-07 00:00:00 a\n03-07 00:00:01 b\n03-07 00:00:02 "
-                                                     "-c\n03-07 00:00:03 d\n03-07 00:00:04 1234. e");
-        row("- a\n-\u3000\n> q\n- b",
-            "03-07 00:00:00 a > q\n03-07 00:00:01 b"); // a marker alone changes nothing
-        row("- [x]", "03-07 00:00:00 [x]");
-        row("24:00 x\n9:5 y\n09:60 z\n23:59:59 a",
-            "03-07 00:00:00 24:00 x\n03-07 00:00:01 9:5 y\n03-07 00:00:02 09:60 z\n03-07 23:59:59 a");
-        row("09:30\n-\n- 10:00 ", "03-07 00:00:00 09:30\n03-07 00:00:01 -\n03-07 00:00:02 10:00");
-        row("10:15:20 a\n10:15:60 b", "03-07 10:15:20 a\n03-07 10:15:00 b");
-        row("- a\n> q1\n  >q2\n>\n> q3", "03-07 00:00:00 a > q1\nq2\nq3");
-        row("> q0\n- a\n\n> q1\n- b\n# x\n> q2", "03-07 00:00:00 a\n03-07 00:00:01 b");
-        row("a\r\n> q\r\nb\u2028c\u2029\u0085d\u000Be",
-            "03-07 00:00:00 a\n03-07 00:00:01 b\n03-07 00:00:02 c\n03-07 00:00:03 d\u000Be");
-        row("\u3000a", "03-07 00:00:00 \u3000a"); // spaces and tabs alone are trimmed
-        row(" \n\t\n", "");
-    }
     void lines_become_notes()
     {
-        QFETCH(QString, text);
-        QTEST(described(NoteMarkdown::parse(text, m_today, m_calendar)), "expected");
+        const Table<2> table = {
+            {"a\nb\n# 2024/3/5\nc\nd",
+                "03-07 00:00:00 a\n03-07 00:00:01 b\n03-05 00:00:00 c\n03-05 00:00:01 d"},
+            {"# 随手记\n# 2024-13-40\n#idea x\na", "03-07 00:00:00 a"},
+            {"a\n# 随手记\nb", "03-07 00:00:00 a\n03-07 00:00:01 b"}, // no date, no new count
+            {"日记 2024-03-01\n# 见 2024-03-01 的日记\na",
+                "03-07 00:00:00 日记 2024-03-01\n03-01 00:00:00 a"},
+            {"a\n10:00 b\nc",
+                "03-07 00:00:00 a\n03-07 10:00:00 b\n03-07 00:00:01 c"}, // only untimed ones count
+            {"1) [X] 10:00 开会", "03-07 10:00:00 开会"},
+            {"* [ ] a\n+ [x] b\n-c\n123. d\n1234. e", "03-07 00:00:00 a\n03-07 00:00:01 b\n03-07 00:00:02 "
+                                                      "-c\n03-07 00:00:03 d\n03-07 00:00:04 1234. e"},
+            {"- a\n-\u3000\n> q\n- b",
+                "03-07 00:00:00 a > q\n03-07 00:00:01 b"}, // a marker alone changes nothing
+            {"- [x]", "03-07 00:00:00 [x]"},
+            {"24:00 x\n9:5 y\n09:60 z\n23:59:59 a",
+                "03-07 00:00:00 24:00 x\n03-07 00:00:01 9:5 y\n03-07 00:00:02 09:60 z\n03-07 23:59:59 a"},
+            {"09:30\n-\n- 10:00 ", "03-07 00:00:00 09:30\n03-07 00:00:01 -\n03-07 00:00:02 10:00"},
+            {"10:15:20 a\n10:15:60 b", "03-07 10:15:20 a\n03-07 10:15:00 b"},
+            {"- a\n> q1\n  >q2\n>\n> q3", "03-07 00:00:00 a > q1\nq2\nq3"},
+            {"> q0\n- a\n\n> q1\n- b\n# x\n> q2", "03-07 00:00:00 a\n03-07 00:00:01 b"},
+            {"a\r\n> q\r\nb\u2028c\u2029\u0085d\u000Be",
+                "03-07 00:00:00 a\n03-07 00:00:01 b\n03-07 00:00:02 c\n03-07 00:00:03 d\u000Be"},
+            {"\u3000a", "03-07 00:00:00 \u3000a"}, // spaces and tabs alone are trimmed
+            {" \n\t\n", ""},
+        };
+        table.check([this](const QString &text) {
+            return described(NoteMarkdown::parse(text, m_today, m_calendar));
+        });
     }
 
     void an_import_is_json_or_else_markdown()

@@ -1,6 +1,7 @@
 #include "reminders/LanguageDetection.h"
 #include "reminders/ReminderDetector.h"
 #include "support/NoDateDetector.h"
+#include "support/Table.h"
 #include "support/TestClock.h"
 
 #include <QTest>
@@ -27,28 +28,22 @@ private Q_SLOTS:
         QCOMPARE(detector.asked, 1);
     }
 
-    void merged_content_is_what_stands_around_the_dates_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("dates");
-        QTest::addColumn<QString>("content");
-        const auto row = [](const char *what, const QString &text, const QStringList &dates,
-                             const QString &content) { QTest::newRow(what) << text << dates << content; };
-        row("two, out of order", u"a 3pm b Friday c"_s, {u"Friday"_s, u"3pm"_s}, u"a  b  c"_s);
-        row("overlapping", u"a Friday 3pm"_s, {u"Friday 3pm"_s, u"3pm"_s}, u"a"_s);
-        row("a phrase in front", u"remind me to nap 3pm"_s, {u"3pm"_s}, u"nap"_s);
-        row("no phrase, a longer word", u"reminders 3pm"_s, {u"3pm"_s}, u"reminders"_s);
-        row("a phrase without spaces", u"提醒我周五交报告"_s, {u"周五"_s}, u"交报告"_s);
-        row("nothing left", u"remember: 3pm"_s, {u"3pm"_s}, u"remember: 3pm"_s);
-    }
     void merged_content_is_what_stands_around_the_dates()
     {
-        QFETCH(QString, text);
-        QFETCH(QStringList, dates);
-        QList<TextRange> ranges;
-        for (const QString &date : std::as_const(dates))
-            ranges.append({text.indexOf(date), text.indexOf(date) + date.size()});
-        QTEST(ReminderDetector::mergedContent(text, ranges, LanguageDetection::detect(text)), "content");
+        const Table<4> table = {
+            {"two, out of order", "a 3pm b Friday c", "Friday|3pm", "a  b  c"},
+            {"overlapping", "a Friday 3pm", "Friday 3pm|3pm", "a"},
+            {"a phrase in front", "remind me to nap 3pm", "3pm", "nap"},
+            {"no phrase, a longer word", "reminders 3pm", "3pm", "reminders"},
+            {"a phrase without spaces", "提醒我周五交报告", "周五", "交报告"},
+            {"nothing left", "remember: 3pm", "3pm", "remember: 3pm"},
+        };
+        table.check([](const QString &, const QString &text, const QString &dates) {
+            QList<TextRange> ranges;
+            for (const QString &date : dates.split(u'|'))
+                ranges.append({text.indexOf(date), text.indexOf(date) + date.size()});
+            return ReminderDetector::mergedContent(text, ranges, LanguageDetection::detect(text));
+        });
     }
 };
 

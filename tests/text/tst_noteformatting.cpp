@@ -1,3 +1,4 @@
+#include "support/Table.h"
 #include "support/TestClock.h"
 #include "text/NoteFormatting.h"
 
@@ -10,50 +11,37 @@ class NoteFormattingTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void locales_follow_the_first_prefix_that_fits_data()
-    {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<QByteArray>("locale");
-        const auto row = [](const char *code, const char *locale) {
-            QTest::newRow(code) << QString::fromLatin1(code) << QByteArray(locale);
-        };
-        row("zh-Hant-TW", "zh_Hant");
-        row("zh-Hans", "zh_CN");
-        row("zh-HK", "zh_CN");
-        row("no", "nb_NO");
-        row("nb-NO", "nb_NO");
-        row("pt-BR", "pt_PT");
-        row("en-GB", "en_US");
-        row("ZH", "en_US");
-        row("", "en_US");
-    }
     void locales_follow_the_first_prefix_that_fits()
     {
-        QFETCH(QString, code);
-        QTEST(L10n::locale(code), "locale");
+        const Table<2> table = {
+            {"zh-Hant-TW", "zh_Hant"},
+            {"zh-Hans", "zh_CN"},
+            {"zh-HK", "zh_CN"},
+            {"no", "nb_NO"},
+            {"nb-NO", "nb_NO"},
+            {"pt-BR", "pt_PT"},
+            {"en-GB", "en_US"},
+            {"ZH", "en_US"},
+            {"", "en_US"},
+        };
+        table.check([](const QString &code) { return QString::fromUtf8(L10n::locale(code)); });
     }
 
-    void times_are_worded_from_today_data()
-    {
-        QTest::addColumn<QByteArray>("date");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *date, const char *expected) {
-            QTest::newRow(expected) << QByteArray(date) << QString::fromUtf8(expected);
-        };
-        // now is Saturday 2026-03-28 10:00 in Berlin; the clocks change in the night that follows
-        row("2026-03-27T22:59:00Z", "昨天 23:59");
-        row("2026-03-27T23:00:00Z", "今天 00:00");
-        row("2026-03-29T06:05:00Z", "明天 08:05");
-        row("2026-03-29T22:00:00Z", "后天 00:00");
-        row("2026-03-30T22:00:00Z", "3月31日 00:00");
-        row("2026-03-25T08:00:00Z", "3月25日 09:00");
-    }
     void times_are_worded_from_today()
     {
-        QFETCH(QByteArray, date);
-        const Calendar berlin("Europe/Berlin");
-        QTEST(NoteFormatting::reminderTimeString(at(date), at("2026-03-28T09:00:00Z"), berlin, u"zh-Hans"_s),
-            "expected");
+        const Table<2> table = {
+            // now is Saturday 2026-03-28 10:00 in Berlin; the clocks change in the night that follows
+            {"2026-03-27T22:59:00Z", "昨天 23:59"},
+            {"2026-03-27T23:00:00Z", "今天 00:00"},
+            {"2026-03-29T06:05:00Z", "明天 08:05"},
+            {"2026-03-29T22:00:00Z", "后天 00:00"},
+            {"2026-03-30T22:00:00Z", "3月31日 00:00"},
+            {"2026-03-25T08:00:00Z", "3月25日 09:00"},
+        };
+        table.check([](const QString &date) {
+            return NoteFormatting::reminderTimeString(
+                at(date.toUtf8()), at("2026-03-28T09:00:00Z"), Calendar("Europe/Berlin"), u"zh-Hans"_s);
+        });
     }
 
     void day_headers_name_today()

@@ -1,3 +1,4 @@
+#include "support/Table.h"
 #include "text/TagCompletion.h"
 
 #include <QSignalSpy>
@@ -10,38 +11,31 @@ class TagCompletionTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_fragment_ends_at_the_caret_data()
-    {
-        QTest::addColumn<QString>("marked"); // the caret is "|"
-        QTest::addColumn<QString>("prefix"); // "(none)": there is none
-        const auto row = [](const char *marked, const char *prefix) {
-            QTest::newRow(marked) << QString::fromUtf8(marked) << QString::fromUtf8(prefix);
-        };
-        row("|#ab", "(none)");
-        row("#|ab", "");
-        row("#a|b", "a");
-        row("#ab cd|", "(none)");
-        row("x#ab|", "ab");
-        row("a#b#c|", "c");
-        row("mail@x#ab|", "ab");
-        row("#a@b|", "(none)");
-        row("#a\u3000b|", "(none)");
-        row("😀#家👨‍👩‍👧é|", "家👨‍👩‍👧é");
-        row("#\u0308a|", "(none)");                  // "#" with a mark is another character
-        row("#a#\uFE0F\u20E3b|", "a#\uFE0F\u20E3b"); // so is the keycap
-        row("#|\uFE0F", "");
-        row("#a\r\nb|", "(none)");
-        row("#a \u0301b|", "(none)");
-        row("abc|", "(none)");
-    }
     void the_fragment_ends_at_the_caret()
     {
-        QFETCH(QString, marked);
-        const qsizetype cursor = marked.indexOf(u'|');
-        const auto token = TagCompletion::activeToken(QString(marked).remove(u'|'), cursor);
-        QTEST(token ? token->prefix : u"(none)"_s, "prefix");
-        if (token)
-            QCOMPARE(token->range.end, cursor);
+        const Table<2> table = {
+            {"|#ab", "(none)"},
+            {"#|ab", ""},
+            {"#a|b", "a"},
+            {"#ab cd|", "(none)"},
+            {"x#ab|", "ab"},
+            {"a#b#c|", "c"},
+            {"mail@x#ab|", "ab"},
+            {"#a@b|", "(none)"},
+            {"#a\u3000b|", "(none)"},
+            {"😀#家👨‍👩‍👧é|", "家👨‍👩‍👧é"},
+            {"#\u0308a|", "(none)"},                  // "#" with a mark is another character
+            {"#a#\uFE0F\u20E3b|", "a#\uFE0F\u20E3b"}, // so is the keycap
+            {"#|\uFE0F", ""},
+            {"#a\r\nb|", "(none)"},
+            {"#a \u0301b|", "(none)"},
+            {"abc|", "(none)"},
+        };
+        table.check([](const QString &marked) {
+            const qsizetype caret = marked.indexOf(u'|');
+            const auto token = TagCompletion::activeToken(QString(marked).remove(u'|'), caret);
+            return !token ? u"(none)"_s : token->range.end == caret ? token->prefix : u"another place"_s;
+        });
     }
 
     void a_list_is_walked_and_applied()

@@ -1,3 +1,4 @@
+#include "support/Table.h"
 #include "text/TagEditing.h"
 
 #include <QTest>
@@ -9,32 +10,27 @@ class TagEditingTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whole_tags_are_replaced_and_removed_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("replaced"); // #x by #long
-        QTest::addColumn<QString>("removed");
-        const auto row = [](const char *text, const char *replaced, const char *removed) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(replaced)
-                                << QString::fromUtf8(removed);
-        };
-        row("a #x b", "a #long b", "a b");
-        row("#x b", "#long b", "b");
-        row("a#x b", "a#long b", "a b");
-        row("a #x", "a #long", "a");
-        row("#x#x #x", "#long#long #long", "");
-        row("#xy #X #x@y x", "#xy #X #long@y x", "#xy #X @y x");
-        row("a #x\nb", "a #long\nb", "a b");
-        row("\n#x\n", "\n#long\n", "\n");
-        row("a\u3000#x\u3000b", "a\u3000#long\u3000b", "a\u3000b");
-        row("😀#x😀 # x", "😀#x😀 # x", "😀#x😀 # x");
-        row("no tag  ", "no tag  ", "no tag");
-    }
     void whole_tags_are_replaced_and_removed()
     {
-        QFETCH(QString, text);
-        QTEST(TagEditing::replacingTag(text, u"x", u"long"), "replaced");
-        QTEST(TagEditing::removingTag(text, u"x"), "removed");
+        // as written, with #long for #x, and without #x
+        const Table<3> table = {
+            {"a #x b", "a #long b", "a b"},
+            {"#x b", "#long b", "b"},
+            {"a#x b", "a#long b", "a b"},
+            {"a #x", "a #long", "a"},
+            {"#x#x #x", "#long#long #long", ""},
+            {"#xy #X #x@y x", "#xy #X #long@y x", "#xy #X @y x"},
+            {"a #x\nb", "a #long\nb", "a b"},
+            {"\n#x\n", "\n#long\n", "\n"},
+            {"a\u3000#x\u3000b", "a\u3000#long\u3000b", "a\u3000b"},
+            {"😀#x😀 # x", "😀#x😀 # x", "😀#x😀 # x"},
+            {"no tag  ", "no tag  ", "no tag"},
+        };
+        table.check([](const QString &text, const QString &replaced) {
+            return TagEditing::replacingTag(text, u"x", u"long") == replaced
+                       ? TagEditing::removingTag(text, u"x")
+                       : TagEditing::replacingTag(text, u"x", u"long");
+        });
     }
 
     void tokens_end_where_a_tag_ends()
