@@ -4,12 +4,10 @@
 #include "ui/dialogs/FileDialogs.h"
 #include "ui/dialogs/ImportExport.h"
 #include "ui/dialogs/ModalQuestion.h"
-#include "ui/lists/TagRenameState.h"
 
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -20,31 +18,21 @@ class ModesTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_mode_button_leads_there_and_back()
+    void a_mode_has_its_name_its_key_and_its_field()
     {
         TestPanel panel;
-        panel.notes.add(u"买菜 #家务"_s);
         auto *tags = panel.find<QAbstractButton>("mode.number");
-        auto *trash = panel.find<QAbstractButton>("mode.trash");
+        QCOMPARE(tags->toolTip(), u"标签 Ctrl+2"_s);
         tags->click();
-        QCOMPARE(panel.state().mode(), PanelMode::Tags);
         QCOMPARE(panel.find<QLabel>("title")->text(), u"标签"_s);
         QCOMPARE(tags->toolTip(), u"返回时间线 Ctrl+1"_s);
-        QCOMPARE(tags->accessibleName(), u"标签"_s);
         QCOMPARE(panel.field()->placeholderText(), u"输入即筛选标签"_s);
-        tags->click();
-        QCOMPARE(panel.state().mode(), PanelMode::Timeline);
-        QTRY_VERIFY(panel.field()->hasFocus());
-        trash->click();
-        QVERIFY(!panel.field()->isVisible());
-        QCOMPARE(tags->toolTip(), u"标签 Ctrl+2"_s);
-        QTest::keyClick(&panel.window, Qt::Key_2, Qt::ControlModifier);
-        QCOMPARE(panel.state().mode(), PanelMode::Tags);
-        QTRY_VERIFY(panel.field()->hasFocus());
         panel.type(u"x"_s);
         panel.press(Qt::Key_Return); // the field only filters here
-        QCOMPARE(panel.notes.notes().size(), 1);
+        QVERIFY(panel.notes.notes().isEmpty());
         QCOMPARE(panel.field()->text(), u"x"_s);
+        panel.find<QAbstractButton>("mode.trash")->click();
+        QVERIFY(!panel.field()->isVisible());
     }
 
     void tags_are_offered_while_one_is_typed()
@@ -56,6 +44,10 @@ private Q_SLOTS:
         auto *list = panel.window.findChild<SuggestionList *>();
         QVERIFY(list->isVisible());
         QCOMPARE(list->suggestions(), (QStringList{u"#家庭"_s, u"#家务"_s}));
+        panel.press(Qt::Key_Home);
+        QVERIFY(!list->isVisible());
+        panel.press(Qt::Key_End);
+        QVERIFY(list->isVisible());
         panel.press(Qt::Key_Down);
         panel.compose(u"x"_s);
         panel.press(Qt::Key_Return); // the input method's
@@ -111,26 +103,14 @@ private Q_SLOTS:
         QCOMPARE(panel.field()->text(), u"写了一半"_s);
     }
 
-    void what_is_pasted_becomes_one_line_whichever_way_it_comes()
+    void what_is_pasted_becomes_one_line()
     {
         TestPanel panel;
-        const QString lines = u"一\r\n二\n\n三"_s;
-        QGuiApplication::clipboard()->setText(lines);
-        const auto isOneLineAfter = [&panel](const std::function<void()> &paste) {
-            panel.field()->clear();
-            paste();
-            return panel.field()->text() == u"一 二 三";
-        };
-        QVERIFY(isOneLineAfter([&] { QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier); }));
-        QVERIFY(isOneLineAfter([&] { panel.choose(*panel.field(), {}, u"&Paste"_s); }));
-        QVERIFY(isOneLineAfter([&] {
-            QMimeData dragged;
-            dragged.setText(lines);
-            QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(panel.field(), &enter);
-            QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(panel.field(), &drop);
-        }));
+        QGuiApplication::clipboard()->setText(u"一\r\n二\n\n三"_s);
+        QTest::keyClick(panel.field(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(panel.field()->text(), u"一 二 三"_s);
+        panel.choose(*panel.field(), {}, u"&Paste"_s);
+        QCOMPARE(panel.field()->text(), u"一 二 三一 二 三"_s);
     }
 
     void the_extension_in_the_dialog_follows_the_format()
@@ -144,20 +124,17 @@ private Q_SLOTS:
         auto *name = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
         auto *formats = dialog.findChild<QComboBox *>(u"fileTypeCombo"_s);
         QCOMPARE(name->text(), u"Quillet-2026-03-02.json"_s);
-        const auto choose = [formats](int format) {
+        const auto nameAfter = [&](const QString &typed, int format) {
+            name->setText(typed);
             formats->setCurrentIndex(format);
             Q_EMIT formats->activated(format); // as a hand does
             Q_EMIT formats->textActivated(formats->currentText());
+            return name->text();
         };
-        choose(1);
+        QCOMPARE(nameAfter(name->text(), 1), u"Quillet-2026-03-02.md"_s);
         QCOMPARE(accessory.format(), ExportFormatAccessory::Format::Markdown);
-        QCOMPARE(name->text(), u"Quillet-2026-03-02.md"_s);
-        name->setText(u"a.b.txt"_s);
-        choose(0);
-        QCOMPARE(name->text(), u"a.b.json"_s);
-        name->setText(u"plain"_s);
-        choose(1);
-        QCOMPARE(name->text(), u"plain.md"_s);
+        QCOMPARE(nameAfter(u"a.b.txt"_s, 0), u"a.b.json"_s);
+        QCOMPARE(nameAfter(u"plain"_s, 1), u"plain.md"_s);
     }
 
     void a_tag_is_picked_renamed_merged_and_deleted()
@@ -175,8 +152,7 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_Return);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         };
-        for (const QString &refused : {u" b "_s, u"x@y"_s, u""_s, u"#c"_s})
-            rename(0, refused);
+        rename(0, u"x@y"_s);
         QCOMPARE(panel.rowsOf(*list), (QStringList{u"#b"_s, u"#a"_s}));
         rename(0, u" c "_s);
         QCOMPARE(panel.told(), u"已重命名"_s);
@@ -190,11 +166,6 @@ private Q_SLOTS:
         ModalQuestion::setNextAnswer(true);
         rename(0, u"a"_s);
         QCOMPARE(panel.rowsOf(*list), QStringList{u"#a"_s});
-
-        panel.choose(*list, 0, u"重命名"_s);
-        QTest::keyClick(list->findChild<QLineEdit *>(), Qt::Key_Escape); // and no more than that
-        QVERIFY(!TagRenameState::active()->renaming());
-        QVERIFY(panel.window.isVisible());
 
         ModalQuestion::setNextAnswer(true);
         panel.choose(*list, 0, u"删除"_s);
@@ -501,19 +472,16 @@ private Q_SLOTS:
         TestPanel panel;
         const QTemporaryDir folder;
         panel.notes.add(u"一 #t"_s);
-        struct Case {
-            const char *name;
-            ExportFormatAccessory::Format format;
-            const char *written;
-        };
-        for (const Case &each : {Case{"a.MD", ExportFormatAccessory::Format::Json, "a.json"},
-                 Case{"b.markdown", ExportFormatAccessory::Format::Markdown, "b.md"},
-                 Case{"c.txt", ExportFormatAccessory::Format::Json, "c.txt.json"}}) {
-            FileDialogs::setNextTarget(
-                FileDialogs::Target{folder.filePath(QString::fromUtf8(each.name)), each.format});
+        using Target = FileDialogs::Target;
+        using Format = ExportFormatAccessory::Format;
+        const auto isWrittenTo = [&](const QString &name, Format format, const QString &written) {
+            FileDialogs::setNextTarget(Target{folder.filePath(name), format});
             ImportExport::exportNotes(panel.notes, panel.clock, nullptr);
-            QVERIFY2(QFile::exists(folder.filePath(QString::fromUtf8(each.written))), each.written);
-        }
+            return QFile::exists(folder.filePath(written));
+        };
+        QVERIFY(isWrittenTo(u"a.MD"_s, Format::Json, u"a.json"_s));
+        QVERIFY(isWrittenTo(u"b.markdown"_s, Format::Markdown, u"b.md"_s));
+        QVERIFY(isWrittenTo(u"c.txt"_s, Format::Json, u"c.txt.json"_s));
         const auto import = [&](const QString &name) {
             FileDialogs::setNextSource(folder.filePath(name));
             ModalQuestion::setNextAnswer(true);
@@ -524,9 +492,8 @@ private Q_SLOTS:
             (ModalQuestion::Message{u"没有可导入的笔记"_s, u"文件中的笔记均已存在。"_s}));
         QCOMPARE(import(u"b.md"_s), (ModalQuestion::Message{u"导入完成"_s, u"已导入 1 条笔记。"_s}));
         QCOMPARE(import(u"nothing.json"_s).title, u"导入失败"_s);
-        FileDialogs::setNextTarget(FileDialogs::Target{u"/nowhere/x"_s, ExportFormatAccessory::Format::Json});
         ModalQuestion::setNextAnswer(true);
-        ImportExport::exportNotes(panel.notes, panel.clock, nullptr);
+        QVERIFY(!isWrittenTo(u"nowhere/x"_s, Format::Json, u"nowhere/x.json"_s));
         QCOMPARE(ModalQuestion::lastMessage().title, u"导出失败"_s);
     }
 };

@@ -24,16 +24,8 @@ private Q_SLOTS:
         QCOMPARE(panel.savedNotes().first().text, u"给妈妈打电话 周五下午五点 #家"_s);
         QCOMPARE(panel.reminders.reminders().first().text, u"给妈妈打电话 #家"_s);
         QCOMPARE(panel.reminders.reminders().first().fireAt, at("2026-03-06T09:00:00Z"));
-    }
-
-    void a_time_that_has_passed_makes_a_plain_note()
-    {
-        TestPanel panel;
         panel.type(u"今天10点 开会"_s); // which is now
         QCOMPARE(panel.reminderBar()->accessibleName(), u"时间已过，回车仅保存笔记"_s);
-        panel.press(Qt::Key_Return);
-        QCOMPARE(panel.savedNotes().size(), 1);
-        QVERIFY(panel.reminders.reminders().isEmpty());
     }
 
     void a_dismissed_reminder_stays_away_until_the_field_is_empty()
@@ -62,22 +54,13 @@ private Q_SLOTS:
         const Note titled = submit(u" https://a.example/中文 "_s);
         QCOMPARE(titled.text, u"https://a.example/中文"_s);
         QCOMPARE(titled.link, u"https://a.example/%E4%B8%AD%E6%96%87"_s);
-        const Note edited = submit(u"https://a.example/2"_s);
-        const Note removed = submit(u"https://a.example/3"_s);
-        const Note untitled = submit(u"https://a.example/4"_s);
-        QCOMPARE(panel.titles.asked.first(), titled.link);
-        QCOMPARE(panel.titles.asked.size(), 4);
-
+        const Note untitled = submit(u"https://a.example/2"_s);
+        QCOMPARE(panel.titles.asked, (QStringList{*titled.link, *untitled.link}));
         panel.window.hide();
-        panel.notes.update(edited.id, u"我的话"_s);
-        panel.notes.remove(removed.id);
-        for (const auto &title : {std::optional(u"标题"_s), std::optional(u"标题"_s),
-                 std::optional(u"标题"_s), std::optional<QString>()})
-            panel.titles.tell(title);
-        QStringList texts;
-        for (const Note &note : panel.savedNotes())
-            texts.append(note.text);
-        QCOMPARE(texts, (QStringList{u"https://a.example/4"_s, u"我的话"_s, u"标题"_s}));
+        panel.titles.tell(u"标题"_s);
+        panel.titles.tell({});
+        QCOMPARE(panel.savedNotes().last().text, u"标题"_s);
+        QCOMPARE(panel.savedNotes().first().text, untitled.text);
     }
 
     void a_path_becomes_a_note_with_the_name_of_the_file()
@@ -92,15 +75,6 @@ private Q_SLOTS:
         panel.type(u"/"_s);
         panel.press(Qt::Key_Return);
         QCOMPARE(panel.savedNotes().first().text, u"/"_s);
-    }
-
-    void a_blank_draft_is_cleared_and_not_saved()
-    {
-        TestPanel panel;
-        panel.type(u" \u3000"_s);
-        panel.press(Qt::Key_Return);
-        QCOMPARE(panel.field()->text(), QString());
-        QVERIFY(panel.notes.notes().isEmpty());
     }
 
     void a_double_click_edits_in_place()
@@ -128,20 +102,6 @@ private Q_SLOTS:
         QCOMPARE(panel.savedNotes().size(), 2);
     }
 
-    void what_is_typed_filters_the_timeline()
-    {
-        TestPanel panel;
-        panel.notes.add(u"Die Straße fegen"_s);
-        panel.notes.add(u"买牛奶"_s);
-        panel.type(u"STRASSE"_s);
-        QCOMPARE(panel.rows().size(), 2);
-        QCOMPARE(panel.rows().last(), u"Die Straße fegen"_s);
-        panel.type(u"x"_s);
-        QVERIFY(panel.rows().isEmpty());
-        panel.press(Qt::Key_Escape);
-        QCOMPARE(panel.rows().size(), 3);
-    }
-
     void escape_peels_one_layer_at_a_time()
     {
         TestPanel panel;
@@ -149,42 +109,29 @@ private Q_SLOTS:
         panel.type(u"牛奶"_s);
         panel.compose(u"nai"_s);
         panel.press(Qt::Key_Escape); // the input method's
+        panel.press(Qt::Key_Return);
         QCOMPARE(panel.state().draft(), u"牛奶"_s);
+        QVERIFY(panel.notes.notes().isEmpty());
         panel.compose({});
         panel.press(Qt::Key_Escape);
         QCOMPARE(panel.field()->text(), QString());
         QCOMPARE(escaped.count(), 0);
         panel.press(Qt::Key_Escape);
         QCOMPARE(escaped.count(), 1);
-    }
-
-    void nothing_is_saved_while_an_input_method_composes()
-    {
-        TestPanel panel;
-        panel.type(u"买"_s);
-        panel.compose(u"niunai"_s);
+        panel.type(u" \u3000"_s);
         panel.press(Qt::Key_Return);
-        QVERIFY(panel.notes.notes().isEmpty());
-        panel.type(u"牛奶"_s);
-        panel.press(Qt::Key_Return);
-        QCOMPARE(panel.savedNotes().first().text, u"买牛奶"_s);
+        QCOMPARE(panel.field()->text(), QString());
     }
 
     void a_jump_shows_the_note_and_lights_it_up()
     {
         TestPanel panel;
         const Note target = *panel.notes.add(u"目标"_s);
-        for (int i = 0; i < 200; ++i) {
-            panel.clock.advance(std::chrono::minutes(1));
-            panel.notes.add(u"一条写得比较长、在面板里要占上好几行才能显示完的笔记，第%1条"_s.arg(i));
-        }
         panel.type(u"别的"_s); // hides it
         panel.state().openNote(target.id);
         QTRY_COMPARE(panel.list().flashID(), target.id);
         QCOMPARE(panel.field()->text(), QString());
         QVERIFY(!panel.state().jumpTargetID());
-        const int last = panel.list().model().rowCount() - 1;
-        QTRY_VERIFY(panel.list().viewport()->rect().contains(panel.list().rectOf(last)));
         QTRY_VERIFY(!panel.list().flashID());
     }
 
