@@ -17,47 +17,37 @@ class RowLayoutTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_text_has_the_typeface_of_its_language_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<Region>("expected");
-        const auto row = [](const char *text, const char *language, Region expected) {
-            QTest::addRow("%s %s", text, language) << QString::fromLatin1(language) << expected;
-        };
-        row("plain text, 10:00 – café 😀 שלום", "zh-Hans", Region::None);
-        row("买牛奶", "en", Region::Simplified);
-        row("這個 and that", "zh-Hans", Region::Traditional);
-        row("天下", "zh-Hans", Region::Simplified);
-        row("天下", "zh-Hant-TW", Region::Traditional);
-        row("这个", "zh-Hant-TW", Region::Simplified);
-        row("天下", "ja", Region::Japanese);
-        row("天下", "ko", Region::Korean);
-        row("東京へ行く", "zh-Hans", Region::Japanese);
-        row("집에 가다 學校", "zh-Hans", Region::Korean);
-        row("著名作家陶喆於乾隆年間", "zh-Hans", Region::Traditional); // only the last character decides
-        row("著名作家陶喆，皇后沈", "zh-Hans", Region::Simplified);    // written so in both, or only rare
-        row("他说「這個」这样写", "zh-Hans", Region::Simplified);      // a quotation
-        row("！", "en", Region::Simplified);
-        row("𠮷", "ja", Region::Japanese);
-    }
     void a_text_has_the_typeface_of_its_language()
     {
-        QFETCH(QString, language);
-        const QString text = QString::fromUtf8(QTest::currentDataTag()).chopped(language.size() + 1);
-        QTEST(Typeface::region(text, language), "expected");
+        struct Row {
+            const char *text;
+            const char *language;
+            Region expected;
+        };
+        const Row rows[] = {
+            {"plain text, 10:00 – café 😀 שלום", "zh-Hans", Region::None},
+            {"买牛奶", "en", Region::Simplified},
+            {"這個 and that", "zh-Hans", Region::Traditional},
+            {"天下", "zh-Hans", Region::Simplified},
+            {"天下", "zh-Hant-TW", Region::Traditional},
+            {"这个", "zh-Hant-TW", Region::Simplified},
+            {"天下", "ja", Region::Japanese},
+            {"天下", "ko", Region::Korean},
+            {"東京へ行く", "zh-Hans", Region::Japanese},
+            {"집에 가다 學校", "zh-Hans", Region::Korean},
+            {"著名作家陶喆於乾隆年間", "zh-Hans", Region::Traditional}, // only the last character decides
+            {"著名作家陶喆，皇后沈", "zh-Hans", Region::Simplified},    // written so in both, or only rare
+            {"他说「這個」这样写", "zh-Hans", Region::Simplified},      // a quotation
+            {"！", "en", Region::Simplified},
+            {"𠮷", "ja", Region::Japanese},
+        };
+        for (const auto &[text, language, expected] : rows)
+            QVERIFY2(
+                Typeface::region(QString::fromUtf8(text), QString::fromUtf8(language)) == expected, text);
     }
 
-    void the_best_families_that_are_there_are_taken_data()
+    void the_best_families_that_are_there_are_taken()
     {
-        QTest::addColumn<Region>("region");
-        QTest::addColumn<QString>("system");
-        QTest::addColumn<QStringList>("available");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](Region region, const QString &system, const QStringList &available,
-                             const QStringList &expected) {
-            QTest::addRow("%s of %s", qUtf8Printable(system), qUtf8Printable(available.join(u',')))
-                << region << system << available << expected;
-        };
         const QString sc = u"Noto Sans CJK SC"_s;
         const QString tc = u"Noto Sans CJK TC"_s;
         const QString jp = u"Noto Sans CJK JP"_s;
@@ -67,26 +57,29 @@ private Q_SLOTS:
         const QString ming = u"AR PL UMing CN"_s;
         const QString kai = u"LXGW Neo XiHei"_s;
         const QStringList pan{u"Noto Sans CJK HK"_s, jp, kr, sc, tc, u"Noto Serif CJK SC"_s, wen};
-        row(Region::Simplified, dejaVu, pan, {dejaVu, sc});
-        row(Region::Traditional, dejaVu, pan, {dejaVu, tc});
-        row(Region::Japanese, dejaVu, pan, {dejaVu, jp});
-        row(Region::Korean, dejaVu, pan, {dejaVu, kr});
-        row(Region::Simplified, jp, pan, {sc, jp});
-        row(Region::Korean, sc, pan, {kr, sc});
-        row(Region::Simplified, wen, pan, {wen, sc}); // as the user wishes
-        row(Region::Simplified, kai, pan, {kai, sc});
-        row(Region::Traditional, dejaVu, {ming, wen}, {dejaVu, wen});
-        row(Region::Japanese, dejaVu, {u"Source Han Sans JP VF"_s}, {dejaVu, u"Source Han Sans JP VF"_s});
-        row(Region::Simplified, dejaVu, {ming, kai}, {dejaVu, kai});
-        row(Region::Simplified, dejaVu, {ming}, {dejaVu, ming});
-        row(Region::Korean, dejaVu, {}, {dejaVu});
-    }
-    void the_best_families_that_are_there_are_taken()
-    {
-        QFETCH(Region, region);
-        QFETCH(QString, system);
-        QFETCH(QStringList, available);
-        QTEST(Typeface::families(region, system, available), "expected");
+        struct Row {
+            Region region;
+            QString system;
+            QStringList available;
+            QStringList expected;
+        };
+        const Row rows[] = {
+            {Region::Simplified, dejaVu, pan, {dejaVu, sc}},
+            {Region::Traditional, dejaVu, pan, {dejaVu, tc}},
+            {Region::Japanese, dejaVu, pan, {dejaVu, jp}},
+            {Region::Korean, dejaVu, pan, {dejaVu, kr}},
+            {Region::Simplified, jp, pan, {sc, jp}},
+            {Region::Korean, sc, pan, {kr, sc}},
+            {Region::Simplified, wen, pan, {wen, sc}}, // as the user wishes
+            {Region::Simplified, kai, pan, {kai, sc}},
+            {Region::Traditional, dejaVu, {ming, wen}, {dejaVu, wen}},
+            {Region::Japanese, dejaVu, {u"Source Han Sans JP VF"_s}, {dejaVu, u"Source Han Sans JP VF"_s}},
+            {Region::Simplified, dejaVu, {ming, kai}, {dejaVu, kai}},
+            {Region::Simplified, dejaVu, {ming}, {dejaVu, ming}},
+            {Region::Korean, dejaVu, {}, {dejaVu}},
+        };
+        for (const auto &[region, system, available, expected] : rows)
+            QCOMPARE(Typeface::families(region, system, available), expected);
     }
 
     void a_row_is_drawn_with_one_typeface()
@@ -106,17 +99,15 @@ private Q_SLOTS:
         }
     }
 
-    void a_long_text_is_folded_around_its_first_match_data()
+    void a_long_text_is_folded_around_its_first_match()
     {
         using Fold = RowContent::Fold;
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Fold>("fold");
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<QString>("foldText");
-        QTest::addColumn<QString>("shown"); // its beginning and its end
-        const auto row = [](const char *name, const QString &text, Fold fold, const QString &query,
-                             const QString &foldText, const QString &shown) {
-            QTest::newRow(name) << text << fold << query << foldText << shown;
+        struct Row {
+            QString text;
+            Fold fold;
+            QString query;
+            QString foldText;
+            QString shown; // its beginning and its end
         };
         const auto lines = [](int count) {
             QStringList all;
@@ -125,40 +116,34 @@ private Q_SLOTS:
             return all.join(u'\n');
         };
         const QString wide(5000, u'字');
-        row("just short enough", lines(12), Fold::Folded, {}, {}, u"<1>…<12>"_s);
-        row("too long", lines(13), Fold::Folded, {}, u"展开 · 还有 3 行"_s, u"<1>…<10>"_s);
-        row("unfolded", lines(13), Fold::Unfolded, {}, u"收起"_s, u"<1>…<13>"_s);
-        row("short again", lines(3), Fold::Unfolded, {}, {}, u"<1>…<3>"_s);
-        row("never folded", lines(99), Fold::Never, {}, {}, u"<1>…<99>"_s);
-        row("a match in sight", lines(30), Fold::Folded, u" <9> "_s, u"展开 · 还有 20 行"_s, u"<1>…<10>"_s);
-        row("a match beyond", lines(30), Fold::Folded, u"<21"_s, u"展开 · 还有 91 字"_s, u"…<21>…<30>"_s);
-        row("without blanks", wide + u"NEEDLE"_s + wide, Fold::Folded, u"needle"_s, u"展开 · 还有 97"_s,
-            u"…字…字"_s);
-        row("very long", QString(1'000'000, u'a'), Fold::Folded, {}, u"展开 · 还有"_s, u"a…a"_s);
-        row("very long, unfolded", QString(1'000'000, u'a'), Fold::Unfolded, {},
-            u"收起 · 另有 980000 字，编辑时可见"_s, u"a…a…"_s);
-    }
-    void a_long_text_is_folded_around_its_first_match()
-    {
-        QFETCH(QString, text);
-        QFETCH(RowContent::Fold, fold);
-        QFETCH(QString, query);
-        QFETCH(QString, foldText);
-        QFETCH(QString, shown);
-        RowContent content;
-        content.text = text;
-        content.fold = fold;
-        content.query = query;
-        const RowLayout row(content, 340, NoteStyle::palette(false));
-        const QTextLine last = row.text().lineAt(row.text().lineCount() - 1);
-        const QString inLines = row.text().text().first(last.textStart() + last.textLength()).trimmed();
-        QVERIFY2(row.foldText().startsWith(foldText), qPrintable(row.foldText()));
-        QCOMPARE(row.parts().fold.isEmpty(), foldText.isEmpty());
-        const qsizetype middle = shown.indexOf(u'…', 1);
-        QVERIFY2(inLines.startsWith(shown.first(middle)) && inLines.endsWith(shown.sliced(middle + 1)),
-            qPrintable(inLines));
-        QVERIFY(inLines.contains(query.trimmed(), Qt::CaseInsensitive));
-        QVERIFY(inLines.size() <= 20'001);
+        const Row rows[] = {
+            {lines(12), Fold::Folded, {}, {}, u"<1>…<12>"_s},
+            {lines(13), Fold::Folded, {}, u"展开 · 还有 3 行"_s, u"<1>…<10>"_s},
+            {lines(13), Fold::Unfolded, {}, u"收起"_s, u"<1>…<13>"_s},
+            {lines(3), Fold::Unfolded, {}, {}, u"<1>…<3>"_s},
+            {lines(99), Fold::Never, {}, {}, u"<1>…<99>"_s},
+            {lines(30), Fold::Folded, u" <9> "_s, u"展开 · 还有 20 行"_s, u"<1>…<10>"_s},
+            {lines(30), Fold::Folded, u"<21"_s, u"展开 · 还有 91 字"_s, u"…<21>…<30>"_s},
+            {wide + u"NEEDLE"_s + wide, Fold::Folded, u"needle"_s, u"展开 · 还有 97"_s, u"…字…字"_s},
+            {QString(1'000'000, u'a'), Fold::Folded, {}, u"展开 · 还有"_s, u"a…a"_s},
+            {QString(1'000'000, u'a'), Fold::Unfolded, {}, u"收起 · 另有 980000 字，编辑时可见"_s, u"a…a…"_s},
+        };
+        for (const auto &[text, fold, query, foldText, shown] : rows) {
+            RowContent content;
+            content.text = text;
+            content.fold = fold;
+            content.query = query;
+            const RowLayout row(content, 340, NoteStyle::palette(false));
+            const QTextLine last = row.text().lineAt(row.text().lineCount() - 1);
+            const QString inLines = row.text().text().first(last.textStart() + last.textLength()).trimmed();
+            QVERIFY2(row.foldText().startsWith(foldText), qPrintable(row.foldText()));
+            QCOMPARE(row.parts().fold.isEmpty(), foldText.isEmpty());
+            const qsizetype middle = shown.indexOf(u'…', 1);
+            QVERIFY2(inLines.startsWith(shown.first(middle)) && inLines.endsWith(shown.sliced(middle + 1)),
+                qPrintable(inLines));
+            QVERIFY(inLines.contains(query.trimmed(), Qt::CaseInsensitive));
+            QVERIFY(inLines.size() <= 20'001);
+        }
     }
 
     void what_is_cut_leads_nowhere_and_its_mark_is_not_copied_data()

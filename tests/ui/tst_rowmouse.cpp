@@ -1,4 +1,5 @@
 // What the mouse does in the text of a note: it opens, filters, selects and drags out.
+#include "support/Table.h"
 #include "ui/TestPanel.h"
 #include "ui/looks/NoteStyle.h"
 
@@ -40,140 +41,114 @@ private Q_SLOTS:
         for (const QString &scheme : {u"https"_s, u"file"_s, u"javascript"_s})
             QDesktopServices::setUrlHandler(scheme, this, "open");
     }
-    void cleanupTestCase()
-    {
-        for (const QString &scheme : {u"https"_s, u"file"_s, u"javascript"_s})
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
     void open(const QUrl &url) { m_opened = url.toString(); }
 
-    void a_click_opens_the_address_or_filters_by_the_tag_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("clicked"); // empty for the line of the link
-        QTest::addColumn<QString>("link");
-        QTest::addColumn<QString>("opened");
-        QTest::addColumn<QString>("draft");
-        const auto row = [](const char *name, const QString &text, const QString &clicked,
-                             const QString &opened, const QString &draft, const QString &link = {}) {
-            QTest::newRow(name) << text << clicked << link << opened << draft;
-        };
-        const QString two = u"看 https://a.example/x#top，https://b.example #家 #work"_s;
-        row("an address", two, u"a.ex"_s, u"https://a.example/x#top"_s, {});
-        row("its fragment is no tag", two, u"top"_s, u"https://a.example/x#top"_s, {});
-        row("the second address", two, u"b.ex"_s, u"https://b.example"_s, {});
-        row("a tag", two, u"家"_s, {}, u"#家"_s);
-        row("plain text", two, u"看"_s, {}, {});
-        row("right to left", u"שלום https://a.example/ #תג"_s, u"תג"_s, {}, u"#תג"_s);
-        row("the link", u"页面"_s, {}, u"https://a.example/"_s, {}, u"https://a.example/"_s);
-        row("a file", u"页面"_s, {}, u"file:///tmp"_s, {}, u"file:///tmp"_s);
-        row("another scheme", u"页面"_s, {}, {}, {}, u"javascript:alert(1)"_s);
-        row("text that is the link", u"https://a.example/"_s, u"a.ex"_s, u"https://a.example/"_s, {},
-            u"https://a.example/"_s);
-    }
     void a_click_opens_the_address_or_filters_by_the_tag()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, clicked);
-        QFETCH(QString, link);
-        TestPanel panel;
-        panel.notes.add(text, {}, link.isEmpty() ? std::nullopt : std::optional(link));
-        m_opened.clear();
-        RowListView &list = panel.list();
-        list.grab(); // so that its rows are measured
-        const QPoint point = clicked.isEmpty() ? list.rectOf(1).bottomLeft() + QPoint(80, -10)
-                                               : pointAt(list, 1, text.indexOf(clicked) + 1);
-        QTest::mouseMove(list.viewport(), {});
-        QTest::mouseMove(list.viewport(), point);
-        const bool isHand = list.viewport()->cursor().shape() == Qt::PointingHandCursor;
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, point);
-        QTEST(m_opened, "opened");
-        QTEST(panel.state().draft(), "draft");
-        QCOMPARE(isHand, !m_opened.isEmpty() || !panel.state().draft().isEmpty());
+        constexpr auto two = "看 https://a.example/x#top，https://b.example #家 #work";
+        constexpr auto link = "https://a.example/";
+        // the text, where in it the click is, the link of the note; nowhere is the line of the link
+        const Table<4> table = {
+            {two, "a.ex", "", "https://a.example/x#top"},
+            {two, "top", "", "https://a.example/x#top"}, // its fragment is no tag
+            {two, "b.ex", "", "https://b.example"},
+            {two, "家", "", "#家"},
+            {two, "看", "", ""},
+            {"שלום https://a.example/ #תג", "תג", "", "#תג"},
+            {"页面", "", link, link},
+            {"页面", "", "file:///tmp", "file:///tmp"},
+            {"页面", "", "javascript:alert(1)", ""},
+            {link, "a.ex", link, link},
+        };
+        table.check([this](const QString &text, const QString &clicked, const QString &link) {
+            TestPanel panel;
+            panel.notes.add(text, {}, link.isEmpty() ? std::nullopt : std::optional(link));
+            m_opened.clear();
+            RowListView &list = panel.list();
+            list.grab(); // so that its rows are measured
+            const QPoint point = clicked.isEmpty() ? list.rectOf(1).bottomLeft() + QPoint(80, -10)
+                                                   : pointAt(list, 1, text.indexOf(clicked) + 1);
+            QTest::mouseMove(list.viewport(), {});
+            QTest::mouseMove(list.viewport(), point);
+            const bool isHand = list.viewport()->cursor().shape() == Qt::PointingHandCursor;
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, point);
+            const QString done = m_opened + panel.state().draft();
+            return isHand == !done.isEmpty() ? done : u"wrong cursor"_s;
+        });
     }
 
-    void moving_over_the_text_selects_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QString &text, int from, int to,
-                             const QString &expected) {
-            QTest::newRow(name) << text << from << to << expected;
-        };
-        row("forwards", u"the quick fox"_s, 4, 9, u"quick"_s);
-        row("backwards", u"the quick fox"_s, 9, 4, u"quick"_s);
-        row("Chinese", u"明天去超市"_s, 3, 5, u"超市"_s);
-        row("whole characters", u"ab😀cd"_s, 2, 4, u"😀"_s);
-        row("right to left", u"שלום עולם תודה"_s, 5, 9, u"עולם"_s);
-        row("over lines", u"一\n二二\n三三"_s, 1, 6, u"\n二二\n三"_s);
-        row("from a tag", u"a #tag b"_s, 3, 6, u"tag"_s);
-        row("in an address", u"x https://a.example/y"_s, 10, 19, u"a.example"_s);
-        row("in a folded text", u"字\n"_s.repeated(30) + u"末"_s, 1, 3, u"\n字"_s);
-    }
     void moving_over_the_text_selects()
     {
-        QFETCH(QString, text);
-        QFETCH(int, from);
-        QFETCH(int, to);
-        QFETCH(QString, expected);
-        TestPanel panel;
-        panel.notes.add(text);
-        RowListView &list = panel.list();
-        m_opened.clear();
-        const auto copied = [&](const auto &copy) {
-            QGuiApplication::clipboard()->clear();
-            copy();
-            return QGuiApplication::clipboard()->text();
+        struct Row {
+            QString text;
+            int from;
+            int to;
+            QString expected;
         };
-        const auto byKey = [&] { QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier); };
-        const auto byMenu = [&] { panel.choose(1, u"复制"_s); };
-        select(list, 1, from, to);
-        QCOMPARE(list.selectedText(), expected);
-        QCOMPARE(copied(byKey), expected);
-        QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.rectOf(1).center());
-        QCOMPARE(copied(byMenu), expected);
-        QCOMPARE(panel.state().draft() + m_opened, QString()); // it was no click
+        const Row rows[] = {
+            {u"the quick fox"_s, 4, 9, u"quick"_s},
+            {u"the quick fox"_s, 9, 4, u"quick"_s},
+            {u"明天去超市"_s, 3, 5, u"超市"_s},
+            {u"ab😀cd"_s, 2, 4, u"😀"_s},
+            {u"שלום עולם תודה"_s, 5, 9, u"עולם"_s},
+            {u"一\n二二\n三三"_s, 1, 6, u"\n二二\n三"_s},
+            {u"a #tag b"_s, 3, 6, u"tag"_s},
+            {u"x https://a.example/y"_s, 10, 19, u"a.example"_s},
+            {u"字\n"_s.repeated(30) + u"末"_s, 1, 3, u"\n字"_s},
+        };
+        for (const auto &[text, from, to, expected] : rows) {
+            TestPanel panel;
+            panel.notes.add(text);
+            RowListView &list = panel.list();
+            m_opened.clear();
+            const auto copied = [](const auto &copy) {
+                QGuiApplication::clipboard()->clear();
+                copy();
+                return QGuiApplication::clipboard()->text();
+            };
+            const auto byKey = [&] { QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier); };
+            const auto byMenu = [&] { panel.choose(1, u"复制"_s); };
+            select(list, 1, from, to);
+            QCOMPARE(list.selectedText(), expected);
+            QCOMPARE(copied(byKey), expected);
+            QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.rectOf(1).center());
+            QCOMPARE(copied(byMenu), expected);
+            QCOMPARE(panel.state().draft() + m_opened, QString()); // it was no click
 
-        QVERIFY(panel.content->escape());
-        QCOMPARE(copied(byKey), text);
-        select(list, 1, from, to);
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.rectOf(1).topRight() + QPoint(-5, 5));
-        QCOMPARE(list.selectedText(), QString());
-        select(list, 1, from, to);
-        panel.notes.update(panel.notes.notes().first().id, text + u'!');
-        QCOMPARE(list.selectedText(), QString());
+            QVERIFY(panel.content->escape());
+            QCOMPARE(copied(byKey), text);
+            select(list, 1, from, to);
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.rectOf(1).topRight() + QPoint(-5, 5));
+            QCOMPARE(list.selectedText(), QString());
+            select(list, 1, from, to);
+            panel.notes.update(panel.notes.notes().first().id, text + u'!');
+            QCOMPARE(list.selectedText(), QString());
+        }
     }
 
-    void what_is_dragged_to_the_field_is_inserted_as_one_line_data()
-    {
-        QTest::addColumn<int>("from"); // 0 beside the text
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("the note") << 0 << u"mind all the gaps"_s;
-        QTest::newRow("the selection") << 9 << u"the"_s;
-    }
     void what_is_dragged_to_the_field_is_inserted_as_one_line()
     {
-        QFETCH(int, from);
-        TestPanel panel;
-        panel.notes.add(u"mind\nall the gaps"_s, {}, u"https://a.example/"_s);
-        RowListView &list = panel.list();
-        if (from > 0)
-            select(list, 1, from, from + 3);
-        const QPoint start = from > 0 ? pointAt(list, 1, from + 2) : list.rectOf(1).center() - QPoint(150, 0);
-        QTest::mousePress(list.viewport(), Qt::LeftButton, {}, start);
-        QTest::mouseMove(list.viewport(), start + QPoint(0, 12)); // a drag ends at once without a desktop
-        const auto *drag = list.findChild<QDrag *>();
-        QVERIFY(drag);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, {});
-        QCoreApplication::sendEvent(panel.field(), &enter);
-        QDropEvent drop({5, 5}, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, {});
-        QCoreApplication::sendEvent(panel.field(), &drop);
-        QTEST(panel.field()->text(), "expected");
-        QCOMPARE(panel.window.focusWidget(), panel.field());
-        QCOMPARE(drag->mimeData()->hasUrls(), from == 0); // the link goes with the note
-        QCOMPARE(panel.notes.notes().size(), 1);
+        for (const int from : {0, 9}) { // beside the text, and in the selection
+            TestPanel panel;
+            panel.notes.add(u"mind\nall the gaps"_s, {}, u"https://a.example/"_s);
+            RowListView &list = panel.list();
+            if (from > 0)
+                select(list, 1, from, from + 3);
+            const QPoint start =
+                from > 0 ? pointAt(list, 1, from + 2) : list.rectOf(1).center() - QPoint(150, 0);
+            QTest::mousePress(list.viewport(), Qt::LeftButton, {}, start);
+            QTest::mouseMove(list.viewport(), start + QPoint(0, 12)); // a drag ends at once without a desktop
+            const auto *drag = list.findChild<QDrag *>();
+            QVERIFY(drag);
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, {});
+            QCoreApplication::sendEvent(panel.field(), &enter);
+            QDropEvent drop({5, 5}, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, {});
+            QCoreApplication::sendEvent(panel.field(), &drop);
+            QCOMPARE(panel.field()->text(), from == 0 ? u"mind all the gaps"_s : u"the"_s);
+            QCOMPARE(panel.window.focusWidget(), panel.field());
+            QCOMPARE(drag->mimeData()->hasUrls(), from == 0); // the link goes with the note
+            QCOMPARE(panel.notes.notes().size(), 1);
+        }
     }
 };
 
