@@ -306,9 +306,13 @@ private Q_SLOTS:
                 notes.restore(anyOf(notes.trash()).id);
                 break;
             case 7:
-                notes.importNotes({{QUuid::createUuid(), text(), {}, {}, {}, stores.clock.now()},
-                    {notes.trash().isEmpty() ? QUuid::createUuid() : anyOf(notes.trash()).id, text(), {}, {},
-                        {}, stores.clock.now()}});
+                imported = {{QUuid::createUuid(), text(), {}, {}, {}, stores.clock.now()}};
+                imported.append(imported.first());
+                for (const Note &known : {live, anyOf(notes.trash())}) {
+                    if (!known.id.isNull())
+                        imported.append(known);
+                }
+                notes.importNotes(imported);
                 break;
             case 8: {
                 const QString tag = below(2) == 0 ? u"家"_s : u"work"_s;

@@ -121,18 +121,6 @@ private Q_SLOTS:
         QCOMPARE(readFile(path(u"trash.json"_s)), "[\n\n]");
     }
 
-    void an_import_adds_only_what_is_in_neither_list()
-    {
-        const auto notes = store();
-        const Note live = *notes->add(u"在"_s);
-        const Note trashed = *notes->add(u"删"_s);
-        notes->remove(trashed.id);
-        const Note older = note("旧", "2025-01-01T00:00:00Z");
-        const Note newer = note("新", "2027-01-01T00:00:00Z");
-        QCOMPARE(notes->importNotes({older, trashed, newer, older}), 2);
-        QCOMPARE(texts(notes->notes()), (QStringList{u"新"_s, u"在"_s, u"旧"_s}));
-    }
-
     void a_reminder_comes_with_the_note_and_goes_with_it()
     {
         RecordingScheduler scheduler;
