@@ -1,4 +1,5 @@
 #include "desktop/PageTitleFetcher.h"
+#include "support/Table.h"
 #include "support/WebServer.h"
 
 #include <QTest>
@@ -37,44 +38,29 @@ private Q_SLOTS:
             qunsetenv(proxy);
     }
 
-    void only_a_page_has_a_title_data()
-    {
-        QTest::addColumn<QByteArray>("response");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("requests");
-        const QByteArray body = "<title>买 &amp; 卖</title>";
-        const auto row = [](const char *name, const QByteArray &response, const char *expected,
-                             int requests = 1) {
-            QTest::newRow(name) << response << QString::fromUtf8(expected) << requests;
-        };
-        row("a page", page(body), "买 & 卖");
-        row("without a type", response("200 OK", body), "买 & 卖");
-        row("XHTML", response("200 OK\r\ncontent-type: APPLICATION/XHTML+XML", body), "买 & 卖");
-        row("any success", response("299 Odd\r\nContent-Type: text/html", body), "买 & 卖");
-        row("in the charset of its header",
-            response(
-                "200 OK\r\nContent-Type: text/html; charset=Shift_JIS", "<title>\x93\xfa\x96\x7b</title>"),
-            "日本");
-        row("of another type", response("200 OK\r\nContent-Type: application/json", body), "(none)");
-        row("not found", response("404 Not Found\r\nContent-Type: text/html", body), "(none)");
-        row("shorter than promised", page("").replace("\r\n\r\n", "\r\nContent-Length: 99\r\n\r\n") + body,
-            "(none)");
-        row("untitled", page("<p>"), "(none)");
-        row("a redirect to nowhere", response("302 Found", body), "(none)");
-        row("a redirect to a file", response("302 Found\r\nLocation: file:///etc/hostname", body), "(none)");
-        row("a redirect to data", response("301 Moved\r\nLocation: data:text/html,<title>x</title>", body),
-            "(none)");
-        row("a redirect round and round", response("302 Found\r\nLocation: /page", body), "(none)", 21);
-    }
     void only_a_page_has_a_title()
     {
-        WebServer server;
-        QFETCH(QByteArray, response);
-        server.answer(u"/page"_s, response);
-        PageTitleFetcher fetcher(4s);
-        QTEST(fetched(fetcher, server.address(u"/page"_s)), "expected");
-        QFETCH(int, requests);
-        QCOMPARE(server.requests.size(), requests);
+        const Table<2> table = {
+            {"200 OK\r\nContent-Type: text/html", "买 & 卖"},
+            {"200 OK", "买 & 卖"},
+            {"200 OK\r\ncontent-type: APPLICATION/XHTML+XML", "买 & 卖"},
+            {"299 Odd\r\nContent-Type: text/html", "买 & 卖"},
+            {"200 OK\r\nContent-Type: application/json", "(none)"},
+            {"200 OK\r\nContent-Type: text/html\r\nContent-Length: 99", "(none)"}, // cut off
+            {"404 Not Found\r\nContent-Type: text/html", "(none)"},
+            {"302 Found", "(none)"},
+            {"302 Found\r\nLocation: file:///etc/hostname", "(none)"},
+            {"301 Moved\r\nLocation: data:text/html,<title>x</title>", "(none)"},
+            {"302 Found\r\nLocation: /page", "(none), asked 21 times"},
+        };
+        table.check([](const QString &head) {
+            WebServer server;
+            server.answer(u"/page"_s, response(head.toUtf8(), "<title>买 &amp; 卖</title>"));
+            PageTitleFetcher fetcher(4s);
+            const QString title = fetched(fetcher, server.address(u"/page"_s));
+            const qsizetype asked = server.requests.size();
+            return asked == 1 ? title : u"%1, asked %2 times"_s.arg(title).arg(asked);
+        });
     }
 
     void a_server_that_sends_no_page_is_not_asked_again()
@@ -121,25 +107,17 @@ private Q_SLOTS:
         QTRY_VERIFY(!server.hasConnections());
     }
 
-    void a_page_that_does_not_come_is_given_up_data()
-    {
-        QTest::addColumn<QByteArray>("response");
-        QTest::addColumn<WebServer::Then>("then");
-        QTest::newRow("no word") << QByteArray() << WebServer::Then::Wait;
-        QTest::newRow("a head only") << page("") << WebServer::Then::Wait;
-        QTest::newRow("a title, but no end") << page("<title>x</title>") << WebServer::Then::Wait;
-        QTest::newRow("a head that does not end")
-            << QByteArray("HTTP/1.1 200 OK\r\nX-Long: ") << WebServer::Then::SendMore;
-    }
     void a_page_that_does_not_come_is_given_up()
     {
-        WebServer server;
-        QFETCH(QByteArray, response);
-        QFETCH(WebServer::Then, then);
-        server.answer(u"/slow"_s, response, then);
-        PageTitleFetcher fetcher(300ms);
-        QCOMPARE(fetched(fetcher, server.address(u"/slow"_s)), u"(none)"_s);
-        QTRY_VERIFY(!server.hasConnections());
+        using Then = WebServer::Then;
+        for (const auto &[response, then] : {std::pair(QByteArray(), Then::Wait), {page(""), Then::Wait},
+                 {page("<title>x</title>"), Then::Wait}, {"HTTP/1.1 200 OK\r\nX-Long: ", Then::SendMore}}) {
+            WebServer server;
+            server.answer(u"/slow"_s, response, then);
+            PageTitleFetcher fetcher(300ms);
+            QCOMPARE(fetched(fetcher, server.address(u"/slow"_s)), u"(none)"_s);
+            QTRY_VERIFY(!server.hasConnections());
+        }
     }
 
     void a_title_is_not_reported_to_an_object_that_is_gone()

@@ -2,6 +2,7 @@
 #include "foundation/Characters.h"
 #include "foundation/Charset.h"
 #include "foundation/Regex.h"
+#include "support/Table.h"
 
 #include <QTest>
 
@@ -12,61 +13,52 @@ class CaseFoldingTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void hits_are_the_original_characters_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<QStringList>("hits");
-        const auto row = [](const char *name, const QString &text, const QString &query,
-                             const QStringList &hits) { QTest::newRow(name) << text << query << hits; };
-        row("one character found by two", u"Die Straße!"_s, u"STRASSE"_s, {u"Straße"_s});
-        row("two characters found by one", u"STRASSE"_s, u"ß"_s, {u"SS"_s});
-        row("not half a character", u"ß s"_s, u"s"_s, {u"s"_s});
-        row("not overlapping", u"aAaA"_s, u"aa"_s, {u"aA"_s, u"aA"_s});
-        row("diacritics count", u"Cafe café CAFÉ"_s, u"café"_s, {u"café"_s, u"CAFÉ"_s});
-        row("behind an emoji", u"👩‍👩‍👧 Ǆ"_s, u"ǆ"_s, {u"Ǆ"_s});
-        row("beyond the first plane", u"x𐐀y"_s, u"𐐨"_s, {u"𐐀"_s});
-        row("final sigma", u"ΟΔΟΣ οδος"_s, u"οδοσ"_s, {u"ΟΔΟΣ"_s, u"οδος"_s});
-        row("an empty query", u"abc"_s, u""_s, {});
-    }
     void hits_are_the_original_characters()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, query);
-        QFETCH(QStringList, hits);
-        QStringList found;
-        for (const TextRange &range : CaseFolding::occurrences(text, query))
-            found.append(text.sliced(range.start, range.length()));
-        QCOMPARE(found, hits);
+        const Table<4> table = {
+            {"one character found by two", "Die Straße!", "STRASSE", "Straße"},
+            {"two characters found by one", "STRASSE", "ß", "SS"},
+            {"not half a character", "ß s", "s", "s"},
+            {"not overlapping", "aAaA", "aa", "aA|aA"},
+            {"diacritics count", "Cafe café CAFÉ", "café", "café|CAFÉ"},
+            {"behind an emoji", "👩‍👩‍👧 Ǆ", "ǆ", "Ǆ"},
+            {"beyond the first plane", "x𐐀y", "𐐨", "𐐀"},
+            {"final sigma", "ΟΔΟΣ οδος", "οδοσ", "ΟΔΟΣ|οδος"},
+            {"an empty query", "abc", "", ""},
+        };
+        table.check([](const QString &, const QString &text, const QString &query) {
+            QStringList found;
+            for (const TextRange &range : CaseFolding::occurrences(text, query))
+                found.append(text.sliced(range.start, range.length()));
+            return found.join(u'|');
+        });
     }
 
-    void a_character_is_what_is_seen_as_one_data()
-    {
-        QTest::addColumn<QStringList>("characters");
-        QTest::addColumn<bool>("areSingleCodePoints");
-        const auto row = [](const char *name, const QStringList &characters, bool areSingleCodePoints) {
-            QTest::newRow(name) << characters << areSingleCodePoints;
-        };
-        row("letters", {u"a"_s, u"é"_s, u"字"_s, u"각"_s, u"😀"_s}, true);
-        row("a mark", {u"x"_s, u"e\u0301"_s}, false);
-        row("many marks", {u"x"_s, u"e"_s + QString(100, QChar(0x301)), u"y"_s}, false);
-        row("a line break of two", {u"a"_s, u"\r\n"_s, u"\n"_s}, false);
-        row("single letters of Hangul", {u"\u1100\u1161"_s, u"a"_s}, false);
-        row("a vowel of Hangul", {u"가\u1161"_s}, false);
-        row("a family", {u"👩‍👩‍👧"_s, u"👩"_s}, false);
-    }
     void a_character_is_what_is_seen_as_one()
     {
-        QFETCH(QStringList, characters);
-        const QString text = characters.join(QString());
-        QTEST(Characters::areSingleCodePoints(text), "areSingleCodePoints");
-        QStringList found;
-        for (const TextRange &range : Characters::all(text)) {
-            found.append(text.sliced(range.start, range.length()));
-            for (qsizetype position = range.start; position < range.end; ++position)
-                QCOMPARE(Characters::at(text, position), range);
-        }
-        QCOMPARE(found, characters);
+        const Table<2> table = {
+            {"a|é|字|각|😀", "single code points"},
+            {"x|e\u0301", ""},
+            {"x|e\u0301\u0302\u0303\u0304\u0305\u0306\u0307|y", ""},
+            {"a|\r\n|\n", ""},
+            {"\u1100\u1161|a", ""}, // single letters of Hangul
+            {"가\u1161", ""},
+            {"👩‍👩‍👧|👩", ""},
+        };
+        table.check([](const QString &marked) {
+            const QString text = QString(marked).remove(u'|');
+            QStringList found;
+            for (const TextRange &range : Characters::all(text)) {
+                found.append(text.sliced(range.start, range.length()));
+                for (qsizetype position = range.start; position < range.end; ++position) {
+                    if (Characters::at(text, position) != range)
+                        return u"another at %1"_s.arg(position);
+                }
+            }
+            if (found.join(u'|') != marked)
+                return found.join(u'|');
+            return Characters::areSingleCodePoints(text) ? u"single code points"_s : QString();
+        });
     }
 
     void only_a_text_that_is_cut_off_may_end_within_a_character()

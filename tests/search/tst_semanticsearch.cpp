@@ -1,5 +1,6 @@
 #include "search/PlainRanking.h"
 #include "search/RankedSearch.h"
+#include "support/Table.h"
 
 #include <QTest>
 
@@ -81,87 +82,51 @@ class SemanticSearchTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void words_and_pairs_of_a_text_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("pairs");
-        const auto row = [](const char *text, const char *words, const char *pairs) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(words)
-                                << QString::fromUtf8(pairs);
-        };
-        row("", "", "");
-        row("a", "", "");
-        row("a b", "", "ab"); // a pair spans what is dropped
-        row("Go, go", "go", "Go go og");
-        row("北京天安门", "北京 天安门", "京天 北京 天安 安门");
-        row("e\u0301a", "e\u0301a", "e\u0301a"); // two characters of three code points
-        row("\U0001F600\U0001F600 1", "", "");
-        row("3.5 km", "3.5 km", "35 5k km");
-    }
     void words_and_pairs_of_a_text()
     {
-        QFETCH(QString, text);
-        QTEST(joined(SemanticSearch::wordTokens(text)), "words");
-        QTEST(joined(SemanticSearch::characterBigrams(text)), "pairs");
+        const Table<3> table = {
+            {"", "", ""},
+            {"a", "", ""},
+            {"a b", "", "ab"}, // a pair spans what is dropped
+            {"Go, go", "go", "Go go og"},
+            {"北京天安门", "北京 天安门", "京天 北京 天安 安门"},
+            {"e\u0301a", "e\u0301a", "e\u0301a"}, // two characters of three code points
+            {"\U0001F600\U0001F600 1", "", ""},
+            {"3.5 km", "3.5 km", "35 5k km"},
+        };
+        table.check([](const QString &text, const QString &words) {
+            const QString found = joined(SemanticSearch::wordTokens(text));
+            return found == words ? joined(SemanticSearch::characterBigrams(text)) : u"words "_s + found;
+        });
     }
 
-    void matches_are_ranked_data()
-    {
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<QString>("matches"); // index, lexical score and kind
-        const auto row = [](const char *name, const char *query, const char *texts, const char *matches) {
-            QTest::newRow(name) << QString::fromUtf8(query) << QString::fromUtf8(texts).split(u'|')
-                                << QString::fromUtf8(matches);
-        };
-        row("an empty query has none", "  ", "a", "");
-        row("case does not count", "MILK", "buy milk|MILK", "0:106:substring 1:106:substring");
-        row("ß holds ss for the kind alone", "STRASSE", "straße", "0:3:substring");
-        row("equal scores keep their order", "milk tea", "green tea|oat milk|tea",
-            "1:6:lexical 0:5:lexical 2:5:lexical");
-        row("one letter shares no word and no pair", "茶", "喝茶|茶水|水", "0:100:substring 1:100:substring");
-        row("pairs count across blanks", "买 菜", "买菜|菜买", "0:1:lexical");
-        row("a word or a pair counts once", "tea tea", "tea tea tea", "0:106:substring");
-    }
     void matches_are_ranked()
     {
-        QFETCH(QString, query);
-        QFETCH(QStringList, texts);
-        Sample sample{query};
-        for (const QString &text : texts)
-            sample.add(text);
-        QStringList found;
-        for (const ScoredMatch &match : sample.ranked(20, 2)) {
-            QVERIFY(!match.relativeScore);
-            found.append(u"%1:%2:%3"_s.arg(match.index)
-                             .arg(match.lexicalScore)
-                             .arg(QLatin1StringView(
-                                 match.kind == SemanticHitKind::Substring ? "substring" : "lexical")));
-        }
-        QTEST(found.join(u' '), "matches");
-        QCOMPARE(sample.ranked(20, 2), sample.plain(20, 2));
-    }
-
-    void two_are_admitted_by_their_vector_alone_in_their_order()
-    {
-        const auto ranked = [](const QList<Vector> &vectors, qsizetype cap) {
-            Sample sample{u"query"_s, Vector(vectors.front().size(), 0.0)};
-            sample.queryVector->front() = 1;
-            for (const Vector &vector : vectors)
-                sample.add(u"一"_s, vector);
-            const auto matches = sample.ranked(20, cap);
-            return matches == sample.plain(20, cap) ? order(matches) : u"unlike"_s;
+        const Table<4> table = {
+            {"an empty query has none", "  ", "a", ""},
+            {"case does not count", "MILK", "buy milk|MILK", "0:106:substring 1:106:substring"},
+            {"ß holds ss for the kind alone", "STRASSE", "straße", "0:3:substring"},
+            {"equal scores keep their order", "milk tea", "green tea|oat milk|tea",
+                "1:6:lexical 0:5:lexical 2:5:lexical"},
+            {"one letter shares no word and no pair", "茶", "喝茶|茶水|水",
+                "0:100:substring 1:100:substring"},
+            {"pairs count across blanks", "买 菜", "买菜|菜买", "0:1:lexical"},
+            {"a word or a pair counts once", "tea tea", "tea tea tea", "0:106:substring"},
         };
-        QCOMPARE(ranked({{4, 3}}, 2), u"0"); // one vector has no pair: its cosine is the score
-        QCOMPARE(ranked({{4, 3}}, 0), u"");
-        QCOMPARE(ranked({{3, 99, 13, 4, 2, 1}}, 2), u"");  // exactly 0.03 does not suffice
-        QCOMPARE(ranked({{4, 99, 13, 3, 2, 1}}, 2), u"0"); // 0.04 does
-        // The median of these is 0; the cap is filled by the first two, which are then put in order.
-        QCOMPARE(ranked({{3, 4, 0, 0}, {4, 0, 3, 0}, {1, 0, 0, 0}, {0, 0, 0, 1}, {0, 0, 0, 1}, {0, 1, 0, 0},
-                            {0, 0, 1, 0}},
-                     2),
-            u"1 0");
+        table.check([](const QString &, const QString &query, const QString &texts) {
+            Sample sample{query};
+            for (const QString &text : texts.split(u'|'))
+                sample.add(text);
+            const QList<ScoredMatch> matches = sample.ranked(20, 2);
+            QStringList found;
+            for (const ScoredMatch &match : matches) {
+                const bool contains = match.kind == SemanticHitKind::Substring;
+                found.append(u"%1:%2:%3"_s.arg(match.index)
+                                 .arg(match.lexicalScore)
+                                 .arg(contains ? u"substring"_s : u"lexical"_s));
+            }
+            return matches == sample.plain(20, 2) ? found.join(u' ') : u"unlike"_s;
+        });
     }
 
     void scores_that_are_all_but_equal_are_ordered_as_with_the_baseline()
@@ -189,31 +154,27 @@ private Q_SLOTS:
         QList<SemanticCandidate> candidates;
         for (int i = 0; i < 20; ++i)
             candidates.append({id(i), texts[i % 5]});
-        index.setOrder(candidates);
-        const auto readAll = [&candidates](LexicalIndex &each) {
+        const auto read = [&candidates](LexicalIndex &each) {
+            each.setOrder(candidates);
             for (qsizetype i = 0; i < candidates.size(); ++i) {
                 if (!each.hasWords(i))
                     each.readWords(i, candidates[i].text);
             }
         };
-        readAll(index);
+        read(index);
         for (int i = 19; i >= 0; --i) {
-            if (i % 4 != 1) {
-                index.drop(candidates[i].id);
-                candidates.removeAt(i);
-            }
+            if (i % 4 != 1)
+                index.drop(candidates.takeAt(i).id);
         }
         candidates.prepend({id(20), u"new tea"_s});
-        index.setOrder(candidates);
-        readAll(index);
+        read(index);
         LexicalIndex fresh;
-        fresh.setOrder(candidates);
-        readAll(fresh);
+        read(fresh);
         for (const QString &query : u"tea|strasse|istanbul|été|买|garten zum"_s.split(u'|')) {
             QCOMPARE(index.containing(query), fresh.containing(query));
+            LexicalQuery words(query);
             for (qsizetype i = 0; i < candidates.size(); ++i)
-                QCOMPARE(
-                    LexicalQuery(query).score(index.lexis(i)), LexicalQuery(query).score(fresh.lexis(i)));
+                QCOMPARE(words.score(index.lexis(i)), words.score(fresh.lexis(i)));
         }
         // What was kept lies side by side now.
         QCOMPARE(index.lexis(5).lower.data() - index.lexis(4).lower.data(), index.lexis(4).lower.size() + 1);
@@ -240,17 +201,10 @@ private Q_SLOTS:
         QCOMPARE(*last - *first, 8);
     }
 
-    void the_median_in_slices_is_the_median_data()
+    void the_median_in_slices_is_the_median()
     {
-        QTest::addColumn<QList<Vector>>("vectors");
         std::mt19937 random(7);
         const auto number = [&random](int below) { return int(random() % unsigned(below)); };
-        const auto make = [&](const char *name, int count, auto vector) {
-            QList<Vector> vectors;
-            for (int i = 0; i < count; ++i)
-                vectors.append(vector());
-            QTest::newRow(name) << vectors;
-        };
         const auto dense = [&](int dimension) {
             Vector vector;
             for (int i = 0; i < dimension; ++i)
@@ -264,24 +218,26 @@ private Q_SLOTS:
             vector[1 + number(axes)] = 4;
             return vector;
         };
-        QTest::newRow("none") << QList<Vector>();
-        QTest::newRow("one") << QList<Vector>{{1, 2}};
-        QTest::newRow("two alike") << QList<Vector>{{1, 2}, {1, 2}};
-        QTest::newRow("pairs without a cosine") << QList<Vector>{{1, 0}, {0, 1}, {1, 0}, {1}, {0, 0}};
-        make("most share only the common axis", 120, [&] { return sparse(40); });
-        make("half share another", 120, [&] { return sparse(2); });
-        make("one subject", 150, [&] { return sparse(1); });
-        make("dense", 150, [&] { return dense(7); });
-        make("few values", 90, [&] {
-            return Vector{double(number(3)), double(number(3)) - 1, double(number(2))};
-        });
-        make("lengths that differ", 90, [&] { return dense(1 + number(3)); });
-        make("more pairs than are kept apart", 1500, [&] { return dense(3); });
-    }
-    void the_median_in_slices_is_the_median()
-    {
-        QFETCH(QList<Vector>, vectors);
-        QVERIFY(medianInSlices(vectors) == PlainRanking::baseline(vectors)); // to the last bit
+        const auto check = [](const QList<Vector> &vectors) {
+            QVERIFY(medianInSlices(vectors) == PlainRanking::baseline(vectors)); // to the last bit
+        };
+        const auto checkMany = [&](int count, const auto &vector) {
+            QList<Vector> vectors;
+            for (int i = 0; i < count; ++i)
+                vectors.append(vector());
+            check(vectors);
+        };
+        check({});
+        check({{1, 2}});
+        check({{1, 2}, {1, 2}});
+        check({{1, 0}, {0, 1}, {1, 0}, {1}, {0, 0}}); // some pairs have no cosine
+        checkMany(120, [&] { return sparse(40); });   // most share only the common axis
+        checkMany(120, [&] { return sparse(2); });    // half share another
+        checkMany(150, [&] { return sparse(1); });    // one subject
+        checkMany(150, [&] { return dense(7); });
+        checkMany(90, [&] { return Vector{double(number(3)), double(number(3)) - 1, double(number(2))}; });
+        checkMany(90, [&] { return dense(1 + number(3)); });
+        checkMany(1500, [&] { return dense(3); }); // more pairs than are kept apart
     }
 };
 

@@ -40,9 +40,10 @@ private:
 class PlainList final : public RowListView
 {
 public:
-    explicit PlainList(PlainModel &model)
-        : RowListView(model)
-        , m_rows(model)
+    PlainModel &rows;
+
+    PlainList()
+        : PlainList(*new PlainModel)
     {
         resize(340, 400);
         show();
@@ -53,12 +54,12 @@ public:
     [[nodiscard]] RowPainter::EmptyState emptyState() const override { return {u"number"_s, {}}; }
     [[nodiscard]] QString current() const
     {
-        return currentRow() < 0 ? QString() : m_rows.row(currentRow()).name;
+        return currentRow() < 0 ? QString() : rows.row(currentRow()).name;
     }
     [[nodiscard]] QRect rectOfName(const QString &name) const
     {
-        for (int row = 0; row < m_rows.rowCount(); ++row) {
-            if (m_rows.row(row).name == name)
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            if (rows.row(row).name == name)
                 return rectOf(row);
         }
         return {};
@@ -68,15 +69,19 @@ protected:
     QList<Action> actionsOf(int row) override
     {
         const auto remove = [this, row] {
-            QList<PlainRow> rows = m_rows.rows();
-            rows.remove(row);
-            m_rows.set(rows);
+            QList<PlainRow> remaining = rows.rows();
+            remaining.remove(row);
+            rows.set(remaining);
         };
         return {{u"remove"_s, Qt::Key_Delete, remove}};
     }
 
 private:
-    PlainModel &m_rows;
+    explicit PlainList(PlainModel &model)
+        : RowListView(model)
+        , rows(model)
+    {
+    }
 };
 
 QList<PlainRow> rowsNamed(const QStringList &names)
@@ -116,190 +121,12 @@ class RowListTest final : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase() { RowListAccessible::install(); }
-
-    void keys_walk_the_entries_and_leave_at_the_ends()
+    /// @p moved is in all.
+    static void turnTheWheel(QPoint pixels, int angle, int turns, int moved)
     {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        QList<PlainRow> rows = rowsNamed({u"#x"_s, u"a"_s, u"b"_s, u"#y"_s, u"c"_s});
-        for (int i = 0; i < 30; ++i)
-            rows.append({QString::number(i), QString::number(i)});
-        model.set(rows);
-        QSignalSpy left(&list, &RowListView::left);
-        const auto afterPressing = [&list](std::initializer_list<Qt::Key> keys) {
-            for (const Qt::Key key : keys)
-                QTest::keyClick(&list, key);
-            return list.current();
-        };
-        list.enter();
-        QCOMPARE(list.current(), u"a"_s);
-        QCOMPARE(afterPressing({Qt::Key_Down, Qt::Key_Down}), u"c"_s);
-        QCOMPARE(afterPressing({Qt::Key_Up}), u"b"_s);
-        QCOMPARE(afterPressing({Qt::Key_End}), u"29"_s);
-        QVERIFY(list.viewport()->rect().contains(list.rectOfName(u"29"_s)));
-        QCOMPARE(afterPressing({Qt::Key_Home}), u"a"_s);
-        QCOMPARE(afterPressing({Qt::Key_PageDown, Qt::Key_PageUp}), u"a"_s);
-        QCOMPARE(afterPressing({Qt::Key_A}), u"a"_s); // no search by what is typed
-        model.set({{u"a"_s, u"a"_s}, {u"high"_s, QString(2000, u'字')}, {u"#y"_s, u"y"_s}, {u"b"_s, u"b"_s}});
-        for (int i = 0; i < 9 && list.current() != u"b"_s; ++i)
-            afterPressing({Qt::Key_PageDown});
-        QCOMPARE(list.current(), u"b"_s);
-        for (int i = 0; i < 9 && list.current() != u"a"_s; ++i)
-            afterPressing({Qt::Key_PageUp});
-        QCOMPARE(list.current(), u"a"_s);
-        QCOMPARE(left.count(), 0);
-        afterPressing({Qt::Key_Up});
-        QCOMPARE(left.count(), 1);
-    }
-
-    void the_current_row_stays_with_its_row_and_passes_to_the_one_below()
-    {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        model.set(rowsNamed({u"a"_s, u"b"_s, u"#x"_s, u"c"_s, u"d"_s}));
-        list.setCurrentRow(1);
-        model.set(rowsNamed({u"#n"_s, u"new"_s, u"a"_s, u"b"_s, u"#x"_s, u"c"_s, u"d"_s}));
-        QCOMPARE(list.current(), u"b"_s);
-        QStringList after;
-        for (int i = 0; i < 5; ++i) {
-            QTest::keyClick(&list, Qt::Key_Delete);
-            after.append(list.current());
-        }
-        QCOMPARE(after, (QStringList{u"c"_s, u"d"_s, u"a"_s, u"new"_s, QString()}));
-    }
-
-    void rows_in_view_stay_where_they_are()
-    {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        model.set(rowsOfAllHeights(100, 300));
-        list.grab();
-        // Scrolled up into rows that have only been estimated: each row moves by exactly as much.
-        list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
-        list.grab();
-        for (int i = 0; i < 60; ++i) {
-            const int row = list.firstRowInView() + 1;
-            const QString name = model.row(row).name;
-            const int y = list.rectOf(row).top();
-            list.verticalScrollBar()->setValue(list.verticalScrollBar()->value() - 20);
-            list.grab();
-            QCOMPARE(list.rectOfName(name).top(), y + 20);
-        }
-        const QString name = model.row(list.firstRowInView()).name;
-        const QRect rect = list.rectOfName(name);
-        model.set(rowsOfAllHeights(90, 310));
-        list.grab();
-        QCOMPARE(list.rectOfName(name), rect);
-        list.verticalScrollBar()->setValue(0);
-        model.set(rowsOfAllHeights(80, 320)); // at the newest the list stays there
-        QCOMPARE(list.rectOf(0).top(), 0);
-    }
-
-    void a_jump_ends_in_the_middle_whatever_lies_between_data()
-    {
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<int>("distance");
-        QTest::addColumn<bool>("isChanging");
-        for (const QString &script : {u"words "_s, u"笔记本里的字"_s, u"买 milk 和面包 "_s}) {
-            for (const int distance : {1, 100, 9000}) {
-                for (const bool isChanging : {false, true}) {
-                    QTest::addRow("%s %d%s", qUtf8Printable(script), distance, isChanging ? " changing" : "")
-                        << script << distance << isChanging;
-                }
-            }
-        }
-    }
-    void a_jump_ends_in_the_middle_whatever_lies_between()
-    {
-        QFETCH(QString, script);
-        QFETCH(int, distance);
-        QFETCH(bool, isChanging);
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        const QString text = script.repeated(2000 / script.size() + 1);
-        QList<PlainRow> rows;
-        for (int i = 0; i < 10000; ++i) {
-            const bool isHeader = i % 9 == 0;
-            const int length = i % 4 == 0 ? 1 + i * 37 % 2000 : 1 + i * 37 % 90;
-            rows.append(
-                {isHeader ? u"#%1"_s.arg(i) : QString::number(i), isHeader ? u"day"_s : text.first(length)});
-        }
-        model.set(rows);
-        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
-        auto *flash = list.findChild<QVariantAnimation *>(u"flash"_s);
-        const int page = list.viewport()->height();
-        for (int i = 0; i < 6; ++i) {
-            const int target = (500 + i / 2 * 7 + (i % 2) * distance) % 10000; // there and back
-            const QString name = QString::number(target);
-            const auto rowOfTarget = [&] {
-                int row = 0;
-                while (row < model.rowCount() && model.row(row).name != name
-                       && model.row(row).name != u'#' + name)
-                    ++row;
-                return model.index(row);
-            };
-            list.jumpTo(rowOfTarget);
-            for (const int time : {100, 250, 400, 550, 600}) {
-                scrolling->setCurrentTime(time);
-                list.grab();
-                if (isChanging) { // some replace all rows in between
-                    rows.prepend({u"new%1"_s.arg(rows.size()), u"new"_s});
-                    if (time == 400)
-                        rows.removeLast();
-                    rows.insert(4 + time, {u"in%1"_s.arg(rows.size()), text.first(time)});
-                    if (time < 600)
-                        model.set(rows);
-                }
-            }
-            const QRect rect = list.rectOf(rowOfTarget().row());
-            const bool isHigh = rect.height() > page - 2 * Design::headerHeight;
-            QCOMPARE(isHigh ? rect.top() : (rect.top() + rect.bottom() + 1 - page) / 2,
-                isHigh ? Design::headerHeight : 0);
-            QCOMPARE(flash->state(), QVariantAnimation::Running);
-        }
-    }
-
-    void a_jump_near_the_ends_goes_as_far_as_the_list()
-    {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        model.set(rowsOfAllHeights(1, 300));
-        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
-        const auto rectAfterJump = [&](int row) {
-            list.jumpTo([&, row] { return model.index(row); });
-            scrolling->setCurrentTime(scrolling->duration());
-            list.grab();
-            return list.rectOf(row);
-        };
-        const int last = model.rowCount() - 1;
-        QCOMPARE(rectAfterJump(last).bottom() + 1, list.viewport()->height() - 2 * Design::grid);
-        QCOMPARE(rectAfterJump(0).top(), 0);
-    }
-
-    void equal_turns_of_the_wheel_move_the_rows_equally_data()
-    {
-        QTest::addColumn<QPoint>("pixels");
-        QTest::addColumn<int>("angle");
-        QTest::addColumn<int>("turns");
-        QTest::addColumn<int>("moved"); // in all
-        const int notch = QApplication::wheelScrollLines() * Design::headerHeight;
-        QTest::newRow("notches") << QPoint() << 120 << 10 << 10 * notch;
-        QTest::newRow("eighths of notches") << QPoint() << 15 << 80 << 10 * notch;
-        QTest::newRow("the finest wheel") << QPoint() << 1 << 360 << 3 * notch;
-        QTest::newRow("a touchpad") << QPoint(0, 3) << 40 << 100 << 300;
-    }
-    void equal_turns_of_the_wheel_move_the_rows_equally()
-    {
-        QFETCH(QPoint, pixels);
-        QFETCH(int, angle);
-        QFETCH(int, turns);
-        QFETCH(int, moved);
         for (const int direction : {1, -1}) { // up at first, into rows that have only been estimated
-            auto &model = *new PlainModel;
-            PlainList list(model);
-            model.set(rowsOfAllHeights(100, 600));
+            PlainList list;
+            list.rows.set(rowsOfAllHeights(100, 600));
             list.scrollTo(300);
             list.grab();
             int sum = 0;
@@ -321,15 +148,174 @@ private Q_SLOTS:
         }
     }
 
+    static void jumpToAndFro(const QString &script, int distance, bool isChanging)
+    {
+        PlainList list;
+        const QString text = script.repeated(2000 / script.size() + 1);
+        QList<PlainRow> rows;
+        for (int i = 0; i < 10000; ++i) {
+            const bool isHeader = i % 9 == 0;
+            const int length = i % 4 == 0 ? 1 + i * 37 % 2000 : 1 + i * 37 % 90;
+            rows.append(
+                {isHeader ? u"#%1"_s.arg(i) : QString::number(i), isHeader ? u"day"_s : text.first(length)});
+        }
+        list.rows.set(rows);
+        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
+        auto *flash = list.findChild<QVariantAnimation *>(u"flash"_s);
+        const int page = list.viewport()->height();
+        for (int i = 0; i < 6; ++i) {
+            const int target = (500 + i / 2 * 7 + (i % 2) * distance) % 10000; // there and back
+            const QString name = QString::number(target);
+            const auto rowOfTarget = [&] {
+                int row = 0;
+                while (row < list.rows.rowCount() && list.rows.row(row).name != name
+                       && list.rows.row(row).name != u'#' + name)
+                    ++row;
+                return list.rows.index(row);
+            };
+            list.jumpTo(rowOfTarget);
+            for (const int time : {100, 250, 400, 550, 600}) {
+                scrolling->setCurrentTime(time);
+                list.grab();
+                if (isChanging) { // some replace all rows in between
+                    rows.prepend({u"new%1"_s.arg(rows.size()), u"new"_s});
+                    if (time == 400)
+                        rows.removeLast();
+                    rows.insert(4 + time, {u"in%1"_s.arg(rows.size()), text.first(time)});
+                    if (time < 600)
+                        list.rows.set(rows);
+                }
+            }
+            const QRect rect = list.rectOf(rowOfTarget().row());
+            const bool isHigh = rect.height() > page - 2 * Design::headerHeight;
+            QCOMPARE(isHigh ? rect.top() : (rect.top() + rect.bottom() + 1 - page) / 2,
+                isHigh ? Design::headerHeight : 0);
+            QCOMPARE(flash->state(), QVariantAnimation::Running);
+        }
+    }
+
+private Q_SLOTS:
+    void initTestCase() { RowListAccessible::install(); }
+
+    void keys_walk_the_entries_and_leave_at_the_ends()
+    {
+        PlainList list;
+        QList<PlainRow> rows = rowsNamed({u"#x"_s, u"a"_s, u"b"_s, u"#y"_s, u"c"_s});
+        for (int i = 0; i < 30; ++i)
+            rows.append({QString::number(i), QString::number(i)});
+        list.rows.set(rows);
+        QSignalSpy left(&list, &RowListView::left);
+        const auto afterPressing = [&list](std::initializer_list<Qt::Key> keys) {
+            for (const Qt::Key key : keys)
+                QTest::keyClick(&list, key);
+            return list.current();
+        };
+        list.enter();
+        QCOMPARE(list.current(), u"a"_s);
+        QCOMPARE(afterPressing({Qt::Key_Down, Qt::Key_Down}), u"c"_s);
+        QCOMPARE(afterPressing({Qt::Key_Up}), u"b"_s);
+        QCOMPARE(afterPressing({Qt::Key_End}), u"29"_s);
+        QVERIFY(list.viewport()->rect().contains(list.rectOfName(u"29"_s)));
+        QCOMPARE(afterPressing({Qt::Key_Home}), u"a"_s);
+        QCOMPARE(afterPressing({Qt::Key_PageDown, Qt::Key_PageUp}), u"a"_s);
+        QCOMPARE(afterPressing({Qt::Key_A}), u"a"_s); // no search by what is typed
+        list.rows.set(
+            {{u"a"_s, u"a"_s}, {u"high"_s, QString(2000, u'字')}, {u"#y"_s, u"y"_s}, {u"b"_s, u"b"_s}});
+        for (int i = 0; i < 9 && list.current() != u"b"_s; ++i)
+            afterPressing({Qt::Key_PageDown});
+        QCOMPARE(list.current(), u"b"_s);
+        for (int i = 0; i < 9 && list.current() != u"a"_s; ++i)
+            afterPressing({Qt::Key_PageUp});
+        QCOMPARE(list.current(), u"a"_s);
+        QCOMPARE(left.count(), 0);
+        afterPressing({Qt::Key_Up});
+        QCOMPARE(left.count(), 1);
+    }
+
+    void the_current_row_stays_with_its_row_and_passes_to_the_one_below()
+    {
+        PlainList list;
+        list.rows.set(rowsNamed({u"a"_s, u"b"_s, u"#x"_s, u"c"_s, u"d"_s}));
+        list.setCurrentRow(1);
+        list.rows.set(rowsNamed({u"#n"_s, u"new"_s, u"a"_s, u"b"_s, u"#x"_s, u"c"_s, u"d"_s}));
+        QCOMPARE(list.current(), u"b"_s);
+        QStringList after;
+        for (int i = 0; i < 5; ++i) {
+            QTest::keyClick(&list, Qt::Key_Delete);
+            after.append(list.current());
+        }
+        QCOMPARE(after, (QStringList{u"c"_s, u"d"_s, u"a"_s, u"new"_s, QString()}));
+    }
+
+    void rows_in_view_stay_where_they_are()
+    {
+        PlainList list;
+        list.rows.set(rowsOfAllHeights(100, 300));
+        list.grab();
+        // Scrolled up into rows that have only been estimated: each row moves by exactly as much.
+        list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
+        list.grab();
+        for (int i = 0; i < 60; ++i) {
+            const int row = list.firstRowInView() + 1;
+            const QString name = list.rows.row(row).name;
+            const int y = list.rectOf(row).top();
+            list.verticalScrollBar()->setValue(list.verticalScrollBar()->value() - 20);
+            list.grab();
+            QCOMPARE(list.rectOfName(name).top(), y + 20);
+        }
+        const QString name = list.rows.row(list.firstRowInView()).name;
+        const QRect rect = list.rectOfName(name);
+        list.rows.set(rowsOfAllHeights(90, 310));
+        list.grab();
+        QCOMPARE(list.rectOfName(name), rect);
+        list.verticalScrollBar()->setValue(0);
+        list.rows.set(rowsOfAllHeights(80, 320)); // at the newest the list stays there
+        QCOMPARE(list.rectOf(0).top(), 0);
+    }
+
+    void a_jump_ends_in_the_middle_whatever_lies_between()
+    {
+        for (const QString &script : {u"words "_s, u"笔记本里的字"_s, u"买 milk 和面包 "_s}) {
+            for (const int distance : {1, 100, 9000}) {
+                jumpToAndFro(script, distance, false);
+                jumpToAndFro(script, distance, true);
+            }
+        }
+    }
+
+    void a_jump_near_the_ends_goes_as_far_as_the_list()
+    {
+        PlainList list;
+        list.rows.set(rowsOfAllHeights(1, 300));
+        auto *scrolling = list.findChild<QVariantAnimation *>(u"scrolling"_s);
+        const auto rectAfterJump = [&](int row) {
+            list.jumpTo([&, row] { return list.rows.index(row); });
+            scrolling->setCurrentTime(scrolling->duration());
+            list.grab();
+            return list.rectOf(row);
+        };
+        const int last = list.rows.rowCount() - 1;
+        QCOMPARE(rectAfterJump(last).bottom() + 1, list.viewport()->height() - 2 * Design::grid);
+        QCOMPARE(rectAfterJump(0).top(), 0);
+    }
+
+    void equal_turns_of_the_wheel_move_the_rows_equally()
+    {
+        const int notch = QApplication::wheelScrollLines() * Design::headerHeight;
+        turnTheWheel({}, 120, 10, 10 * notch);
+        turnTheWheel({}, 15, 80, 10 * notch);
+        turnTheWheel({}, 1, 360, 3 * notch); // the finest
+        turnTheWheel({0, 3}, 40, 100, 300);  // a touchpad
+    }
+
     void a_dragged_thumb_leads_to_the_same_rows_and_to_both_ends()
     {
-        auto &model = *new PlainModel;
-        PlainList list(model);
+        PlainList list;
         QList<PlainRow> rows = rowsOfAllHeights(1, 400);
         for (PlainRow &row : rows)
             row.text.replace(u'字', u'i'); // not as high as estimated
         rows.append({u"last"_s, QString(1900, u'字')});
-        model.set(rows);
+        list.rows.set(rows);
         list.grab();
         QScrollBar &bar = *list.verticalScrollBar();
         const int maximum = bar.maximum();
@@ -365,11 +351,10 @@ private Q_SLOTS:
 
     void a_row_higher_than_the_view_is_read_to_its_end()
     {
-        auto &model = *new PlainModel;
-        PlainList list(model);
+        PlainList list;
         QList<PlainRow> rows = rowsNamed({u"#x"_s, u"a"_s, u"long"_s, u"b"_s, u"tail"_s});
         rows[2].text = rows[4].text = QString(1500, u'字');
-        model.set(rows);
+        list.rows.set(rows);
         list.grab();
         const auto steps = [&](int row, int direction) {
             int count = 0;
@@ -394,9 +379,8 @@ private Q_SLOTS:
 
     void what_is_read_stays_when_the_list_is_made_narrower()
     {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        model.set(rowsOfAllHeights(1, 300));
+        PlainList list;
+        list.rows.set(rowsOfAllHeights(1, 300));
         list.scrollTo(200);
         list.grab();
         const QPoint reading(20, Design::headerHeight + 1);
@@ -410,14 +394,13 @@ private Q_SLOTS:
 
     void an_interface_that_a_screen_reader_holds_follows_its_row()
     {
-        auto &model = *new PlainModel;
-        PlainList list(model);
-        model.set(rowsNamed({u"a"_s, u"b"_s, u"c"_s}));
+        PlainList list;
+        list.rows.set(rowsNamed({u"a"_s, u"b"_s, u"c"_s}));
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&list);
         QAccessibleInterface *b = interface->child(1);
         const QAccessible::Id id = QAccessible::uniqueId(b);
         list.setCurrentRow(1);
-        model.set(rowsNamed({u"new"_s, u"a"_s, u"b"_s, u"c"_s}));
+        list.rows.set(rowsNamed({u"new"_s, u"a"_s, u"b"_s, u"c"_s}));
         QCOMPARE(interface->indexOfChild(b), 2);
         QCOMPARE(interface->child(2), b);
         QCOMPARE(interface->focusChild(), b);
@@ -427,7 +410,7 @@ private Q_SLOTS:
         QVERIFY(!QAccessible::accessibleInterface(id));
         QCOMPARE(interface->focusChild()->text(QAccessible::Name), u"c"_s);
         QCOMPARE(interface->childCount(), 3);
-        model.set(rowsOfAllHeights(1, 60));
+        list.rows.set(rowsOfAllHeights(1, 60));
         const auto shows = [interface](int row) {
             const QAccessible::State state = interface->child(row)->state();
             return !state.invisible && !state.offscreen;
@@ -440,9 +423,8 @@ private Q_SLOTS:
     void painting_ends_whether_or_not_the_rows_fill_the_view()
     {
         for (int count = 1; count <= 20; ++count) {
-            auto &model = *new PlainModel;
-            PlainList list(model);
-            model.set(QList<PlainRow>(rowsOfAllHeights(1, 60)).first(count));
+            PlainList list;
+            list.rows.set(QList<PlainRow>(rowsOfAllHeights(1, 60)).first(count));
             QTest::qWait(20);
             PaintCounter paints(*list.viewport());
             QTest::qWait(20);
