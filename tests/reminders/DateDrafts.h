@@ -23,7 +23,8 @@ inline QStringList languages()
     return languages;
 }
 
-/// @p list is "found", "ordinary" (without a date) or "missed" (of both kinds, and understood wrongly).
+/// @p list is "found", "ordinary" (without a date), "missed" (of both kinds, and understood wrongly), or
+/// "grammar" (of both kinds; their meaning begins with the year).
 inline QList<Row> rows(const QString &language, const QString &list)
 {
     const QString file = QStringLiteral(DATES_FOLDER "/") + language + u'-' + list + QStringLiteral(".txt");
