@@ -75,16 +75,6 @@ private Q_SLOTS:
         desktop.startTray();
         QVERIFY(road.waitForTrayIcon());
     }
-
-    void a_notification_server_that_crashes_is_waited_for()
-    {
-        RunningProgram program;
-        program.notifications.reset();
-        QVERIFY(program.write(u"one"_s));
-        program.notifications = std::make_unique<NotificationRecorder>(program.desktop.busAddress());
-        QVERIFY(program.write(u"two"_s));
-        QCOMPARE(program.road.process().state(), QProcess::Running);
-    }
 };
 
 QTEST_GUILESS_MAIN(LossesTest)
