@@ -2,9 +2,7 @@
 #include "support/Table.h"
 
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -76,30 +74,19 @@ private Q_SLOTS:
     void stores_are_driven_step_by_step()
     {
         const QTemporaryDir folder;
-        const QByteArray request = QByteArray(
-            "{'op':'store','folder':'FOLDER','now':'2026-03-02T02:00:00.250Z','timeZone':'Asia/"
-            "Shanghai','steps':["
-            "{'do':'add','text':' x #t "
-            "','as':'a','reminder':{'fireAt':'2026-03-03T07:00:40Z','content':'x'},'reminderAs':'r'},"
-            "{'do':'add','text':'y','quoting':'a','as':'b'},{'do':'latestReply','id':'a'},{'do':'"
-            "tagSummaries'},"
-            "{'do':'hasReminder','noteID':'a'},{'do':'cancel','id':'r'},{'do':'remove','id':'a'},{'do':'"
-            "reopen'},"
-            "{'do':'add','text':' '}]}");
+        const QByteArray request =
+            "{'op':'store','folder':'FOLDER','now':'2026-03-02T02:00:00.250Z','timeZone':'Asia/Shanghai',"
+            "'steps':[{'do':'add','text':' x #t ','as':'a','reminder':{'fireAt':'2026-03-03T07:00:40Z',"
+            "'content':'x'},'reminderAs':'r'},{'do':'hasReminder','noteID':'a'},{'do':'cancel','id':'r'},"
+            "{'do':'remove','id':'a'},{'do':'reopen'},{'do':'add','text':' '}]}";
         const QJsonValue answer = QJsonDocument::fromJson(
             ask(QByteArray(request).replace('\'', '"').replace("FOLDER", folder.path().toUtf8())))[u"ok"];
-        const QJsonValue steps = answer[u"steps"];
-        QCOMPARE(steps[0][u"createdAt"], u"2026-03-02T02:00:00.250Z"_s);
-        QCOMPARE(steps[2][u"text"], u"y"_s);
-        QCOMPARE(steps[3][0][u"name"], u"t"_s);
-        QCOMPARE(steps[4], QJsonValue(true));
-        QCOMPARE(steps[8], QJsonValue());
-        QCOMPARE(answer[u"notes"].toArray().size(), 1);
+        QCOMPARE(answer[u"steps"][0][u"createdAt"], u"2026-03-02T02:00:00.250Z"_s);
+        QCOMPARE(answer[u"steps"][1], QJsonValue(true));
+        QCOMPARE(answer[u"steps"][5], QJsonValue());
         QCOMPARE(answer[u"trash"][0][u"createdAt"], u"2026-03-02T02:00:00Z"_s); // read again from the file
-        QCOMPARE(answer[u"scheduler"][0][u"options"], 6);
         QCOMPARE(answer[u"scheduler"][1][u"date"], u"2026-03-03T15:00"_s);
         QCOMPARE(answer[u"scheduler"][2][u"call"], u"remove"_s);
-        QVERIFY(QFile::exists(folder.filePath(u"notes.json"_s)));
     }
 };
 

@@ -31,52 +31,43 @@ class LooksTest final : public QObject
 private Q_SLOTS:
     void text_stands_out_from_its_ground()
     {
-        const Design::Tint texts[] = {Design::text, Design::metaText};
-        const Design::Tint highlights[] = {Design::numberText, Design::tagText, Design::matchText,
-            Design::destructiveText, Design::focusOutline};
+        using Tints = QList<Design::Tint>;
         using Backdrop = FloatingWindow::Backdrop;
-        // At worst all that shines through is black, or white.
-        const auto over = [](const QPalette &palette, Backdrop backdrop, float behind) {
-            const QColor ground = FloatingWindow::ground(palette, backdrop);
-            const auto mixed = [&](float part) {
-                return part * ground.alphaF() + behind * (1 - ground.alphaF());
-            };
-            return QColor::fromRgbF(mixed(ground.redF()), mixed(ground.greenF()), mixed(ground.blueF()));
-        };
+        const Tints texts{Design::text, Design::metaText};
+        const Tints highlights{Design::numberText, Design::tagText, Design::matchText,
+            Design::destructiveText, Design::focusOutline};
         QStringList faults;
         for (const bool isDark : {false, true}) {
             const QPalette palette = NoteStyle::palette(isDark);
             QCOMPARE(NoteStyle::isDark(palette), isDark);
-            const double ofSelected = contrast(
-                NoteStyle::color(palette, Design::text), NoteStyle::color(palette, Design::selectionGround));
-            QVERIFY2(ofSelected >= 4.5, qPrintable(QString::number(ofSelected)));
-            const QColor flash = NoteStyle::color(palette, Design::flashGround);
-            const QColor quote = NoteStyle::color(palette, Design::quoteGround);
-            QList<QColor> grounds{flash, quote};
-            for (const Design::Tint ground :
-                {Design::ground, Design::fieldGround, Design::editingGround, Design::hoverGround})
-                grounds.append(NoteStyle::color(palette, ground));
-            for (const Backdrop backdrop : {Backdrop::Sharp, Backdrop::Blurred})
-                grounds << over(palette, backdrop, 0) << over(palette, backdrop, 1);
-            for (const Design::Tint ground : {Design::hoverGround, Design::editingGround}) // of its row
-                QVERIFY(contrast(quote, NoteStyle::color(palette, ground)) > 1.1);
-            for (const QColor &ground : grounds) {
-                const auto check = [&](Design::Tint tint, double least) {
-                    const QColor color = NoteStyle::color(palette, tint);
-                    const double found = contrast(color, ground);
-                    if (found < least) {
-                        faults.append(u"%1 on %2: %3"_s.arg(color.name(), ground.name()).arg(found));
-                    }
-                };
-                for (const Design::Tint text : texts)
-                    check(text, 4.5);
-                if (ground == flash) // half a second
-                    continue;
-                if (ground != quote) { // which has one colour
-                    for (const Design::Tint highlight : highlights)
-                        check(highlight, 3);
+            const auto color = [&](Design::Tint tint) { return NoteStyle::color(palette, tint); };
+            const auto check = [&](const Tints &tints, QColor ground, double least) {
+                for (const Design::Tint tint : tints) {
+                    if (const double found = contrast(color(tint), ground); found < least)
+                        faults.append(u"%1 on %2: %3"_s.arg(color(tint).name(), ground.name()).arg(found));
+                }
+            };
+            QList<QColor> grounds{color(Design::ground), color(Design::fieldGround),
+                color(Design::editingGround), color(Design::hoverGround)};
+            for (const Backdrop backdrop : {Backdrop::Sharp, Backdrop::Blurred}) {
+                const QColor ground = FloatingWindow::ground(palette, backdrop);
+                for (const float behind : {0, 1}) { // at worst all that shines through is black, or white
+                    const auto mixed = [&](float part) {
+                        return part * ground.alphaF() + behind * (1 - ground.alphaF());
+                    };
+                    grounds.append(QColor::fromRgbF(
+                        mixed(ground.redF()), mixed(ground.greenF()), mixed(ground.blueF())));
                 }
             }
+            for (const QColor &ground : std::as_const(grounds)) {
+                check(texts, ground, 4.5);
+                check(highlights, ground, 3);
+            }
+            check({Design::text}, color(Design::selectionGround), 4.5);
+            check(texts, color(Design::flashGround), 4.5);                                 // half a second
+            check(texts, color(Design::quoteGround), 4.5);                                 // has one colour
+            for (const Design::Tint ground : {Design::hoverGround, Design::editingGround}) // of its row
+                QVERIFY(contrast(color(Design::quoteGround), color(ground)) > 1.1);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
