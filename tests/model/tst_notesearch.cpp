@@ -342,22 +342,6 @@ private Q_SLOTS:
             stores.ask();
         }
     }
-
-    void a_renamed_tag_drops_the_vectors_of_live_notes_alone()
-    {
-        ConceptEmbeddingProvider concepts;
-        Stores stores(&concepts);
-        const Note trashed = *stores.notes.add(u"牙医 #a"_s);
-        stores.plain.cache.clear();
-        stores.notes.remove(trashed.id);
-        const Note live = *stores.notes.add(u"茶 #a"_s);
-        stores.notes.add(u"猫粮 #x"_s);
-        stores.about = trashed;
-        stores.ask();
-        QVERIFY(stores.plain.cache.contains(trashed.id) && stores.plain.cache.contains(live.id));
-        stores.plain.cache.remove(live.id);
-        stores.notes.renameTag(u"a"_s, u"b"_s); // asks as well
-    }
 };
 
 QTEST_GUILESS_MAIN(NoteSearchTest)

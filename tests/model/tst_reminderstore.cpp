@@ -173,17 +173,6 @@ private Q_SLOTS:
         QCOMPARE(ReminderStore::active(), reminders.get());
     }
 
-    void a_broken_file_is_an_empty_list_and_is_kept_aside()
-    {
-        writeFile(file(), "[{}]");
-        const auto reminders = store();
-        QVERIFY(reminders->reminders().isEmpty());
-        QCOMPARE(readFile(file()), "[{}]");
-        schedule(*reminders, "2026-03-02T02:05:00Z");
-        QCOMPARE(readFile(file() + u".unreadable-20260302T020000Z"_s), "[{}]");
-        QCOMPARE(saved().size(), 1);
-    }
-
     void what_is_snoozed_comes_back_ten_minutes_later_at_a_full_minute()
     {
         const auto reminders = store();
