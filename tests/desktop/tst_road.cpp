@@ -79,23 +79,17 @@ private Q_SLOTS:
     {
         const Instant now = std::chrono::floor<std::chrono::minutes>(SystemClock().now());
         QList<Reminder> reminders;
-        for (int i = 1; i <= 7; ++i) {
-            reminders.append({QUuid::createUuid(), QUuid::createUuid(), u"第%1"_s.arg(i), u"x"_s,
-                now - std::chrono::hours(10 - i), now - std::chrono::hours(100)});
-        }
-        reminders.append(
-            {QUuid::createUuid(), QUuid::createUuid(), u"将来"_s, u"x"_s, now + std::chrono::hours(1), now});
+        for (const auto fromNow : {-2h, -1h, 1h})
+            reminders.append({QUuid::createUuid(), QUuid::createUuid(), u"x"_s, u"x"_s, now + fromNow, now});
         RunningProgram program(reminders);
         const QList<NotificationRecorder::Shown> &shown = program.notifications->shown();
         for (int start = 0; start < 2; ++start) {
-            QTRY_COMPARE(shown.size(), 6);
+            QTRY_COMPARE(shown.size(), 2);
             QTRY_COMPARE(program.road.savedReminders(), QList<Reminder>{reminders.last()});
             QTest::qWait(300);
             program.road.stop();
             program.start();
         }
-        QCOMPARE(shown.first().body, u"第1\n第2"_s);
-        QCOMPARE(shown.last().body, u"第7"_s);
     }
 
     void a_reminder_can_be_snoozed_from_its_notification()
@@ -111,13 +105,12 @@ private Q_SLOTS:
         QTRY_COMPARE(road.savedReminders().size(), 1);
         const Reminder later = road.savedReminders().first();
         QCOMPARE(later.noteID, note.id);
-        QCOMPARE(later.text, u"倒垃圾"_s);
         QCOMPARE(later.fullText, note.text);
         QVERIFY(later.fireAt >= now + 10min && later.fireAt <= SystemClock().now() + 11min);
         QVERIFY(!road.panel());
     }
 
-    void the_hot_key_works_under_num_lock_and_toggles_once_a_press()
+    void the_hot_key_works_on_any_keyboard_and_toggles_once_a_press()
     {
         RunningProgram program;
         Road &road = program.road;
@@ -132,11 +125,6 @@ private Q_SLOTS:
         QVERIFY(road.waitForPanel(false));
         QTest::qWait(300);
         QVERIFY(!road.panel());
-    }
-
-    void the_hot_key_follows_the_keyboard_map()
-    {
-        RunningProgram program;
         program.screen().moveToAnotherKey(Keysym::space);
         QTest::qWait(500); // nobody types right after changing the keyboard map
         for (const bool opens : {true, false})
