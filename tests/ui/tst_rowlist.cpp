@@ -4,6 +4,7 @@
 #include "ui/lists/RowModel.h"
 #include "ui/looks/Design.h"
 
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
@@ -21,9 +22,9 @@ struct PlainRow {
     QString text;
     bool operator==(const PlainRow &) const = default;
 };
-bool isSameRow(const PlainRow &a, const PlainRow &b)
+QString rowKey(const PlainRow &row)
 {
-    return a.name == b.name;
+    return row.name;
 }
 
 class PlainModel final : public RowsOf<PlainRow>
@@ -245,6 +246,51 @@ private Q_SLOTS:
             after.append(list.current());
         }
         QCOMPARE(after, (QStringList{u"c"_s, u"d"_s, u"a"_s, u"new"_s, QString()}));
+    }
+
+    void what_holds_a_row_keeps_it_while_others_come_go_and_move()
+    {
+        const QString all = u"abcdefghijklmnopqrstuvwxyz"_s;
+        const auto rowsOf = [](const QString &names) {
+            QList<PlainRow> rows;
+            for (const QChar name : names)
+                rows.append({name, QString(200, u'字')});
+            return rows;
+        };
+        QString scattered;
+        for (const QChar name : all)
+            scattered.append(name).append(name.toUpper());
+        QString reversed = all;
+        std::reverse(reversed.begin(), reversed.end());
+        const std::pair<QString, int> after[] = {
+            {u"NabcdefghijklnopqrstuvwxyzM"_s, 3}, // and how many runs are inserted and removed
+            {u"yabcdefghijklmnopqrstuvwxz"_s, 2},
+            {u"abcdefghijlmnopqrstuvwxyzk"_s, 2},
+            {scattered, 2},
+            {reversed, 2},
+        };
+        for (const auto &[names, runs] : after) {
+            PlainList list;
+            const QAbstractItemModelTester tester(
+                &list.rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+            list.rows.set(rowsOf(all));
+            list.scrollTo(10);
+            list.setCurrentRow(10);
+            list.grab();
+            const QString first = list.rows.row(list.firstRowInView()).name;
+            const QRect rect = list.rectOfName(first);
+            QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&list);
+            QAccessibleInterface *k = interface->child(10);
+            QSignalSpy inserted(&list.rows, &QAbstractItemModel::rowsInserted);
+            QSignalSpy removed(&list.rows, &QAbstractItemModel::rowsRemoved);
+            list.rows.set(rowsOf(names));
+            QCOMPARE(list.rows.rows(), rowsOf(names));
+            QCOMPARE(inserted.count() + removed.count(), runs);
+            QCOMPARE(list.current(), u"k"_s);
+            QCOMPARE(interface->indexOfChild(k), names.indexOf(u'k'));
+            list.grab();
+            QCOMPARE(list.rectOfName(first), rect);
+        }
     }
 
     void rows_in_view_stay_where_they_are()

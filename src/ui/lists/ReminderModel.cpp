@@ -6,11 +6,9 @@
 #include "text/L10n.h"
 #include "text/NoteFormatting.h"
 
-bool isSameRow(const ReminderRow &a, const ReminderRow &b)
+QUuid rowKey(const ReminderRow &row)
 {
-    if (a.reminder && b.reminder)
-        return a.reminder->id == b.reminder->id;
-    return !a.reminder && !b.reminder;
+    return row.reminder ? row.reminder->id : QUuid();
 }
 
 ReminderModel::ReminderModel(NoteStore &notes, ReminderStore &reminders, const Clock &clock)

@@ -16,7 +16,7 @@ struct ReminderRow {
     QString text = {}; ///< the note's, or the reminder's own when the note no longer exists
     bool operator==(const ReminderRow &) const = default;
 };
-[[nodiscard]] bool isSameRow(const ReminderRow &a, const ReminderRow &b);
+[[nodiscard]] QUuid rowKey(const ReminderRow &row);
 
 /// The upcoming reminders, followed by the expired ones.
 class ReminderModel final : public RowsOf<ReminderRow>

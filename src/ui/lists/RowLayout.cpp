@@ -31,7 +31,7 @@ QList<QTextLayout::FormatRange> colours(const QString &text, const QString &quer
     return ranges;
 }
 
-constexpr int maxLines = 12;    ///< of a text that is never folded
+constexpr int maxLines = 12;    ///< up to which a text is not folded
 constexpr int foldedLines = 10; ///< of one that is
 // More than all the lines of a folded text hold; and of an unfolded one, what can be laid out between two
 // keys. The whole of it is shown when the note is edited.

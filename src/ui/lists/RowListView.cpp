@@ -44,6 +44,7 @@ void RowListView::setCurrentRow(int row)
         return;
     clearSelection();
     m_current = row;
+    m_currentIndex = model().index(row);
     viewport()->update();
     if (hasFocus())
         RowListAccessible::announceCurrentRow(*this);
@@ -80,8 +81,8 @@ void RowListView::didRemoveRows(int first, int count)
 {
     m_mouse.forgetRows();
     RowScrollArea::didRemoveRows(first, count);
-    if (m_current >= first + count) {
-        m_current -= count;
+    if (m_currentIndex.isValid()) {
+        m_current = m_currentIndex.row();
     } else if (m_current >= first) {
         clearSelection();
         m_current = -1; // so that the row that follows is announced even under the same number

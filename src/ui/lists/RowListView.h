@@ -17,8 +17,8 @@ public:
     explicit RowListView(RowModel &model, QWidget *parent = nullptr);
 
     /// The row that keys act on; -1 for none, as always while the list has neither the focus nor a menu or
-    /// popover. It stays with its row when others come and go, and moves to the row below when its own is
-    /// removed.
+    /// popover. It stays with its row when this moves and others come and go, and passes to the row below
+    /// when its own is removed.
     [[nodiscard]] int currentRow() const { return m_current; }
     void setCurrentRow(int row);
     void goTo(int row); ///< makes it the current row, and takes the focus
@@ -92,6 +92,7 @@ private:
     void popUpMenu(int row, QPoint globalPosition);
 
     int m_current = -1;
-    quint64 m_lastRelease = 0; ///< of a key: its time
+    QPersistentModelIndex m_currentIndex; ///< of the same row; follows it where it moves
+    quint64 m_lastRelease = 0;            ///< of a key: its time
     RowMouse m_mouse;
 };

@@ -74,7 +74,13 @@ void RowScrollArea::didInsertRows(int first, int count)
 
 void RowScrollArea::didRemoveRows(int first, int count)
 {
+    const int top = rectOf(firstRowInView()).top();
+    const bool isAllInView = first <= firstRowInView() && lastRowInView() < first + count;
     m_geometry.remove(first, count);
+    if (const int row = m_firstInView.row(); isAllInView && row >= 0) { // it has only moved
+        measure(row, row);
+        m_geometry.setOffset(std::clamp(m_geometry.top(row) - top, 0, maxOffset()), page());
+    }
     rowsChanged();
 }
 
@@ -126,6 +132,12 @@ void RowScrollArea::geometryChanged()
         verticalScrollBar()->setValue(offset);
         m_geometry.setOffset(verticalScrollBar()->value(), page());
     }
+    offsetChanged();
+}
+
+void RowScrollArea::offsetChanged()
+{
+    m_firstInView = m_geometry.offset() > 0 ? m_model.index(firstRowInView()) : QModelIndex();
     didMoveRows();
     viewport()->update();
 }
@@ -384,8 +396,7 @@ void RowScrollArea::scrollContentsBy(int, int)
         const int offset = m_geometry.yOf(*m_dragged, value + y) - y;
         m_geometry.setOffset(std::clamp(offset, 0, maxOffset()), page());
     }
-    didMoveRows();
-    viewport()->update();
+    offsetChanged();
 }
 
 // Painting

@@ -77,6 +77,7 @@ private:
     void measureRowsInView();
     void rowsChanged();
     void geometryChanged();
+    void offsetChanged();
     void moveTo(int offset);
     void scrollBy(int distance); ///< exactly, as far as the list goes
     void didUseScrollBar(int action);
@@ -89,6 +90,7 @@ private:
 
     RowModel &m_model;
     RowGeometry m_geometry;
+    QPersistentModelIndex m_firstInView; ///< none at the top, where the list stays whatever comes
     /// Of the rows in view and near it, for the present width, font and palette: breaking a text into lines
     /// takes longer than painting it.
     mutable QCache<RowContent, RowLayout> m_layouts{200};

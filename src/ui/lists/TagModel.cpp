@@ -4,9 +4,9 @@
 #include "model/NoteStore.h"
 #include "text/L10n.h"
 
-bool isSameRow(const TagSummary &a, const TagSummary &b)
+QString rowKey(const TagSummary &row)
 {
-    return a.name == b.name;
+    return row.name;
 }
 
 TagModel::TagModel(NoteStore &notes)

@@ -5,7 +5,7 @@
 
 class NoteStore;
 
-[[nodiscard]] bool isSameRow(const TagSummary &a, const TagSummary &b);
+[[nodiscard]] QString rowKey(const TagSummary &row);
 
 /// The tags whose name contains the query, compared without case.
 class TagModel final : public RowsOf<TagSummary>

@@ -18,14 +18,14 @@ constexpr auto slice = 4ms; ///< of a frame of 16
 constexpr qsizetype maxHits = 20;
 } // namespace
 
-bool isSameRow(const TimelineRow &a, const TimelineRow &b)
+std::pair<QUuid, std::pair<int, Instant::rep>> rowKey(const TimelineRow &row)
 {
-    return a.kind == b.kind && a.id == b.id && a.day == b.day;
+    return {row.id, {int(row.kind), row.day.time_since_epoch().count()}};
 }
 
 bool operator==(const TimelineRow &a, const TimelineRow &b)
 {
-    return isSameRow(a, b) && a.hasReminder == b.hasReminder && a.isRepliedTo == b.isRepliedTo
+    return rowKey(a) == rowKey(b) && a.hasReminder == b.hasReminder && a.isRepliedTo == b.isRepliedTo
            && a.isSemanticOnly == b.isSemanticOnly && a.text == b.text;
 }
 
@@ -109,11 +109,13 @@ void TimelineModel::setEdited(std::optional<QUuid> noteID)
 void TimelineModel::showWithEdited(QList<TimelineRow> found)
 {
     const auto isEdited = [this](const auto &each) { return each.id == m_edited; };
-    const auto &notes = m_notes.notes();
-    const auto edited = std::find_if(notes.begin(), notes.end(), isEdited);
-    if (m_edited && edited != notes.end() && std::none_of(found.begin(), found.end(), isEdited)) {
-        found.prepend(rowOf(edited - notes.begin(), {}, false));
-        found.prepend({.kind = TimelineRow::Kind::EditedTitle});
+    if (m_edited && std::none_of(found.begin(), found.end(), isEdited)) {
+        const auto &notes = m_notes.notes();
+        const auto edited = std::find_if(notes.begin(), notes.end(), isEdited);
+        if (edited != notes.end()) {
+            found.prepend(rowOf(edited - notes.begin(), {}, false));
+            found.prepend({.kind = TimelineRow::Kind::EditedTitle});
+        }
     }
     show(found);
 }
@@ -203,7 +205,10 @@ QString TimelineModel::help(int number) const
 void TimelineModel::fillEntry(RowContent &entry, int number) const
 {
     const TimelineRow &row = this->row(number);
-    const Note &note = this->note(number);
+    const QList<Note> &notes = m_notes.notes();
+    if (row.noteIndex >= notes.size() || notes[row.noteIndex].id != row.id)
+        return; // the note is gone, and the row about to go
+    const Note &note = notes[row.noteIndex];
     entry.lead = NoteFormatting::timeString(note.createdAt, m_clock.calendar());
     entry.query = m_query;
     entry.quote = note.quote.value_or(QString());

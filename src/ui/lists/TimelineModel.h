@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class Clock;
@@ -33,13 +34,11 @@ struct TimelineRow {
 
     [[nodiscard]] bool isNote() const { return kind == Kind::Note; }
 };
-[[nodiscard]] bool isSameRow(const TimelineRow &a, const TimelineRow &b);
+[[nodiscard]] std::pair<QUuid, std::pair<int, Instant::rep>> rowKey(const TimelineRow &row);
 /// Whether the rows show the same.
 [[nodiscard]] bool operator==(const TimelineRow &a, const TimelineRow &b);
 
 /// The live notes by day as rows: those that contain the query or, if there are none, those that resemble it.
-/// Announces exactly the rows that were inserted, removed or changed.
-///
 /// Notes that resemble the query are searched for a little later and in slices, so that typing never waits.
 class TimelineModel final : public RowsOf<TimelineRow>
 {

@@ -5,11 +5,10 @@
 #include "text/L10n.h"
 #include "text/NoteFormatting.h"
 
-bool isSameRow(const TrashRow &a, const TrashRow &b)
+std::pair<QUuid, Instant::rep> rowKey(const TrashRow &row)
 {
-    if (a.note && b.note)
-        return a.note->id == b.note->id;
-    return !a.note && !b.note && a.day == b.day;
+    return row.note ? std::pair(row.note->id, Instant::rep(0))
+                    : std::pair(QUuid(), row.day.time_since_epoch().count());
 }
 
 TrashModel::TrashModel(NoteStore &notes, const Clock &clock)

@@ -4,6 +4,7 @@
 #include "ui/lists/RowModel.h"
 
 #include <optional>
+#include <utility>
 
 class Clock;
 class NoteStore;
@@ -13,7 +14,7 @@ struct TrashRow {
     std::optional<Note> note; ///< none in the header of the day
     bool operator==(const TrashRow &) const = default;
 };
-[[nodiscard]] bool isSameRow(const TrashRow &a, const TrashRow &b);
+[[nodiscard]] std::pair<QUuid, Instant::rep> rowKey(const TrashRow &row);
 
 /// The trashed notes, grouped by the day on which they were written.
 class TrashModel final : public RowsOf<TrashRow>
