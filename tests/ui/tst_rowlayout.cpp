@@ -146,42 +146,38 @@ private Q_SLOTS:
         }
     }
 
-    void what_is_cut_leads_nowhere_and_its_mark_is_not_copied_data()
+    void what_is_cut_leads_nowhere_and_its_mark_is_not_copied()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<QStringList>("targets");
         const QString page = u"https://a.example/"_s;
         const QString pad = QString(19'990, u'i') + u' ';
         const QString tail(20, u'i');
         const QString needle = QString(22, u' ') + u"needle"_s;
-        QTest::newRow("whole") << pad + u"#cat "_s + tail << QString() << QStringList{u"#cat"_s};
-        QTest::newRow("tag") << pad + u"#categories"_s << QString() << QStringList{};
-        QTest::newRow("address") << pad + page + tail << QString() << QStringList{};
-        QTest::newRow("end of an address") << pad + page + page + needle << u"needle"_s << QStringList{};
-        QTest::newRow("after a line") << pad + u'\n' + page + needle << u"needle"_s << QStringList{page};
-    }
-    void what_is_cut_leads_nowhere_and_its_mark_is_not_copied()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, query);
-        RowContent content;
-        content.text = text;
-        content.query = query;
-        content.fold = query.isEmpty() ? RowContent::Fold::Unfolded : RowContent::Fold::Folded;
-        const RowLayout row(content, 340, NoteStyle::palette(false));
-        QStringList targets;
-        for (const RowLayout::Target &target : row.targets()) {
-            targets.append(target.part.target);
-            QCOMPARE(row.text().text().mid(target.range.start, target.range.length()), targets.last());
+        const std::tuple<QString, QString, QStringList> rows[] = {
+            {pad + u"#cat "_s + tail, {}, {u"#cat"_s}},
+            {pad + u"#categories"_s, {}, {}},
+            {pad + page + tail, {}, {}},
+            {pad + page + page + needle, u"needle"_s, {}}, // the end of an address
+            {pad + u'\n' + page + needle, u"needle"_s, {page}},
+        };
+        for (const auto &[text, query, targets] : rows) {
+            RowContent content;
+            content.text = text;
+            content.query = query;
+            content.fold = query.isEmpty() ? RowContent::Fold::Unfolded : RowContent::Fold::Folded;
+            const RowLayout row(content, 340, NoteStyle::palette(false));
+            QStringList found;
+            for (const RowLayout::Target &target : row.targets()) {
+                found.append(target.part.target);
+                QCOMPARE(row.text().text().mid(target.range.start, target.range.length()), found.last());
+            }
+            QCOMPARE(found, targets);
+            RowSelection all;
+            all.begin(row, {0, 0});
+            all.extendTo(row, {1000, row.height()});
+            const QString copied = all.textIn(row);
+            QVERIFY(!copied.isEmpty() && !copied.contains(u'…'));
+            QVERIFY(text.contains(copied));
         }
-        QTEST(targets, "targets");
-        RowSelection all;
-        all.begin(row, {0, 0});
-        all.extendTo(row, {1000, row.height()});
-        const QString copied = all.textIn(row);
-        QVERIFY(!copied.isEmpty() && !copied.contains(u'…'));
-        QVERIFY(text.contains(copied));
     }
 
     void a_text_begins_at_the_side_of_its_script()
