@@ -79,7 +79,7 @@ bool Road::isFlashing() const
     const QImage image = m_desktop.screen().screenshot(*rect);
     int lit = 0;
     for (int y = 0; y < image.height(); ++y)
-        lit += (image.pixel(8, y) & RGB_MASK) == (Design::flashGround.light & RGB_MASK);
+        lit += (image.pixel(12, y) & RGB_MASK) == (Design::flashGround.light & RGB_MASK);
     return lit > 20;
 }
 
