@@ -167,12 +167,14 @@ bool RowListView::isRepeat(const QKeyEvent &press) const
 {
     // A held key is a row of releases and presses. On X11 Qt notices that only if it has read a press
     // together with the release before it; but the two bear one time.
-    return press.isAutoRepeat() || (press.timestamp() != 0 && press.timestamp() == m_lastRelease);
+    return press.isAutoRepeat()
+           || (press.timestamp() != 0 && press.timestamp() == m_lastRelease.time
+               && press.key() == m_lastRelease.key);
 }
 
 void RowListView::keyReleaseEvent(QKeyEvent *event)
 {
-    m_lastRelease = event->timestamp();
+    m_lastRelease = {event->key(), event->timestamp()};
     RowScrollArea::keyReleaseEvent(event);
 }
 

@@ -93,6 +93,9 @@ private:
 
     int m_current = -1;
     QPersistentModelIndex m_currentIndex; ///< of the same row; follows it where it moves
-    quint64 m_lastRelease = 0;            ///< of a key: its time
+    struct {
+        int key = 0;
+        quint64 time = 0;
+    } m_lastRelease;
     RowMouse m_mouse;
 };
