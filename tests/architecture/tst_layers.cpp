@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 class LayersTest final : public QObject
@@ -69,6 +71,27 @@ private Q_SLOTS:
                 wrong.append(file + u" includes "_s + target);
         }
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
+    }
+
+    void no_headers_include_each_other_in_a_circle()
+    {
+        QHash<QString, int> state; // 1: on the way, 2: done
+        QStringList circle;
+        const std::function<void(const QString &)> visit = [&](const QString &file) {
+            state[file] = 1;
+            for (const QString &target : m_includes.values(file)) {
+                if (state.value(target) == 1)
+                    circle.append(file + u" -> "_s + target);
+                else if (state.value(target) == 0)
+                    visit(target);
+            }
+            state[file] = 2;
+        };
+        for (const QString &file : m_includes.uniqueKeys()) {
+            if (state.value(file) == 0)
+                visit(file);
+        }
+        QVERIFY2(circle.isEmpty(), qPrintable(circle.join(u'\n')));
     }
 
     void a_library_is_included_where_it_is_wrapped_and_nowhere_else()

@@ -218,10 +218,14 @@ private Q_SLOTS:
         notes->remove(notes->add(u"#x"_s)->id);
         notes->remove(notes->add(u"留 #x"_s)->id);
         notes->add(u"buy #x milk"_s);
+        const Note emptiedBefore = *notes->add(u"#y"_s);
+        notes->removeTag(u"y"_s);
+        notes->restore(emptiedBefore.id);
         const Note only =
             *notes->add(u"#x #x"_s, {}, {}, ParsedReminder{at("2026-03-03T07:00:00Z"), u"#x"_s});
         notes->removeTag(u"x"_s);
-        QCOMPARE(texts(notes->notes()), QStringList{u"buy milk"_s});
+        QCOMPARE(texts(notes->notes()), (QStringList{u"buy milk"_s, u""_s}));
+        QCOMPARE(notes->notes().last().id, emptiedBefore.id); // had no such tag
         QCOMPARE(texts(notes->trash()), (QStringList{u""_s, u"留"_s}));
         QCOMPARE(notes->trash().first().id, only.id);
         QVERIFY(reminders.reminders().isEmpty());
