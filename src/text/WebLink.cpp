@@ -48,15 +48,22 @@ std::optional<QString> decodeEntity(QStringView name)
     return numericEntity(number, 10);
 }
 
-/// Whether the last character is about the sentence, not part of the address: "(see https://a.example/x)."
-bool endsWithPunctuation(QStringView word)
+/// Without what is about the sentence at its end, not part of the address: "(see https://a.example/x)."
+qsizetype lengthWithoutPunctuation(QStringView word)
 {
     constexpr QStringView opening = u"([{";
     constexpr QStringView closing = u")]}";
-    const QChar last = word.back();
-    const qsizetype bracket = closing.indexOf(last);
-    return bracket < 0 ? QStringView(u".,;:!?'*~").contains(last)
-                       : word.count(last) > word.count(opening[bracket]);
+    qsizetype unopened[3];
+    for (qsizetype kind = 0; kind < 3; ++kind)
+        unopened[kind] = word.count(closing[kind]) - word.count(opening[kind]);
+    qsizetype length = word.size();
+    for (; length > 0; --length) {
+        const QChar last = word[length - 1];
+        const qsizetype kind = closing.indexOf(last);
+        if (kind < 0 ? !QStringView(u".,;:!?'*~").contains(last) : unopened[kind]-- <= 0)
+            break;
+    }
+    return length;
 }
 } // namespace
 
@@ -89,8 +96,7 @@ QList<WebLink::Address> WebLink::addresses(QStringView text)
         return addresses;
     for (const Regex::Match &match : word.allMatches(text)) {
         TextRange range = match.range();
-        while (endsWithPunctuation(text.sliced(range.start, range.length())))
-            --range.end;
+        range.end = range.start + lengthWithoutPunctuation(text.sliced(range.start, range.length()));
         if (const auto address = detect(text.sliced(range.start, range.length())))
             addresses.append({range, *address});
     }

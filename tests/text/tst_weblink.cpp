@@ -42,6 +42,7 @@ private Q_SLOTS:
             {"看https://a.example/值，谢谢", "https://a.example/值"},
             {"「https://a.example」https://b.example…", "https://a.example https://b.example"},
             {"[it](https://a.example/y_(z))", "https://a.example/y_(z)"},
+            {"{https://a.example/[(z)]]).}", "https://a.example/[(z)]"},
             {"https://a.example/?q=1&r=2#top!", "https://a.example/?q=1&r=2#top"},
             {"a\u2028https://a.example\u2028b", "https://a.example"},
             {"https://a.example https://a.example", "https://a.example https://a.example"},

@@ -123,16 +123,15 @@ private Q_SLOTS:
         QCOMPARE(panel.field()->text(), QString());
     }
 
-    void a_jump_shows_the_note_and_lights_it_up()
+    void a_jump_clears_the_draft_that_hides_the_note()
     {
         TestPanel panel;
         const Note target = *panel.notes.add(u"目标"_s);
         panel.type(u"别的"_s); // hides it
         panel.state().openNote(target.id);
-        QTRY_COMPARE(panel.list().flashID(), target.id);
+        QTRY_COMPARE(panel.list().currentRow(), 1);
         QCOMPARE(panel.field()->text(), QString());
         QVERIFY(!panel.state().jumpTargetID());
-        QTRY_VERIFY(!panel.list().flashID());
     }
 
     void related_notes_are_one_click_away()
@@ -153,21 +152,8 @@ private Q_SLOTS:
         QCOMPARE(buttons.size(), 1);
         QCOMPARE(buttons.first()->accessibleName(), older.text);
         buttons.first()->click();
-        QTRY_COMPARE(panel.list().flashID(), older.id);
+        QTRY_COMPARE(panel.list().currentRow(), 3);
         QTRY_VERIFY(!popover);
-    }
-
-    void an_older_flash_does_not_put_out_a_newer_one()
-    {
-        TestPanel panel;
-        const Note first = *panel.notes.add(u"一"_s);
-        const Note second = *panel.notes.add(u"二"_s);
-        panel.list().scrollAndFlash(first.id, false);
-        QTest::qWait(300);
-        panel.list().scrollAndFlash(second.id, false);
-        QTest::qWait(300); // the first flash is over
-        QCOMPARE(panel.list().flashID(), second.id);
-        QTRY_VERIFY(!panel.list().flashID());
     }
 
     void a_long_note_is_unfolded_by_key_click_and_menu_and_stays_so()

@@ -212,13 +212,8 @@ void NoteListView::scrollAndFlash(QUuid noteID, bool clearsExternalTarget)
             goTo(index.row());
         else
             m_state.focusComposer();
-        m_flashID = noteID;
         if (clearsExternalTarget)
             m_state.setJumpTargetID({});
-        QTimer::singleShot(Design::flashDuration, this, [this, noteID] {
-            if (m_flashID == noteID)
-                m_flashID.reset();
-        });
     };
     if (m_timeline.indexOf(noteID).isValid()) {
         jump();

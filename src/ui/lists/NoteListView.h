@@ -4,8 +4,6 @@
 
 #include <QUuid>
 
-#include <optional>
-
 class NoteSearch;
 class NoteStore;
 class PanelState;
@@ -25,8 +23,6 @@ public:
 
     /// Scrolls the note to the center and flashes it. A draft that hides the note is cleared first.
     void scrollAndFlash(QUuid noteID, bool clearsExternalTarget);
-    /// The note of the latest jump, for half a second. Its row is lit for longer, from when it is in view.
-    [[nodiscard]] std::optional<QUuid> flashID() const { return m_flashID; }
 
     [[nodiscard]] RowPainter::EmptyState emptyState() const override;
 
@@ -49,5 +45,4 @@ private:
     ReminderStore &m_reminders;
     PanelState &m_state;
     TimelineModel &m_timeline;
-    std::optional<QUuid> m_flashID;
 };

@@ -190,9 +190,10 @@ void RowListAccessible::forgetRows(int first, int last)
     for (const QPersistentModelIndex &index : known) {
         if (index.row() < first || index.row() > last)
             continue;
-        const QAccessible::Id id = m_rows.take(index);
+        const QAccessible::Id id = m_rows.value(index);
         QAccessibleEvent event(QAccessible::accessibleInterface(id), QAccessible::ObjectDestroyed);
         QAccessible::updateAccessibility(&event);
+        m_rows.remove(index); // not before, or a listener that asks for the row would have it made anew
         QAccessible::deleteAccessibleInterface(id);
     }
 }

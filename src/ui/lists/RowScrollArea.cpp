@@ -6,7 +6,6 @@
 #include "ui/looks/WidgetRole.h"
 
 #include <QApplication>
-#include <QEasingCurve>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -50,18 +49,8 @@ RowScrollArea::RowScrollArea(RowModel &model, QWidget *parent)
     m_model.setSeen(false);
     estimateAll();
 
-    m_scrolling.setObjectName(QStringLiteral("scrolling"));
-    m_scrolling.setDuration(int(Design::scrollDuration.count()));
-    m_scrolling.setEasingCurve(QEasingCurve::OutCubic);
-    m_scrolling.setStartValue(0.0);
-    m_scrolling.setEndValue(1.0);
-    connect(&m_scrolling, &QVariantAnimation::valueChanged, this,
-        [this](const QVariant &value) { jumpStep(value.toDouble()); });
-    m_flash.setObjectName(QStringLiteral("flash"));
-    m_flash.setDuration(int(Design::flashFading.count()));
-    m_flash.setKeyValues({{0, 0.0}, {0.1, 1.0}, {0.6, 1.0}, {1, 0.0}});
-    connect(&m_flash, &QVariantAnimation::valueChanged, this,
-        [this] { viewport()->update(rectOf(targetRow())); });
+    connect(&m_jump, &RowJump::moved, this, &RowScrollArea::jumpStep);
+    connect(&m_jump, &RowJump::lightChanged, this, [this] { viewport()->update(rectOf(m_jump.row())); });
 }
 
 // Where the rows are
@@ -250,7 +239,7 @@ void RowScrollArea::moveTo(int offset)
 
 void RowScrollArea::scrollBy(int distance)
 {
-    m_scrolling.stop();
+    m_jump.stop();
     // What comes into view is measured before, so that it cannot move what is there by more or less.
     const auto rowAt = [this](int y) { return m_geometry.rowAt(m_geometry.offset() + y); };
     while (measure(rowAt(std::min(0, distance)), rowAt(page() + std::max(0, distance)))) {
@@ -260,14 +249,14 @@ void RowScrollArea::scrollBy(int distance)
 
 void RowScrollArea::scrollTo(int row)
 {
-    m_scrolling.stop();
+    m_jump.stop();
     measureAround(row, page());
     moveTo(m_geometry.offsetToShow(row, view()));
 }
 
 bool RowScrollArea::scrollWithin(int row, int direction)
 {
-    m_scrolling.stop();
+    m_jump.stop();
     measureAround(row, page());
     const int before = m_geometry.offset();
     moveTo(m_geometry.offsetWithin(row, view(), direction * step()));
@@ -281,7 +270,7 @@ void RowScrollArea::scrollPage(int pages)
 
 void RowScrollArea::scrollToEnd(int direction)
 {
-    m_scrolling.stop();
+    m_jump.stop();
     if (direction > 0 && m_geometry.count() > 0)
         measureAround(m_geometry.count() - 1, page());
     moveTo(direction < 0 ? 0 : maxOffset());
@@ -302,27 +291,14 @@ int RowScrollArea::step() const
 
 void RowScrollArea::jumpTo(std::function<QModelIndex()> target)
 {
-    m_scrolling.stop();
-    m_flash.stop();
-    m_flash.setCurrentTime(0);
-    m_findTarget = std::move(target);
-    m_target = QModelIndex();
-    m_progress = 0;
-    m_scrolling.start();
+    m_jump.start(std::move(target));
 }
 
-int RowScrollArea::targetRow()
+void RowScrollArea::jumpStep(double share)
 {
-    if (!m_target.isValid())
-        m_target = m_findTarget();
-    return m_target.row();
-}
-
-void RowScrollArea::jumpStep(double progress)
-{
-    const int row = targetRow();
+    const int row = m_jump.row();
     if (row < 0) {
-        m_scrolling.stop();
+        m_jump.stop();
         return;
     }
     // Measured anew at each step, since rows may have come and gone. A far jump begins two pages away.
@@ -330,12 +306,9 @@ void RowScrollArea::jumpStep(double progress)
     measureAround(row, farthest + page());
     const int target = std::clamp(m_geometry.offsetToCenter(row, view()), 0, maxOffset());
     const int offset = std::clamp(m_geometry.offset(), target - farthest, target + farthest);
-    const double share = m_progress < 1 ? (progress - m_progress) / (1 - m_progress) : 1;
-    m_progress = progress;
     moveTo(offset + int(std::lround((target - offset) * share)));
-    const bool hasFlashed = m_flash.state() == QVariantAnimation::Running || m_flash.currentTime() > 0;
-    if (!hasFlashed && rectOf(row).intersects(viewport()->rect()))
-        m_flash.start();
+    if (rectOf(row).intersects(viewport()->rect()))
+        m_jump.lightUp();
 }
 
 // Wheel and scroll bar
@@ -364,7 +337,7 @@ bool RowScrollArea::eventFilter(QObject *object, QEvent *event)
 
 void RowScrollArea::didUseScrollBar(int action)
 {
-    m_scrolling.stop();
+    m_jump.stop();
     switch (action) {
     case QScrollBar::SliderSingleStepAdd:
         return scrollBy(verticalScrollBar()->singleStep());
@@ -434,8 +407,7 @@ void RowScrollArea::paintRows(QPainter &painter, const QRect &part) const
     const int last = m_geometry.rowAt(m_geometry.offset() + part.bottom());
     for (int row = m_geometry.rowAt(m_geometry.offset() + part.top()); row <= last; ++row) {
         RowPainter::Marks marks = marksOf(row);
-        if (row == m_target.row())
-            marks.flash = m_flash.currentValue().toDouble();
+        marks.flash = m_jump.lightOn(row);
         rows.paintRow(rectOf(row), layoutOf(row), marks);
     }
 }

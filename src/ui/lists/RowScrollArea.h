@@ -1,12 +1,12 @@
 #pragma once
 
 #include "ui/lists/RowGeometry.h"
+#include "ui/lists/RowJump.h"
 #include "ui/lists/RowPainter.h"
 
 #include <QAbstractScrollArea>
 #include <QCache>
 #include <QPersistentModelIndex>
-#include <QVariantAnimation>
 
 #include <functional>
 #include <optional>
@@ -81,8 +81,7 @@ private:
     void moveTo(int offset);
     void scrollBy(int distance); ///< exactly, as far as the list goes
     void didUseScrollBar(int action);
-    int targetRow(); ///< of the jump; -1 when it is gone
-    void jumpStep(double progress);
+    void jumpStep(double share);
     [[nodiscard]] int maxOffset() const;
     [[nodiscard]] RowGeometry::View view() const;
     [[nodiscard]] int step() const; ///< of a page; what the header and the fading edge cover is shown again
@@ -97,10 +96,5 @@ private:
     std::optional<RowGeometry> m_dragged; ///< as it was when the thumb was taken, while it is held
     int m_coveredBelow = 0;
     double m_wheelRest = 0; ///< what is left of a pixel
-    // A jump: from 0 to 1, and the strength of the flash.
-    QVariantAnimation m_scrolling{this};
-    QVariantAnimation m_flash{this};
-    std::function<QModelIndex()> m_findTarget;
-    QPersistentModelIndex m_target;
-    double m_progress = 0;
+    RowJump m_jump{this};
 };

@@ -110,8 +110,12 @@ void TagListView::didMoveRows()
 {
     if (!m_editor || !m_rename.renaming())
         return;
-    const QRect row = rectOf(m_tags.rowOf(*m_rename.renaming()));
-    m_editor->setGeometry(row.adjusted(Design::edge + 2 * Design::grid, 1, -Design::edge, -1));
+    const int row = m_tags.rowOf(*m_rename.renaming());
+    if (row < 0) {
+        m_rename.setRenaming({}); // the tag is gone
+        return;
+    }
+    m_editor->setGeometry(rectOf(row).adjusted(Design::edge + 2 * Design::grid, 1, -Design::edge, -1));
 }
 
 void TagListView::commitRename(const QString &from, const QString &to)
@@ -128,6 +132,8 @@ void TagListView::commitRename(const QString &from, const QString &to)
         if (!ModalQuestion::confirm(this, L10n::text("合并标签？"), message, L10n::text("合并")))
             return;
     }
+    if (m_notes.noteCount(from) == 0)
+        return; // it has gone meanwhile
     m_notes.renameTag(from, name);
     if (const int row = m_tags.rowOf(name); row >= 0 && hasFocus()) {
         setCurrentRow(row);
@@ -145,6 +151,8 @@ void TagListView::deleteTag(const QString &tag)
         QStringList{QString::number(m_notes.noteCount(tag))});
     if (!ModalQuestion::confirm(this, title, message, L10n::text("删除")))
         return;
+    if (m_notes.noteCount(tag) == 0)
+        return; // it has gone meanwhile
     m_notes.removeTag(tag);
     Q_EMIT done(L10n::text("已删除标签"));
 }

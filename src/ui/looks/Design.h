@@ -68,7 +68,6 @@ inline constexpr Tint selectionGround{0xffb3d1f0, 0xff3a5f8a}; ///< behind selec
 inline constexpr Tint flashGround{0xffffeec4, 0xff453c22};     ///< behind a note that was jumped to
 
 inline constexpr std::chrono::milliseconds scrollDuration{600};
-inline constexpr std::chrono::milliseconds flashDuration{500};
 inline constexpr std::chrono::milliseconds statusDuration{5000};
-inline constexpr std::chrono::milliseconds flashFading{1400}; ///< from when the note is in view
+inline constexpr std::chrono::milliseconds flashDuration{1400}; ///< from when the note is in view
 } // namespace Design
