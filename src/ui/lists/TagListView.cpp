@@ -77,11 +77,9 @@ void TagListView::editDidChange()
     m_editor->setPlaceholderText(L10n::text("标签名"));
     m_editor->setAccessibleName(m_editor->placeholderText());
     m_editor->setFont(NoteStyle::font());
-    m_editor->setStyleSheet(
-        QStringLiteral("background: %1; border: 1px solid %2; border-radius: %3px; padding: 0 %3px")
-            .arg(NoteStyle::color(palette(), Design::fieldGround).name(),
-                NoteStyle::color(palette(), Design::tagText).name())
-            .arg(Design::grid));
+    // On the row's own ground and within its outline, in place of the name.
+    m_editor->setStyleSheet(QStringLiteral("background: %1; border: none; padding: 0")
+                                .arg(NoteStyle::color(palette(), Design::editingGround).name()));
     m_editor->selectAll();
     // On Return or when the focus leaves, whichever comes first.
     connect(m_editor, &QLineEdit::editingFinished, this, [this, from = *renaming, editor = m_editor] {
@@ -115,7 +113,8 @@ void TagListView::didMoveRows()
         m_rename.setRenaming({}); // the tag is gone
         return;
     }
-    m_editor->setGeometry(rectOf(row).adjusted(Design::edge + 2 * Design::grid, 1, -Design::edge, -1));
+    const int sign = m_editor->fontMetrics().horizontalAdvance(u'#');
+    m_editor->setGeometry(rectOf(row).adjusted(Design::edge + sign, 3, -Design::edge, -3));
 }
 
 void TagListView::commitRename(const QString &from, const QString &to)
