@@ -27,7 +27,8 @@ QuilletApp::QuilletApp(Start start)
               ReminderDetector::prepare(m_clock, m_dateDetector);
               m_search.prepare();
               m_appearance.follow();
-              // After the tray has its icon, because this loads a library more.
+              // After the tray has its icon, because these load fonts and a library.
+              QToolTip::setFont(NoteStyle::quoteFont());
               QApplication::setWindowIcon(
                   QIcon(QStringLiteral(":/icons/%1.svg").arg(ApplicationIdentity::id)));
               auto *content =
@@ -87,7 +88,6 @@ void QuilletApp::applyAppearance()
                             ? isDarkByPalette
                             : m_appearance.scheme() == Appearance::Scheme::Dark;
     QApplication::setPalette(NoteStyle::palette(isDark));
-    QToolTip::setFont(NoteStyle::quoteFont());
 }
 
 void QuilletApp::presentMissedReminders()

@@ -105,8 +105,51 @@ protected:
                 changed.append(kept[number]);
             m_rows[int(number)] = rows[kept[number]];
         }
-        // What is new is inserted before what it replaces is removed, so that this can move there.
-        QList<Gap> gaps = gapsBetween(kept, int(rows.size()));
+        const QList<Gap> gaps = gapsBetween(kept, int(rows.size()));
+        if (gaps.size() == 1 && !isHeld(gaps.front()))
+            replace(gaps.front(), rows);
+        else
+            replaceAndMove(gaps, rows);
+        for (const int number : changed)
+            Q_EMIT dataChanged(index(number), index(number));
+    }
+
+private:
+    /// Rows that go, and rows that come in their place from @p start of the new ones.
+    struct Gap {
+        int first;
+        int removed;
+        int start;
+        int inserted;
+    };
+
+    /// Whether somebody has a persistent index of a row that goes.
+    [[nodiscard]] bool isHeld(const Gap &gap) const
+    {
+        const QModelIndexList held = persistentIndexList();
+        return std::any_of(held.begin(), held.end(), [&gap](const QModelIndex &index) {
+            return index.row() >= gap.first && index.row() < gap.first + gap.removed;
+        });
+    }
+
+    /// Without copying a row: a key may replace a hundred thousand.
+    void replace(const Gap &gap, const QList<Row> &rows)
+    {
+        if (gap.removed > 0) {
+            beginRemoveRows({}, gap.first, gap.first + gap.removed - 1);
+            m_rows.remove(gap.first, gap.removed);
+            endRemoveRows();
+        }
+        if (gap.inserted > 0) {
+            beginInsertRows({}, gap.first, gap.first + gap.inserted - 1);
+            m_rows = rows;
+            endInsertRows();
+        }
+    }
+
+    /// What is new is inserted before what it replaces is removed, so that this can move there.
+    void replaceAndMove(QList<Gap> gaps, const QList<Row> &rows)
+    {
         int shift = 0;
         for (Gap &gap : gaps) {
             gap.first += shift;
@@ -127,18 +170,7 @@ protected:
             m_rows.remove(gap->first, gap->removed);
             endRemoveRows();
         }
-        for (const int number : changed)
-            Q_EMIT dataChanged(index(number), index(number));
     }
-
-private:
-    /// Rows that go, and rows that come in their place from @p start of the new ones.
-    struct Gap {
-        int first;
-        int removed;
-        int start;
-        int inserted;
-    };
 
     static QList<Gap> gapsBetween(const std::vector<int> &kept, int count)
     {
