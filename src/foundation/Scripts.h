@@ -15,7 +15,8 @@ struct EastAsian {
 [[nodiscard]] EastAsian of(QStringView text);
 
 enum class HanForm { Either, Simplified, Traditional };
-/// By the characters that only one of both writes: 这 or 這. Those that both write, as 後 or 著, do not count.
+/// By the characters that only one of both writes: 这 or 這. Those that both write, as 後 or 著, do not
+/// count.
 [[nodiscard]] HanForm hanForm(QStringView text);
 
 [[nodiscard]] bool isHan(QChar character);
