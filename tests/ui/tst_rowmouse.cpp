@@ -46,7 +46,7 @@ private Q_SLOTS:
     void a_click_opens_the_address_or_filters_by_the_tag()
     {
         constexpr auto two = "看 https://a.example/x#top，https://b.example #家 #work";
-        constexpr auto link = "https://a.example/";
+        constexpr auto page = "https://a.example/";
         // the text, where in it the click is, the link of the note; nowhere is the line of the link
         const Table<4> table = {
             {two, "a.ex", "", "https://a.example/x#top"},
@@ -55,10 +55,10 @@ private Q_SLOTS:
             {two, "家", "", "#家"},
             {two, "看", "", ""},
             {"שלום https://a.example/ #תג", "תג", "", "#תג"},
-            {"页面", "", link, link},
+            {"页面", "", page, page},
             {"页面", "", "file:///tmp", "file:///tmp"},
             {"页面", "", "javascript:alert(1)", ""},
-            {link, "a.ex", link, link},
+            {page, "a.ex", page, page},
         };
         table.check([this](const QString &text, const QString &clicked, const QString &link) {
             TestPanel panel;
