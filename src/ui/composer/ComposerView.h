@@ -15,6 +15,9 @@ class DateDetecting;
 class NoteStore;
 class PageTitleFetching;
 class PanelState;
+class QInputMethodEvent;
+class QInputMethodQueryEvent;
+class QKeyEvent;
 class SuggestionList;
 
 /// The line that notes are written in, with completion and bars above it. Return saves the draft: as an edit,
